@@ -1,0 +1,67 @@
+#include "platform/file_system.h"
+
+#include "platform/letter_case.h"
+
+namespace zandor {
+
+namespace {
+
+// Not an ending that any pattern of simulator files matches, so a sibling left by a power cut is never read.
+constexpr std::string_view kSiblingEnding = "~new";
+
+bool moveIntoPlace(FileSystem& files, const std::string& sibling, std::string_view path,
+                   std::string_view bytes) {
+    return files.writeFile(sibling, bytes) && files.renameFile(sibling, path);
+}
+
+} // namespace
+
+bool replaceFile(FileSystem& files, std::string_view path, std::string_view bytes) {
+    if (GetFileName(path).empty() || files.attributes(path).readOnly)
+        return false;
+    const std::string sibling = std::string(path).append(kSiblingEnding);
+    if (moveIntoPlace(files, sibling, path, bytes))
+        return true;
+    files.deleteFile(sibling);
+    return false;
+}
+
+bool CopyFileOver(FileSystem& files, std::string_view source, std::string_view target) {
+    std::string bytes;
+    return files.readFile(source, bytes) && replaceFile(files, target, bytes);
+}
+
+std::vector<std::string> listFiles(FileSystem& files, std::string_view folder, std::string_view extension) {
+    std::vector<std::string> names;
+    for (FolderEntry& entry : files.listFolder(folder))
+        if (!entry.isFolder && endsWithIgnoringCase(entry.name, extension))
+            names.push_back(std::move(entry.name));
+    return names;
+}
+
+bool FileExists(FileSystem& files, std::string_view path) {
+    if (path.ends_with('\\'))
+        path.remove_suffix(1);
+    return files.fileExists(path);
+}
+
+bool FolderExists(FileSystem& files, std::string_view path) {
+    return !path.empty() && files.folderExists(AddBackslash(path));
+}
+
+std::string AddBackslash(std::string_view path) {
+    const std::size_t begin = path.find_first_not_of(' ');
+    if (begin == std::string_view::npos)
+        return "\\";
+    std::string ended(path.substr(begin, path.find_last_not_of(' ') + 1 - begin));
+    if (!ended.ends_with('\\'))
+        ended += '\\';
+    return ended;
+}
+
+std::string GetFileName(std::string_view path) {
+    const std::size_t separator = path.find_last_of("/\\");
+    return std::string(separator == std::string_view::npos ? path : path.substr(separator + 1));
+}
+
+} // namespace zandor

@@ -1,0 +1,61 @@
+// A disk in memory for tests. It can fail at any call, write short, or refuse everything from some call on.
+#pragma once
+
+#include "platform/file_system.h"
+
+#include <map>
+#include <string>
+#include <vector>
+
+namespace zandor {
+
+class MemoryFileSystem final : public FileSystem {
+  public:
+    // ---- what a test sets up and looks at
+    void put(std::string_view path, std::string_view bytes); // makes the folders it needs; no call is counted
+    std::optional<std::string> get(std::string_view path) const;
+    std::vector<std::string> allFiles() const; // spelled as made, in order
+
+    // The n-th call from now (1 is the next one) fails; 0 turns it off. Readers count too.
+    // With `andAllAfter` every later call fails as well.
+    void failAt(int call, bool andAllAfter = false);
+    // A failing write leaves this many of its bytes in the file, as a full disk does.
+    void writeShort(std::size_t bytes);
+    int calls() const { return calls_; } // since the last failAt()
+    bool failed() const { return failed_; }
+    std::vector<std::string> log; // one line a call: verb and path, for tests of the order of things
+
+    bool readFile(std::string_view path, std::string& bytes) override;
+    bool fileExists(std::string_view path) override;
+    bool folderExists(std::string_view path) override;
+    std::optional<FileStamp> stamp(std::string_view path) override;
+    std::vector<FolderEntry> listFolder(std::string_view path) override;
+    bool writeFile(std::string_view path, std::string_view bytes) override;
+    bool deleteFile(std::string_view path) override;
+    bool renameFile(std::string_view from, std::string_view to) override;
+    bool createFolder(std::string_view path) override;
+    bool deleteFolder(std::string_view path) override;
+    FileAttributes attributes(std::string_view path) override;
+    bool setAttributes(std::string_view path, FileAttributes attributes) override;
+    std::string nativePath(std::string_view path) override;
+
+  private:
+    struct Node {
+        std::string path; // as spelled when made
+        std::string bytes;
+        std::int64_t modified = 0;
+        bool isFolder = false;
+        FileAttributes attributes;
+    };
+    bool fails(std::string_view verb, std::string_view path);
+
+    std::map<std::string, Node> nodes_; // by normalised, lower-cased path
+    std::int64_t clock_ = 1;
+    int calls_ = 0;
+    int failCall_ = 0;
+    bool failAllAfter_ = false;
+    bool failed_ = false;
+    std::size_t shortBytes_ = 0;
+};
+
+} // namespace zandor

@@ -1,0 +1,286 @@
+#include "platform/real_file_system.h"
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <filesystem>
+#include <fstream>
+#include <stdlib.h>
+#include <thread>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace zandor {
+namespace {
+
+namespace disk = std::filesystem;
+using Names = std::vector<std::string>;
+
+// A folder of its own on the disk, and what another program would do in it.
+class RealDisk : public testing::Test {
+  protected:
+    RealDisk() {
+        std::string pattern = (disk::temp_directory_path() / "disk-XXXXXX").string();
+        root = mkdtemp(pattern.data());
+        files = makeRealFileSystem(root + "/prefix");
+    }
+    ~RealDisk() override { disk::remove_all(root); }
+
+    std::string native(const std::string& path) const { return root + "/" + path; }
+    void make(const std::string& path, const std::string& bytes = "x") const {
+        disk::create_directories(disk::path(native(path)).parent_path());
+        std::ofstream(native(path), std::ios::binary) << bytes;
+    }
+    std::string bytesOf(const std::string& path) const {
+        std::ifstream file(native(path), std::ios::binary);
+        return {std::istreambuf_iterator<char>(file), {}};
+    }
+    mode_t modeOf(const std::string& path) const {
+        struct stat info {};
+        stat(native(path).c_str(), &info);
+        return info.st_mode & 07777;
+    }
+    // The path as the simulator's files spell it.
+    std::string sim(std::string path) const {
+        path = root + "/" + path;
+        for (char& c : path)
+            c = c == '/' ? '\\' : c;
+        return path;
+    }
+    std::string read(const std::string& simPath) const {
+        std::string bytes = "rest of an earlier file";
+        const bool done = files->readFile(simPath, bytes);
+        EXPECT_TRUE(done || bytes.empty());
+        return done ? bytes : "(none)";
+    }
+    Names namesIn(const std::string& path) const {
+        Names names;
+        for (const FolderEntry& entry : files->listFolder(sim(path)))
+            names.push_back(entry.name + (entry.isFolder ? "/" : ""));
+        return names;
+    }
+    // Until a folder's time stamp tells a later change, so that its names are kept.
+    static void letSettle() { std::this_thread::sleep_for(std::chrono::milliseconds(70)); }
+
+    std::string root;
+    std::unique_ptr<FileSystem> files;
+};
+
+TEST_F(RealDisk, EverySpellingThatTheSimulatorKnowsFindsTheFile) {
+    make("Trains/Trainset/Été/Loco.eng");
+    const Names spellings = {"Trains/Trainset/Été/Loco.eng", "TRAINS/trainset/ÉTÉ/LOCO.ENG",
+                             "trains//trainset/été/./loco.ENG", "Trains/nowhere/../Trainset/été/Loco.eng",
+                             "TRAINS/Trainset/Été/../ÉTÉ/loco.eng"};
+    for (int round = 0; round < 2; ++round, letSettle())
+        for (const std::string& spelling : spellings) {
+            EXPECT_TRUE(files->fileExists(sim(spelling))) << spelling;
+            EXPECT_EQ(read(sim(spelling)), "x") << spelling;
+            EXPECT_EQ(read(root + "/" + spelling), "x") << spelling;
+            EXPECT_EQ(files->nativePath(sim(spelling)), native("Trains/Trainset/Été/Loco.eng"));
+        }
+    for (const char* other :
+         {"Trains/Trainset/Été", "Trains/Trainset/Été/Loc.eng", "Trains/Loco.eng/x", "No/Loco.eng"})
+        EXPECT_FALSE(files->fileExists(sim(other))) << other;
+    EXPECT_TRUE(files->folderExists(sim("TRAINS/trainset/") + "\\"));
+    EXPECT_FALSE(files->folderExists(sim("trains/trainset/été/loco.eng")));
+    EXPECT_FALSE(files->fileExists(sim("Trains/Trainset/Été/Loco.eng") + std::string("\0x", 2)));
+}
+
+TEST_F(RealDisk, ExactSpellingWins) {
+    make("a/File.con", "mixed");
+    make("a/file.con", "small");
+    make("A/other.con", "capital folder");
+    for (int round = 0; round < 2; ++round, letSettle()) {
+        EXPECT_EQ(read(sim("a/File.con")), "mixed");
+        EXPECT_EQ(read(sim("a/file.con")), "small");
+        EXPECT_EQ(read(sim("A/OTHER.CON")), "capital folder");
+        EXPECT_EQ(read(sim("a/other.con")), "(none)");
+    }
+}
+
+TEST_F(RealDisk, ChangesOfOtherProgramsAreSeenAtOnce) {
+    make("dir/a.txt");
+    for (int round = 0; round < 2; ++round, letSettle()) {
+        const std::string name = "New" + std::to_string(round) + ".txt";
+        const std::string asked = sim("DIR/NEW" + std::to_string(round) + ".TXT");
+        EXPECT_FALSE(files->fileExists(asked));
+        make("dir/" + name);
+        EXPECT_TRUE(files->fileExists(asked));
+        disk::rename(native("dir/" + name), native("dir/b.txt"));
+        EXPECT_FALSE(files->fileExists(asked));
+        EXPECT_EQ(namesIn("dir"), (Names{"a.txt", "b.txt"}));
+        disk::remove(native("dir/b.txt"));
+        EXPECT_FALSE(files->fileExists(sim("dir/B.TXT")));
+    }
+}
+
+TEST_F(RealDisk, OwnAndForeignChangesInTheSameMomentAreAllSeen) {
+    for (int i = 0; i < 50; ++i) {
+        const std::string number = std::to_string(i);
+        ASSERT_TRUE(files->writeFile(sim("own" + number), ""));
+        make("Foreign" + number);
+        ASSERT_TRUE(files->fileExists(sim("OWN" + number)));
+        ASSERT_TRUE(files->fileExists(sim("foreign" + number)));
+    }
+}
+
+TEST_F(RealDisk, RenamedFolderIsFoundUnderItsNewNameOnly) {
+    make("top/Old/a.txt");
+    EXPECT_EQ(read(sim("TOP/OLD/a.txt")), "x");
+    disk::rename(native("top"), native("Moved"));
+    EXPECT_EQ(read(sim("TOP/OLD/a.txt")), "(none)");
+    EXPECT_EQ(read(sim("moved/old/a.txt")), "x");
+    disk::rename(native("Moved"), native("Top"));
+    EXPECT_EQ(read(sim("TOP/OLD/a.txt")), "x");
+}
+
+TEST_F(RealDisk, NamesThatAreNotUtf8AreShownAsLatin1AndFoundAgain) {
+    make("dir/\xe9t\xe9.wag", "latin");
+    EXPECT_EQ(namesIn("dir"), Names{"été.wag"});
+    EXPECT_EQ(read(sim("dir/été.wag")), "latin");
+    EXPECT_EQ(read(sim("DIR/ÉTÉ.WAG")), "latin");
+    EXPECT_EQ(files->nativePath(sim("dir/ÉTÉ.wag")), native("dir/été.wag"));
+    EXPECT_TRUE(replaceFile(*files, sim("dir/Été.wag"), "new"));
+    EXPECT_EQ(bytesOf("dir/\xe9t\xe9.wag"), "new");
+    make("dir/été.wag", "utf-8");
+    EXPECT_EQ(read(sim("dir/été.wag")), "utf-8");
+}
+
+TEST_F(RealDisk, ListingIsOrderedAndFollowsLinks) {
+    for (const char* path : {"dir/b.txt", "dir/A.txt", "dir/_.txt", "dir/sub/x", "dir/É.txt", "dir/a.TXT"})
+        make(path);
+    disk::create_symlink("sub", native("dir/c"));
+    disk::create_symlink("b.txt", native("dir/d"));
+    const Names expected = {"A.txt", "a.TXT", "b.txt", "c/", "d", "sub/", "_.txt", "É.txt"};
+    EXPECT_EQ(namesIn("DIR"), expected);
+    letSettle();
+    EXPECT_EQ(namesIn("dir"), expected);
+    EXPECT_EQ(namesIn("dir"), expected);
+    EXPECT_TRUE(namesIn("none").empty());
+}
+
+TEST_F(RealDisk, DrivesAreThoseOfTheWinePrefix) {
+    make("prefix/drive_c/Program Files/a.txt", "on c");
+    disk::create_directories(native("prefix/dosdevices"));
+    disk::create_symlink("../drive_c", native("prefix/dosdevices/c:"));
+    for (const char* path :
+         {"C:\\Program Files\\a.txt", "c:/PROGRAM FILES/A.TXT", "C:\\..\\program files\\a.txt"})
+        EXPECT_EQ(read(path), "on c") << path;
+    EXPECT_TRUE(files->folderExists("C:\\"));
+    ASSERT_EQ(files->listFolder("C:\\").size(), 1u);
+    EXPECT_EQ(files->listFolder("C:").front().name, "Program Files");
+    EXPECT_EQ(files->nativePath("C:\\program files\\new.txt"),
+              disk::canonical(native("prefix/drive_c")).string() + "/Program Files/new.txt");
+    for (const char* path : {"D:\\", "Z:\\", "D:\\a.txt"})
+        EXPECT_FALSE(files->folderExists(path) || files->fileExists(path)) << path;
+    const auto without = makeRealFileSystem("");
+    EXPECT_TRUE(without->fileExists("Z:" + sim("prefix/DRIVE_C/program files/a.txt")));
+    EXPECT_FALSE(without->folderExists("C:\\"));
+}
+
+TEST_F(RealDisk, FilesOfEverySizeAreReadWhole) {
+    for (const std::size_t size : {0u, 1u, (1u << 20) - 1, 1u << 20, (1u << 20) + 1, 3u << 20}) {
+        std::string bytes(size, 'a');
+        for (std::size_t i = 0; i < size; i += 4093)
+            bytes[i] = static_cast<char>(i);
+        make("size.bin", bytes);
+        EXPECT_TRUE(read(sim("size.bin")) == bytes) << size;
+        EXPECT_EQ(files->stamp(sim("SIZE.bin"))->size, size);
+    }
+}
+
+TEST_F(RealDisk, OnlyPlainFilesAreReadable) {
+    disk::create_directory(native("folder"));
+    ASSERT_EQ(mkfifo(native("pipe").c_str(), 0600), 0);
+    disk::create_symlink("/dev/null", native("null"));
+    disk::create_symlink("/dev/zero", native("zero"));
+    disk::create_symlink("nowhere", native("broken"));
+    make("huge", "");
+    disk::resize_file(native("huge"), (std::uintmax_t(2) << 30) + 1);
+    for (int round = 0; round < 2; ++round) // the second one knows the folder
+        for (const char* name : {"folder", "pipe", "null", "zero", "broken", "huge"})
+            EXPECT_EQ(read(sim(name)), "(none)") << name;
+    for (const char* name : {"folder", "pipe", "zero", "broken"})
+        EXPECT_FALSE(files->fileExists(sim(name)) || files->stamp(sim(name))) << name;
+    EXPECT_FALSE(files->writeFile(sim("pipe"), "x"));
+}
+
+TEST_F(RealDisk, WritingKeepsTheSpellingOnTheDisk) {
+    make("Dir/Old.con", "old");
+    EXPECT_TRUE(files->writeFile(sim("DIR/OLD.CON"), "1"));
+    EXPECT_TRUE(files->writeFile(sim("dir/NEW.con"), "2"));
+    EXPECT_TRUE(replaceFile(*files, sim("dir/old.con"), "3"));
+    EXPECT_TRUE(replaceFile(*files, sim("dir/Replaced.Con"), "4"));
+    EXPECT_EQ(namesIn("Dir"), (Names{"NEW.con", "Old.con", "Replaced.Con"}));
+    EXPECT_EQ(bytesOf("Dir/Old.con"), "3");
+    EXPECT_TRUE(files->renameFile(sim("dir/new.con"), sim("dir/New.CON")));
+    EXPECT_TRUE(files->deleteFile(sim("dir/REPLACED.con")));
+    EXPECT_EQ(namesIn("Dir"), (Names{"New.CON", "Old.con"}));
+    EXPECT_FALSE(files->writeFile(sim("none/a.con"), ""));
+    EXPECT_FALSE(files->writeFile(sim("dir"), ""));
+    EXPECT_FALSE(files->deleteFile(sim("dir")));
+}
+
+TEST_F(RealDisk, ReplacingKeepsPermissionsAndLinks) {
+    make("real/target.con", "old");
+    chmod(native("real/target.con").c_str(), 0640);
+    disk::create_directory(native("links"));
+    disk::create_symlink("../real/target.con", native("links/a.con"));
+    EXPECT_TRUE(replaceFile(*files, sim("links/A.con"), "new"));
+    EXPECT_EQ(bytesOf("real/target.con"), "new");
+    EXPECT_EQ(modeOf("real/target.con"), 0640u);
+    EXPECT_TRUE(disk::is_symlink(native("links/a.con")));
+    EXPECT_EQ(namesIn("links"), Names{"a.con"});
+}
+
+TEST_F(RealDisk, LinkToAnotherDiskIsReplacedThere) {
+    std::string other = "/dev/shm/disk-XXXXXX";
+    struct stat own {
+    }, shared{};
+    if (stat(root.c_str(), &own) != 0 || stat("/dev/shm", &shared) != 0 || own.st_dev == shared.st_dev ||
+        !mkdtemp(other.data()))
+        GTEST_SKIP() << "no second disk";
+    std::ofstream(other + "/target.con") << "old";
+    disk::create_symlink(other + "/target.con", native("a.con"));
+    EXPECT_TRUE(replaceFile(*files, sim("a.con"), "new"));
+    EXPECT_EQ(read(other + "/target.con"), "new");
+    EXPECT_TRUE(disk::is_symlink(native("a.con")));
+    EXPECT_EQ(namesIn(""), Names{"a.con"});
+    EXPECT_EQ(files->listFolder(other).size(), 1u);
+    disk::remove_all(other);
+}
+
+TEST_F(RealDisk, ReadOnlyFilesAreLeftAlone) {
+    make("a.con", "old");
+    make("b.con", "other");
+    EXPECT_TRUE(files->setAttributes(sim("A.con"), {.readOnly = true}));
+    EXPECT_EQ(modeOf("a.con") & 0222, 0u);
+    EXPECT_TRUE(files->attributes(sim("a.con")).readOnly);
+    EXPECT_FALSE(files->writeFile(sim("a.con"), "new"));
+    EXPECT_FALSE(replaceFile(*files, sim("a.con"), "new"));
+    EXPECT_FALSE(files->renameFile(sim("b.con"), sim("a.con")));
+    EXPECT_FALSE(files->deleteFile(sim("a.con")));
+    EXPECT_EQ(bytesOf("a.con"), "old");
+    EXPECT_EQ(namesIn(""), (Names{"a.con", "b.con"}));
+    EXPECT_TRUE(files->setAttributes(sim("a.con"), {.readOnly = false}));
+    EXPECT_TRUE(replaceFile(*files, sim("a.con"), "new"));
+}
+
+TEST_F(RealDisk, FoldersAreMadeAndDeleted) {
+    EXPECT_TRUE(files->createFolder(sim("New")));
+    EXPECT_TRUE(files->createFolder(sim("NEW")));
+    EXPECT_FALSE(files->createFolder(sim("none/below")));
+    EXPECT_TRUE(files->writeFile(sim("new/a"), ""));
+    EXPECT_FALSE(files->deleteFolder(sim("new")));
+    EXPECT_TRUE(files->deleteFile(sim("new/A")));
+    EXPECT_TRUE(files->deleteFolder(sim("new")));
+    EXPECT_FALSE(files->folderExists(sim("New")));
+    EXPECT_FALSE(files->writeFile(sim("new/a"), ""));
+    make("file");
+    EXPECT_FALSE(files->createFolder(sim("FILE")));
+    EXPECT_FALSE(files->deleteFolder(sim("file")));
+}
+
+} // namespace
+} // namespace zandor

@@ -1,0 +1,87 @@
+#include "platform/memory_file_system.h"
+#include "platform/system.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <map>
+#include <optional>
+#include <stdlib.h>
+
+namespace zandor {
+namespace {
+
+namespace disk = std::filesystem;
+
+// Sets variables of the environment, and puts the old ones back.
+class SystemTest : public testing::Test {
+  protected:
+    SystemTest() {
+        std::string pattern = (disk::temp_directory_path() / "system-XXXXXX").string();
+        root = mkdtemp(pattern.data());
+    }
+    ~SystemTest() override {
+        for (const auto& [name, value] : old)
+            value ? setenv(name.c_str(), value->c_str(), 1) : unsetenv(name.c_str());
+        disk::remove_all(root);
+    }
+    void set(const std::string& name, const std::string& value) {
+        const char* before = getenv(name.c_str());
+        old.try_emplace(name, before ? std::optional<std::string>(before) : std::nullopt);
+        setenv(name.c_str(), value.c_str(), 1);
+    }
+
+    std::string root;
+    std::map<std::string, std::optional<std::string>> old;
+};
+
+TEST_F(SystemTest, WinePrefixIsTheNamedOneElseTheUsualOne) {
+    set("HOME", root);
+    set("WINEPREFIX", "");
+    EXPECT_EQ(winePrefixFolder(), "");
+    disk::create_directory(root + "/.wine");
+    EXPECT_EQ(winePrefixFolder(), root + "/.wine");
+    set("WINEPREFIX", root + "/other/");
+    EXPECT_EQ(winePrefixFolder(), root + "/other");
+}
+
+TEST_F(SystemTest, ProgramFolderIsMade) {
+    set("ZANDOR_HOME", root + "/deep/home/");
+    const ProgramFolders folders = findProgramFolders();
+    EXPECT_EQ(folders.program, root + "/deep/home");
+    EXPECT_TRUE(disk::is_directory(folders.program));
+    EXPECT_TRUE(disk::exists(folders.executable + "/" + folders.executableName));
+}
+
+TEST_F(SystemTest, TempFolderLosesOneSeparator) {
+    const std::pair<const char*, const char*> cases[] = {
+        {"/a/B/", "/a/B"}, {"/a", "/a"}, {"/", "/"}, {"", "/tmp"}};
+    for (const auto& [variable, folder] : cases) {
+        set("TMPDIR", variable);
+        EXPECT_EQ(GetTempFolder(), folder);
+    }
+}
+
+TEST(ExpandLongPath, OnlyRelativePathsChange) {
+    const std::string here = disk::current_path().string();
+    for (const char* path : {"", "/a/b.con", "\\a\\b.con", "C:\\a.con", "z:x"})
+        EXPECT_EQ(ExpandLongPath(path), path);
+    EXPECT_EQ(ExpandLongPath("./x/../b.con"), here + "/b.con");
+    EXPECT_EQ(ExpandLongPath("x\\b.con"), here + "/x\\b.con");
+}
+
+TEST(ShippedFile, IsCopiedOnceAndNeverOver) {
+    MemoryFileSystem files;
+    const ProgramFolders folders{"/home/me/zandor", "/usr/bin", "zandor"};
+    EXPECT_FALSE(provideShippedFile(files, folders, "Langues.lng"));
+    files.put("/usr/bin/Langues.lng", "shipped");
+    files.put("/home/me/zandor/other", "");
+    EXPECT_TRUE(provideShippedFile(files, folders, "Langues.lng"));
+    EXPECT_EQ(files.get("/home/me/zandor/Langues.lng"), "shipped");
+    files.put("/home/me/zandor/langues.lng", "my own");
+    EXPECT_TRUE(provideShippedFile(files, folders, "Langues.lng"));
+    EXPECT_EQ(files.get("/home/me/zandor/Langues.lng"), "my own");
+}
+
+} // namespace
+} // namespace zandor
