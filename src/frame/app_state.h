@@ -1,0 +1,37 @@
+// The run-wide state that every module reads: flags, often-read settings, folders and file paths.
+#pragma once
+
+#include <string>
+
+namespace zandor {
+
+struct AppState {
+    bool Modified = false; // the consist under edit has unsaved changes
+    bool HasFile = false;  // it came from a file or was saved to one
+    bool PrintNumber = false;
+    bool PrintName = false;
+    bool SplashUp = false;
+    bool ProgressUp = false;
+    bool MainReady = false; // the main window has finished its load
+    bool Busy = false;      // a load or reload is running
+    bool EditingMstsPath = false;
+    bool NoAlertCoupling = false;
+    bool PrintGreen = false;
+    bool Optimize = false;
+    bool UseCanvas = false; // setting sfCanvas
+    bool PassIsBadCoupling = false;
+    std::string Title;
+    std::string ExePath;
+    std::string LastAnswer;    // as a decimal text
+    std::string ProgramFolder; // without a trailing separator; the settings file stands here
+    std::string RootMSTS, RootTStore, RootPrimary, RootSecondary; // without a trailing "\"; may be empty
+    std::string BackupDir;      // with a trailing "\"
+    std::string ConsistFolder;  // where the consist under edit is saved; with a trailing "\"
+    std::string ProgramFilesDir;
+    std::string IniPath;
+    std::string Language;
+    std::string LanguagePath;
+    std::string HelpFile; // empty: none
+};
+
+} // namespace zandor

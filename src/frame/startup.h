@@ -1,0 +1,40 @@
+// Start and close of a run, apart from the windows that drive them.
+#pragma once
+
+#include "frame/frame.h"
+#include "platform/system.h"
+
+#include <string>
+
+namespace zandor {
+
+inline constexpr int VersionMajor = 1, VersionMinor = 0, VersionRevision = 0;
+std::string makeTitle(); // "Zandor 1.00": major, ".", minor and revision without a separator
+
+// The only text that isn't in the language file.
+inline constexpr std::string_view LanguageFileMissing =
+    "L'application ne peut démarrer car le fichier de langues n'a pas été trouvé !";
+
+// Title, settings path, language file and language. False: the language file is missing and the process must end.
+bool prepareStart(Frame& frame, const ProgramFolders& folders);
+
+// Reads or writes the settings that are copied to AppState, cleans up after an installation, sets the backup folder.
+// The first steps of the main window's load, in their order.
+void loadSettings(Frame& frame, const ProgramFolders& folders);
+
+// Finds both root folders: settings, then the registry, then the user. False: the user cancelled, and was told that
+// the system does not run without the simulator's folder.
+bool findRoots(Frame& frame);
+// RootPrimary and RootSecondary from RootMSTS, RootTStore and the setting InitialiseMSTS.
+void assignRoots(Frame& frame);
+
+// The `.con` of the command line, cleaned and made absolute; empty when it isn't an existing consist file.
+std::string consistFromCommandLine(Frame& frame, std::string_view argument);
+
+// True when there are unsaved changes and the user wants them saved.
+bool AskSaveChanges(Frame& frame, const std::string& consistName);
+
+// The three keys that a close writes.
+void writeClosingSettings(Frame& frame);
+
+} // namespace zandor
