@@ -1,0 +1,186 @@
+#include "simfiles/consist_file.h"
+
+#include "text/decode.h"
+#include "text/text.h"
+
+namespace zandor {
+
+namespace {
+
+enum class Block { Other, TrainCfg, Engine, Wagon, EngineVariables };
+
+Block blockOf(std::string_view path) {
+    const std::string block = StripOccurrence(path);
+    if (equalIgnoringCase(block, "Train\\TrainCfg"))
+        return Block::TrainCfg;
+    if (equalIgnoringCase(block, "Train\\TrainCfg\\Engine"))
+        return Block::Engine;
+    if (equalIgnoringCase(block, "Train\\TrainCfg\\Wagon"))
+        return Block::Wagon;
+    if (equalIgnoringCase(block, "Train\\TrainCfg\\Engine\\EngineVariables"))
+        return Block::EngineVariables;
+    return Block::Other;
+}
+
+void takeTrainKey(const SimKey& key, Rame& rame) {
+    const auto is = [&key](std::string_view name) { return equalIgnoringCase(key.Key, name); };
+    if (key.Key.empty())
+        rame.CfgName = StripQuotes(key.Value);
+    else if (is("Name"))
+        rame.Name = StripQuotes(key.Value);
+    else if (is("Serial"))
+        rame.Serial = numericInt16(key.Value);
+    else if (is("Default"))
+        rame.DefaultKey = std::string(key.Key) + "( )";
+    else if (is("MaxVelocity"))
+        rame.MaxVelocity = StripQuotes(key.Value);
+    else if (is("NextWagonUID"))
+        rame.NextWagonUID = numericInt16(key.Value);
+    else if (is("Durability"))
+        rame.Durability = StripQuotes(key.Value);
+}
+
+// The last slot, or a new one behind it when a vehicle stands there.
+void beginVehicle(std::vector<RameItem>& items, bool isEngine) {
+    if (!items.back().Name.empty())
+        items.emplace_back();
+    items.back() = RameItem();
+    items.back().IsEngine = isEngine;
+}
+
+void takeVariables(std::string_view name, std::string_view value, RameItem& item) {
+    item.EngineVariables = std::string(name) + "(" + (value.empty() ? " " : std::string(value)) + ")";
+}
+
+void takeVehicleKey(const SimKey& key, bool inEngine, std::vector<RameItem>& items) {
+    const auto is = [&key](std::string_view name) { return equalIgnoringCase(key.Key, name); };
+    if (key.Key.empty())
+        beginVehicle(items, inEngine);
+    else if (is("Flip"))
+        items.back().Flip = true;
+    else if (is("UiD"))
+        items.back().UiD = numericInt16(key.Value);
+    else if (inEngine && is("EngineVariables"))
+        takeVariables(key.Key, key.Value, items.back());
+    else if (is(inEngine ? "EngineData" : "WagonData"))
+        splitVehicleData(key.Value, items.back().Name, items.back().Folder);
+}
+
+void addLine(std::string& text, int tabs, std::string_view line) {
+    text.append(static_cast<std::size_t>(tabs), '\t');
+    text += line;
+    text += "\r\n";
+}
+
+void addKey(std::string& text, int tabs, std::string_view key, std::string_view value) {
+    addLine(text, tabs, std::string(key) + " ( " + std::string(value) + " )");
+}
+
+void addVehicle(std::string& text, const VehicleLines& vehicle) {
+    const std::string data = quotedName(vehicle.stockName) + " " + quotedName(vehicle.folder);
+    const std::string number = std::to_string(vehicle.number);
+    addLine(text, 2, vehicle.isEngine ? "Engine (" : "Wagon (");
+    if (vehicle.isEngine) {
+        if (vehicle.flipped)
+            addLine(text, 3, "Flip ( )");
+        addKey(text, 3, "UiD", number);
+        addKey(text, 3, "EngineData", data);
+        if (!vehicle.engineVariables.empty())
+            addLine(text, 3, vehicle.engineVariables);
+    } else {
+        addKey(text, 3, "WagonData", data);
+        addKey(text, 3, "UiD", number);
+        if (vehicle.flipped)
+            addLine(text, 3, "Flip ( )");
+    }
+    addLine(text, 2, ")");
+}
+
+} // namespace
+
+void splitVehicleData(std::string_view value, std::string& name, std::string& folder) {
+    std::size_t split = 0; // where the folder's text begins
+    if (!value.empty() && value.front() == '"') {
+        const std::size_t quote = value.find('"', 1);
+        if (quote == std::string_view::npos || quote < 2) {
+            split = value.find(' ');
+            if (split == std::string_view::npos)
+                split = 1;
+        } else {
+            split = quote;
+        }
+        name = value.substr(1, split - 1);
+    } else {
+        split = value.find(' ');
+        if (split == std::string_view::npos)
+            split = 0;
+        name = value.substr(0, split);
+    }
+    folder = CleanValue(name.empty() ? value : value.substr(split + 1));
+}
+
+std::optional<SimError> ReadConsistFile(SimReader& reader, Rame& rame, std::vector<RameItem>& items,
+                                        std::string_view path, double durability) {
+    items.assign(1, {});
+    rame = Rame();
+    rame.Durability = formatDurability(durability);
+    rame.MaxVelocity = EngineMaxVelocity;
+    rame.FileName = GetFileName(path);
+    reader.ReadSimFile(path, "", "", 1, false, false);
+
+    int lastPath = -1;
+    Block block = Block::Other;
+    for (const SimKey& key : reader.SimKeys) {
+        if (key.Path.empty())
+            continue;
+        if (key.pathId != lastPath) {
+            block = blockOf(key.Path);
+            lastPath = key.pathId;
+        }
+        if (block == Block::TrainCfg)
+            takeTrainKey(key, rame);
+        else if (block == Block::Engine || block == Block::Wagon)
+            takeVehicleKey(key, block == Block::Engine, items);
+        else if (block == Block::EngineVariables && key.Key.empty()) // its numbers stand on several lines
+            takeVariables("EngineVariables", key.Value, items.back());
+    }
+    if (rame.Name.empty())
+        rame.Name = rame.CfgName;
+    return reader.error;
+}
+
+std::string quotedName(std::string_view name) {
+    const bool needed = name.find_first_of(" ()") != std::string_view::npos;
+    return needed ? '"' + std::string(name) + '"' : std::string(name);
+}
+
+std::string buildConsistText(const Rame& rame, const std::vector<VehicleLines>& vehicles) {
+    std::string text;
+    text.reserve(512 + vehicles.size() * 96);
+    addLine(text, 0, ConsistSignature);
+    addLine(text, 0, "");
+    addLine(text, 0, "Train (");
+    addLine(text, 1, "TrainCfg ( " + rame.CfgName);
+    addKey(text, 2, "Name", '"' + rame.Name + '"');
+    if (rame.Serial > 0)
+        addKey(text, 2, "Serial", std::to_string(rame.Serial));
+    if (!rame.DefaultKey.empty())
+        addLine(text, 2, rame.DefaultKey);
+    addKey(text, 2, "MaxVelocity", rame.MaxVelocity);
+    addKey(text, 2, "NextWagonUID", std::to_string(rame.NextWagonUID));
+    std::string durability = rame.Durability;
+    if (const std::size_t comma = durability.find(','); comma != std::string::npos)
+        durability[comma] = '.';
+    addKey(text, 2, "Durability", durability);
+    for (const VehicleLines& vehicle : vehicles)
+        addVehicle(text, vehicle);
+    addLine(text, 1, ")");
+    addLine(text, 0, ")");
+    return text;
+}
+
+std::string encodeConsist(std::string_view text) {
+    return encodeText(text, TextEncoding::Utf16);
+}
+
+} // namespace zandor

@@ -1,0 +1,57 @@
+#include "simfiles/sim_keys.h"
+
+#include "text/text.h"
+
+#include <algorithm>
+#include <array>
+
+namespace zandor {
+
+namespace {
+
+constexpr std::array<std::string_view, 3> CommentedBlocks{"engine", "wagon", "wagon\\inside"};
+
+// Keys whose values are names, texts or files, in which "#" is an ordinary character.
+constexpr std::array<std::string_view, 11> UncommentedKeys{"passengercabinfile",
+                                                           "engineoperatingprocedures",
+                                                           "skip",
+                                                           "description",
+                                                           "comment",
+                                                           "freightanim",
+                                                           "cabview",
+                                                           "wagonshape",
+                                                           "shape",
+                                                           "name",
+                                                           "wagon"};
+
+template <std::size_t N> bool isOneOf(std::string_view text, const std::array<std::string_view, N>& names) {
+    return std::any_of(names.begin(), names.end(),
+                       [text](std::string_view name) { return equalIgnoringCase(text, name); });
+}
+
+} // namespace
+
+std::string StripOccurrence(std::string_view path) {
+    std::string result;
+    for (;;) {
+        const std::size_t marker = path.find(OccurrenceMarker);
+        result += path.substr(0, marker);
+        if (marker == std::string_view::npos)
+            return result;
+        const std::size_t slash = path.find('\\', marker);
+        if (slash == std::string_view::npos)
+            return result;
+        path.remove_prefix(slash);
+    }
+}
+
+bool commentRuleApplies(std::string_view path, std::string_view key) {
+    return !key.empty() && isOneOf(path, CommentedBlocks) && !isOneOf(key, UncommentedKeys);
+}
+
+std::string_view cutComment(std::string_view value) {
+    const std::size_t hash = value.find('#', 1);
+    return hash == std::string_view::npos ? value : trim(value.substr(0, hash));
+}
+
+} // namespace zandor

@@ -1,0 +1,42 @@
+// The parsed form of a simulator text file.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace zandor {
+
+// One key of a file. The texts live in the reader that parsed them, until its next read.
+struct SimKey {
+    std::string_view Path;  // the block, components joined by "\", as spelled; may hold occurrence markers
+    std::string_view Key;   // empty on the record that a block's opening makes
+    std::string_view Value; // between the brackets, trimmed, quotes kept
+    std::string_view Tail;  // the source text that the value came from
+    int Line = 0;           // from 1
+    // A handle of Path for callers that compare many records: equal paths of one read share it. From 0.
+    int pathId = 0;
+};
+
+// One key that a read was asked for.
+struct SimHit {
+    int FirstLine = 0; // from 1; for a Description, the line that holds its bracket
+    int LastLine = 0;  // for a Description, the line at which it was complete; otherwise 0
+    std::string Path;  // as asked for
+    std::string Key;   // as asked for
+    std::string Tail;
+    std::string Value; // cut at "#" where the comment rule applies
+    bool Found = false;
+};
+
+// Two blocks of one name in one parent are kept apart by this marker and a number behind the name.
+inline constexpr std::string_view OccurrenceMarker = "£¤@";
+
+// Without the occurrence markers and their numbers.
+std::string StripOccurrence(std::string_view path);
+
+// The comment rule of stock files: a "#" behind the first character of a value ends it, in the blocks engine,
+// wagon and wagon\inside, except for keys that hold names, texts or files.
+bool commentRuleApplies(std::string_view path, std::string_view key); // path without markers; any case
+std::string_view cutComment(std::string_view value);
+
+} // namespace zandor

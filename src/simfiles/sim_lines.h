@@ -1,0 +1,26 @@
+// The lines of a simulator text file as the parser wants them. Each character is looked at once while they
+// are cut, and again only where a line isn't a plain key.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace zandor {
+
+// One line, tabs turned into blanks and both ends trimmed, with what its brackets look like.
+struct SimLine {
+    std::string_view text;
+    int firstOpen = -1;  // byte offset of the first "(" in text
+    int firstClose = -1; // of the first ")"
+    bool severalOpen = false;
+    bool severalClose = false;
+    bool hasQuote = false;
+};
+
+// Cuts a decoded text into lines at CR, CR LF or LF; tabs in `text` are replaced in place. Element 0 and 1
+// are blank: lines count from 1 and the first is the signature, which is returned. A line that lacks
+// `keepOnly` (lower case, case ignored) becomes blank; empty keeps all.
+std::string_view cutLines(std::string& text, std::string_view keepOnly, std::vector<SimLine>& lines);
+
+} // namespace zandor

@@ -1,0 +1,179 @@
+#include "simfiles/stock_reader.h"
+
+#include "simfiles/coupling_fields.h"
+#include "text/decode.h"
+#include "text/lines.h"
+#include "text/text.h"
+
+#include <array>
+
+namespace zandor {
+
+namespace {
+
+enum class Block { Other, Wagon, Coupling, Engine };
+
+// One component of a path, without its occurrence marker.
+std::string_view withoutMarker(std::string_view component) {
+    return component.substr(0, component.find(OccurrenceMarker));
+}
+
+bool isName(std::string_view text, std::string_view name) {
+    return text.size() == name.size() && equalIgnoringCase(text, name);
+}
+
+Block blockOf(std::string_view path) {
+    const std::size_t slash = path.find('\\');
+    const std::string_view top = withoutMarker(path.substr(0, slash));
+    if (slash == std::string_view::npos)
+        return isName(top, "wagon") ? Block::Wagon : isName(top, "engine") ? Block::Engine : Block::Other;
+    const std::string_view below = path.substr(slash + 1);
+    if (!isName(top, "wagon") || below.find('\\') != std::string_view::npos)
+        return Block::Other;
+    return isName(withoutMarker(below), "coupling") ? Block::Coupling : Block::Other;
+}
+
+using Field = std::string Materiel::*;
+struct FieldRow {
+    Block block;
+    std::string_view key;
+    Field field;
+};
+constexpr std::array<FieldRow, 10> Fields{{
+    {Block::Wagon, "type", &Materiel::Type},
+    {Block::Wagon, "size", &Materiel::Size},
+    {Block::Wagon, "mass", &Materiel::Mass},
+    {Block::Wagon, "", &Materiel::WagonName},
+    {Block::Wagon, "name", &Materiel::EngineName},
+    {Block::Wagon, "brakesystemtype", &Materiel::BrakeSystem},
+    {Block::Engine, "name", &Materiel::EngineName},
+    {Block::Engine, "type", &Materiel::EngineType},
+    {Block::Engine, "maxpower", &Materiel::MaxPower},
+    {Block::Engine, "cabview", &Materiel::CabView},
+}};
+constexpr std::array<Field, 11> ReadFields{
+    &Materiel::Type,       &Materiel::Size,           &Materiel::Mass,       &Materiel::WagonName,
+    &Materiel::EngineName, &Materiel::EngineType,     &Materiel::MaxPower,   &Materiel::CabView,
+    &Materiel::Coupling,   &Materiel::CouplingUnique, &Materiel::BrakeSystem};
+
+void takeCouplingKey(const SimKey& key, Materiel& materiel) {
+    if (equalIgnoringCase(key.Key, "type"))
+        addCouplingType(materiel, StripQuotes(key.Value));
+    else if (equalIgnoringCase(key.Key, "couplinguniquetype"))
+        setCouplingUnique(materiel, StripQuotes(key.Value));
+}
+
+void takeKey(const SimKey& key, Block block, Materiel& materiel) {
+    for (const FieldRow& row : Fields) {
+        if (row.block != block || !isName(key.Key, row.key))
+            continue;
+        const bool comment = commentRuleApplies(block == Block::Engine ? "engine" : "wagon", key.Key);
+        materiel.*row.field = StripQuotes(comment ? cutComment(key.Value) : key.Value);
+        return;
+    }
+}
+
+struct NeededKey {
+    Field field;
+    std::string_view path;
+};
+constexpr std::array<NeededKey, 4> NeededKeys{{{&Materiel::Coupling, "Wagon\\Coupling\\Type"},
+                                               {&Materiel::Mass, "Wagon\\Mass"},
+                                               {&Materiel::Size, "Wagon\\Size"},
+                                               {&Materiel::Type, "Wagon\\Type"}}};
+
+std::optional<SimError> findMissingKey(const SimReader& reader, std::string_view path,
+                                       const Materiel& materiel) {
+    for (const NeededKey& needed : NeededKeys)
+        if ((materiel.*needed.field).empty())
+            return SimError{
+                MissingStockKeyError, std::string(path),
+                reader.language().GetLangText(Message::MissingStockKey,
+                                              {{"|1", "\r\n"}, {"|2", needed.path}, {"|3", "\r\n"}})};
+    return std::nullopt;
+}
+
+// The first name stays, unless one stands a few lines behind the shape, where the simulator looks for it.
+WagonNameLine nameThatStays(const std::vector<WagonNameLine>& names, int shapeLine) {
+    WagonNameLine stays = names.front();
+    for (const WagonNameLine& name : names)
+        if (shapeLine > 0 && name.line > shapeLine && name.line - shapeLine < 8)
+            stays = name;
+    return stays;
+}
+
+bool isSurplus(const std::vector<WagonNameLine>& names, int line, int stays) {
+    for (const WagonNameLine& name : names)
+        if (name.line == line && line != stays)
+            return true;
+    return false;
+}
+
+bool rewriteNames(FileSystem& files, std::string_view path, const std::vector<WagonNameLine>& names,
+                  int stays) {
+    std::string bytes, text;
+    if (!files.readFile(path, bytes))
+        return false;
+    decodeSimulatorText(bytes, text);
+    std::string result;
+    int number = 0;
+    forEachLine(text, [&](std::string_view line) {
+        ++number;
+        if (isSurplus(names, number, stays))
+            return;
+        result.append(number == 1 ? ConsistSignature : line).append("\r\n");
+    });
+    const FileAttributes attributes = files.attributes(path);
+    if (attributes.readOnly)
+        files.setAttributes(path, {});
+    const bool written = replaceFile(files, path, encodeText(result, TextEncoding::Utf16));
+    if (attributes.readOnly)
+        files.setAttributes(path, attributes);
+    return written;
+}
+
+} // namespace
+
+StockReading ReadStockFile(SimReader& reader, std::string_view path, Materiel& materiel, NameRepair repair) {
+    StockReading reading;
+    if (!reader.ReadSimFile(path, "", "", 1, false, false)) {
+        reading.error = reader.error;
+        return reading;
+    }
+    for (Field field : ReadFields)
+        (materiel.*field).clear();
+    const bool isWagonFile = kindOfFile(path) == FileKind::Wagon;
+    int shapeLine = 0;
+    int lastPath = -1;
+    Block block = Block::Other;
+    for (const SimKey& key : reader.SimKeys) {
+        if (key.pathId != lastPath) {
+            block = blockOf(key.Path);
+            lastPath = key.pathId;
+        }
+        if (block == Block::Other)
+            continue;
+        if (block == Block::Coupling) {
+            takeCouplingKey(key, materiel);
+            continue;
+        }
+        takeKey(key, block, materiel);
+        if (!isWagonFile || block != Block::Wagon)
+            continue;
+        if (equalIgnoringCase(key.Key, "name"))
+            reading.wagonNames.push_back({key.Line, std::string(StripQuotes(key.Value))});
+        else if (equalIgnoringCase(key.Key, "wagonshape"))
+            shapeLine = key.Line;
+    }
+    reading.error = findMissingKey(reader, path, materiel);
+    reading.needsRepair = reading.wagonNames.size() > 1;
+    if (reading.error || !reading.needsRepair)
+        return reading;
+    const WagonNameLine stays = nameThatStays(reading.wagonNames, shapeLine);
+    materiel.EngineName = stays.text;
+    if (repair == NameRepair::Allowed)
+        reading.repaired = rewriteNames(reader.files(), path, reading.wagonNames, stays.line);
+    return reading;
+}
+
+} // namespace zandor

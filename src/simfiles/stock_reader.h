@@ -1,0 +1,38 @@
+// The two readers of stock files: the full one through the parser, the quick one by how lines begin.
+#pragma once
+
+#include "simfiles/materiel.h"
+#include "simfiles/sim_file.h"
+
+#include <optional>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace zandor {
+
+// A Name key in the wagon block of a .wag file.
+struct WagonNameLine {
+    int line = 0; // from 1
+    std::string text;
+};
+
+enum class NameRepair { Allowed, Never };
+
+struct StockReading {
+    std::optional<SimError> error; // 10001: a wagon key is missing; or what the gate raised
+    std::vector<WagonNameLine> wagonNames;
+    bool needsRepair = false; // a .wag with several Name keys
+    bool repaired = false;
+};
+
+// Fills the fields of `materiel`; a file whose signature doesn't fit leaves it as it was. With Allowed, a
+// .wag with several Name keys is rewritten on the spot with the one that stays; its attributes are kept.
+StockReading ReadStockFile(SimReader& reader, std::string_view path, Materiel& materiel,
+                           NameRepair repair = NameRepair::Allowed);
+
+// Reads BasePath + Folder + "\" + FileName. No signature test; sees one key a line; an error ends the read
+// with what was read so far.
+void QuickReadStock(FileSystem& files, Materiel& materiel);
+
+} // namespace zandor

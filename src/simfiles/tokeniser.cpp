@@ -1,0 +1,553 @@
+#include "simfiles/tokeniser.h"
+
+#include "simfiles/stock_keys.h"
+#include "text/text.h"
+
+#include <algorithm>
+#include <charconv>
+
+namespace zandor {
+
+namespace {
+
+bool hasMarker(std::string_view path) {
+    return path.find(OccurrenceMarker) != std::string_view::npos;
+}
+
+// The same as trim(), where the compiler can see it: the hot path.
+inline std::string_view trimmed(std::string_view text) {
+    while (!text.empty() && text.front() == ' ')
+        text.remove_prefix(1);
+    while (!text.empty() && text.back() == ' ')
+        text.remove_suffix(1);
+    return text;
+}
+
+// No real file comes near it; a file of garbage that opens a block on every line must not grow with the
+// square.
+constexpr std::size_t MaxPathLength = 1024;
+
+std::string_view lastComponent(std::string_view path) {
+    const std::size_t slash = path.rfind('\\');
+    return slash == std::string_view::npos ? path : path.substr(slash + 1);
+}
+
+// The path of the block above; empty for a block at the top.
+std::string_view parentOf(std::string_view path, std::size_t leafLength) {
+    return path.size() > leafLength ? path.substr(0, path.size() - leafLength - 1) : std::string_view();
+}
+
+bool endsInPlus(std::string_view text) {
+    return !text.empty() && text.back() == '+';
+}
+
+// A value that begins with the misspelt default marker counts from behind it.
+std::string_view withoutDefault(std::string_view value) {
+    constexpr std::string_view marker = "defaut";
+    if (value.empty() || (value[0] | 0x20) != 'd' || !beginsWithIgnoringCase(value, marker))
+        return value;
+    return value.size() > marker.size() + 2 ? trim(value.substr(marker.size() + 2)) : std::string_view();
+}
+
+// Position behind the first run of two blanks in `text`, or npos.
+std::size_t behindTwoBlanks(std::string_view text) {
+    const std::size_t run = text.find("  ");
+    return run == std::string_view::npos ? run : text.find_first_not_of(' ', run);
+}
+
+} // namespace
+
+Tokeniser::Tokeniser(std::vector<SimKey>& keys, std::vector<SimHit>& hits, TextArena& arena)
+    : keys_(keys), hits_(hits), arena_(arena) {}
+
+Tokeniser::Outcome Tokeniser::run(const std::vector<SimLine>& lines, const SearchRequest& request,
+                                  bool isConsist) {
+    lines_ = &lines;
+    request_ = request;
+    searching_ = request.stockMode || !request.section.empty() || !request.key.empty();
+    paths_.clear();
+    table_.assign(256, -1);
+    deepBlocks_ = 0;
+    path_.clear();
+    leafLength_ = 0;
+    pathId_ = -1;
+    quotedIn_ = -1;
+    joining_ = false;
+    skipLine_ = 0;
+    stockSeen_ = 0;
+    keys_[0].pathId = internPath({});
+
+    bool waiting = !request.stockMode && equalIgnoringCase(request.section, "engine");
+    Outcome outcome;
+    for (lineNumber_ = 1; lineNumber_ < lines.size(); ++lineNumber_) {
+        const SimLine& line = lines[lineNumber_];
+        if (line.text.empty() || lineNumber_ == skipLine_)
+            continue;
+        if (waiting && !beginsWithIgnoringCase(line.text, "engine"))
+            continue;
+        waiting = false;
+        if (isConsist && (line.firstOpen < 0 || line.firstClose < 0) &&
+            (beginsWithIgnoringCase(line.text, "EngineData") ||
+             beginsWithIgnoringCase(line.text, "WagonData"))) {
+            settleValue();
+            outcome.badLine = static_cast<int>(lineNumber_);
+            outcome.closeMissing = line.firstOpen >= 0;
+            return outcome;
+        }
+        if (plainLine(line)) {
+            settleValue();
+            outcome.found = true;
+            return outcome;
+        }
+    }
+    settleValue();
+    if (searching_ && !request.stockMode && request.count != 1)
+        outcome.found = finalPass();
+    else if (request.stockMode)
+        outcome.found = hits_[0].Found;
+    return outcome;
+}
+
+// The common forms, whose brackets the cutter has already found; everything else goes the long way.
+bool Tokeniser::plainLine(const SimLine& line) {
+    if (!line.hasQuote && !line.severalOpen && !line.severalClose && line.firstOpen > 0) {
+        const auto open = static_cast<std::size_t>(line.firstOpen);
+        const std::string_view name = trimmed(line.text.substr(0, open));
+        if (line.firstClose < 0)
+            return openBlock(name, trimmed(line.text.substr(open + 1)), line.text);
+        const auto close = static_cast<std::size_t>(line.firstClose);
+        if (close > open && close + 1 == line.text.size()) {
+            addRecord(currentPath(), name, trimmed(line.text.substr(open + 1, close - open - 1)), line.text);
+            return matchLast();
+        }
+    }
+    return workLine(line.text);
+}
+
+bool Tokeniser::workLine(std::string_view line) {
+    closingKnown_ = false;
+    for (line = trim(line); !line.empty(); line = trim(line)) {
+        if (line.front() == '"')
+            return continueQuoted(line);
+        const Brackets at = findBrackets(line);
+        bool stop = false;
+        if (at.earlyClose != npos) {
+            stop = close(line, at.earlyClose);
+        } else if (at.open == npos) {
+            return bareWord(line);
+        } else if (at.close != npos || at.nextOpen == npos) {
+            if (at.close == npos)
+                return at.open > 0 &&
+                       openBlock(trim(line.substr(0, at.open)), trim(line.substr(at.open + 1)), line);
+            stop = simpleKey(line, at);
+        } else {
+            stop = openWithRest(line, at);
+        }
+        if (stop)
+            return true;
+    }
+    return false;
+}
+
+// Brackets inside a pair of quotes don't count; a quote without a partner is an ordinary character.
+Tokeniser::Brackets Tokeniser::findBrackets(std::string_view line) const {
+    Brackets at;
+    for (std::size_t i = 0; i < line.size(); ++i) {
+        const char c = line[i];
+        if (c == '"') {
+            const std::size_t partner = line.find('"', i + 1);
+            if (partner != npos)
+                i = partner;
+        } else if (c == '(') {
+            (at.open == npos ? at.open : at.nextOpen) = i;
+            if (at.nextOpen != npos)
+                break;
+        } else if (c == ')') {
+            // A bracket that closes before any opens belongs to the block in hand.
+            (at.open == npos ? at.earlyClose : at.close) = i;
+            break;
+        }
+    }
+    if (at.close != npos && at.nextOpen == npos)
+        at.nextOpen = line.find('(', at.close);
+    return at;
+}
+
+bool Tokeniser::simpleKey(std::string_view& line, const Brackets& at) {
+    const std::string_view rest = line.substr(at.close + 1);
+    // A line that ends in "+" goes on with the next one, unless another key follows the bracket.
+    const bool goesOn = endsInPlus(line) && at.nextOpen == npos;
+    const bool textRemains = !rest.empty() && !goesOn;
+    addRecord(currentPath(), trim(line.substr(0, at.open)),
+              trim(line.substr(at.open + 1, at.close - at.open - 1)),
+              textRemains ? line.substr(0, at.close + 1) : line);
+    const bool stop = matchLast();
+    if (goesOn && !endsInPlus(keys_.back().Value)) {
+        settleValue();
+        keys_.back().Value = arena_.join(keys_.back().Value, "+");
+    }
+    line = textRemains ? rest : std::string_view();
+    return stop;
+}
+
+// The text before the next closing bracket of the line in hand, trimmed; empty when there is none. The
+// bracket is looked for once, however many openings stand before it.
+std::string_view Tokeniser::upToClosing(std::string_view text) {
+    if (!closingKnown_ || (nextClosing_ && nextClosing_ < text.data())) {
+        const std::size_t at = text.find(')');
+        nextClosing_ = at == npos ? nullptr : text.data() + at;
+        closingKnown_ = true;
+    }
+    return nextClosing_ ? trim(text.substr(0, static_cast<std::size_t>(nextClosing_ - text.data())))
+                        : std::string_view();
+}
+
+// Two openings before a closing: the first name opens a block and the line goes on behind its bracket.
+bool Tokeniser::openWithRest(std::string_view& line, const Brackets& at) {
+    const std::string_view whole = line;
+    const std::string_view name = trim(line.substr(0, at.open));
+    const std::string_view between = line.substr(at.open + 1, at.nextOpen - at.open - 1);
+    if (name.empty()) {
+        line = {};
+        return false;
+    }
+    std::string_view value;
+    std::size_t nextName = at.open + 1;
+    const std::size_t textStart = between.find_first_not_of(' ');
+    if (equalIgnoringCase(name, "comment")) {
+        value = upToClosing(line.substr(at.open + 1));
+    } else if (textStart != npos && between[textStart] == '"' && between.find('"', textStart + 1) != npos) {
+        const std::size_t end = between.find('"', textStart + 1) + 1;
+        value = between.substr(textStart, end - textStart);
+        nextName += end;
+    } else if (textStart != npos) {
+        const std::size_t next = behindTwoBlanks(between.substr(textStart));
+        if (next != npos) {
+            value = trim(between.substr(textStart, next));
+            nextName += textStart + next;
+        }
+    }
+    const bool stop = openBlock(name, value, whole);
+    line = whole.substr(nextName);
+    return stop;
+}
+
+bool Tokeniser::openBlock(std::string_view name, std::string_view value, std::string_view tail) {
+    if (name.empty())
+        return false;
+    if (path_.size() + name.size() > MaxPathLength) {
+        ++deepBlocks_;
+        addRecord(currentPath(), {}, value, tail);
+        return matchLast();
+    }
+    if (!path_.empty())
+        path_ += '\\';
+    path_ += name;
+    leafLength_ = name.size();
+    pathId_ = internPath(path_);
+    if (paths_[static_cast<std::size_t>(pathId_)].records > 0) {
+        char digits[16];
+        const auto end = std::to_chars(digits, digits + sizeof digits, keys_.size() - 1).ptr;
+        const std::string_view number(digits, static_cast<std::size_t>(end - digits));
+        path_ += OccurrenceMarker;
+        path_ += number;
+        leafLength_ += OccurrenceMarker.size() + number.size();
+        pathId_ = internPath(path_);
+    }
+    addRecord(pathId_, {}, value, tail);
+    return matchLast();
+}
+
+bool Tokeniser::close(std::string_view& line, std::size_t at) {
+    const bool stop = matchLast();
+    if (quotedIn_ >= 0 && currentPath() == quotedIn_)
+        quotedIn_ = -1; // the bracket of a quoted value, whose block was left when the value began
+    else
+        popPath();
+    const std::string_view before = trim(line.substr(0, at));
+    if (!before.empty())
+        appendToValue(before);
+    std::string_view rest = line.substr(at + 1);
+    if (trim(rest) == "+") {
+        appendToValue("+");
+        rest = {};
+    }
+    line = rest;
+    return stop;
+}
+
+bool Tokeniser::continueQuoted(std::string_view line) {
+    SimKey& last = keys_.back();
+    if (!last.Key.empty())
+        return appendQuoted(line);
+    if (last.pathId != currentPath() || path_.empty())
+        return false; // the block has been closed: the text belongs to nothing
+    const std::string_view parent = parentOf(path_, leafLength_);
+    if (parent.empty()) { // a block at the top keeps its keys: the text is its own value
+        settleValue();
+        last.Value = endsInPlus(last.Value) ? last.Value : line;
+        return false;
+    }
+    // The block was in truth a key with a long value.
+    settleValue();
+    std::string name = path_.substr(path_.size() - leafLength_);
+    if (hasMarker(name))
+        name = StripOccurrence(name);
+    last.Key = arena_.keep(name);
+    setCurrentPath(std::string(parent));
+    setPath(last, currentPath());
+    quotedIn_ = currentPath();
+    if (endsInPlus(last.Value))
+        return appendQuoted(line);
+    last.Tail = line;
+    last.Line = static_cast<int>(lineNumber_);
+    if (line.back() != ')') {
+        last.Value = withoutDefault(line);
+        return false;
+    }
+    quotedIn_ = -1;
+    last.Value = withoutDefault(StripQuotes(trim(line.substr(0, line.size() - 1))));
+    return matchLast();
+}
+
+bool Tokeniser::appendQuoted(std::string_view line) {
+    if (!joining_) {
+        if (!endsInPlus(keys_.back().Value)) {
+            if (line.back() == ')' && quotedIn_ >= 0 && currentPath() == quotedIn_)
+                quotedIn_ = -1;
+            return false;
+        }
+        const std::string_view value = keys_.back().Value;
+        joined_ = StripQuotes(value.substr(0, value.size() - 1));
+        joining_ = true;
+    } else if (!endsInPlus(joined_)) {
+        return false;
+    } else {
+        joined_.pop_back();
+        if (!joined_.empty() && joined_.back() == '"')
+            joined_.pop_back();
+    }
+    const bool goesOn = endsInPlus(line);
+    if (goesOn)
+        line = trim(line.substr(0, line.size() - 1));
+    const bool closes = !line.empty() && line.back() == ')';
+    if (closes)
+        line = trim(line.substr(0, line.size() - 1));
+    joined_ += StripQuotes(line);
+    if (goesOn)
+        joined_ += '+';
+    if (!closes)
+        return false;
+    const bool stop = matchLast();
+    if (quotedIn_ >= 0 && currentPath() == quotedIn_)
+        quotedIn_ = -1;
+    else if (quotedIn_ < 0 && keys_.back().pathId != currentPath())
+        popPath();
+    return stop;
+}
+
+// A line of neither brackets nor quote: the next line that isn't blank tells what it is.
+bool Tokeniser::bareWord(std::string_view line) {
+    std::size_t next = lineNumber_ + 1;
+    while (next < lines_->size() && (*lines_)[next].text.empty())
+        ++next;
+    if (next >= lines_->size())
+        return false;
+    const SimLine& following = (*lines_)[next];
+    if (following.firstOpen == 0) {
+        if (following.text.size() == 1)
+            return openBlock(line, line, line);
+        skipLine_ = next;
+        return workLine(arena_.join(line, " ", following.text));
+    }
+    SimKey& last = keys_.back();
+    if (following.firstOpen < 0) {
+        if (last.Key.empty() && !path_.empty()) {
+            setPath(last, currentPath());
+            last.Tail = line;
+            last.Line = static_cast<int>(lineNumber_);
+        }
+        appendToValue(line);
+    } else {
+        joining_ = false;
+        last.Value = line;
+        last.Tail = line;
+        last.Line = static_cast<int>(lineNumber_);
+    }
+    return request_.stockMode && matchLast();
+}
+
+SimKey& Tokeniser::addRecord(int path, std::string_view key, std::string_view value, std::string_view tail) {
+    settleValue();
+    if (key.size() == 4 && (key[0] | 0x20) == 's' && equalIgnoringCase(key, "skip")) {
+        const std::string_view owner = keys_.back().Key;
+        const std::string_view block = paths_[static_cast<std::size_t>(path)].text;
+        path = internPath(arena_.join(block, block.empty() ? "" : "\\", owner));
+    }
+    if (!keys_.back().Path.empty())
+        keys_.emplace_back();
+    SimKey& record = keys_.back();
+    record.pathId = -1;
+    setPath(record, path);
+    record.Key = key;
+    record.Value = key.empty() ? value : withoutDefault(value);
+    record.Tail = tail;
+    record.Line = static_cast<int>(lineNumber_);
+    return record;
+}
+
+void Tokeniser::setPath(SimKey& key, int path) {
+    if (key.pathId >= 0 && paths_[static_cast<std::size_t>(key.pathId)].records > 0)
+        --paths_[static_cast<std::size_t>(key.pathId)].records;
+    PathEntry& entry = paths_[static_cast<std::size_t>(path)];
+    ++entry.records;
+    key.pathId = path;
+    key.Path = entry.text;
+}
+
+void Tokeniser::appendToValue(std::string_view more) {
+    if (!joining_) {
+        joined_ = keys_.back().Value;
+        joining_ = true;
+    }
+    if (!joined_.empty() && more != "+")
+        joined_ += ' ';
+    joined_ += more;
+}
+
+void Tokeniser::settleValue() {
+    if (!joining_)
+        return;
+    keys_.back().Value = arena_.keep(joined_);
+    joining_ = false;
+}
+
+bool Tokeniser::matchLast() {
+    if (!searching_)
+        return false;
+    const SimKey& last = keys_.back();
+    if (last.Path.empty() && last.Key.empty())
+        return false;
+    if (request_.stockMode)
+        return matchStockKey();
+    if (request_.count != 1 || !equalIgnoringCase(last.Key, request_.key) || !isWanted(last.pathId))
+        return false;
+    settleValue();
+    addHit(last, request_.section, request_.key);
+    return true;
+}
+
+bool Tokeniser::matchStockKey() {
+    constexpr unsigned all = (1u << StockKeys.size()) - 1;
+    const SimKey& last = keys_.back();
+    const std::string stripped = hasMarker(last.Path) ? StripOccurrence(last.Path) : std::string();
+    const std::string_view path = stripped.empty() ? last.Path : std::string_view(stripped);
+    for (std::size_t i = 0; i < StockKeys.size(); ++i) {
+        const StockKey& wanted = StockKeys[i];
+        if (!equalIgnoringCase(last.Key, wanted.key) || !equalIgnoringCase(path, wanted.path))
+            continue;
+        const bool seen = stockSeen_ & (1u << i);
+        if (seen && i != CouplingTypeKey)
+            break;
+        // A coupling's type is looked at again when its block closes: one record gives one hit.
+        if (seen && !hits_.empty() && hits_.back().FirstLine == last.Line && hits_.back().Tail == last.Tail)
+            break;
+        settleValue();
+        if (wanted.key.empty() && last.Value.empty())
+            break;
+        stockSeen_ |= 1u << i;
+        addHit(last, wanted.path, wanted.key);
+        break;
+    }
+    return stockSeen_ == all;
+}
+
+bool Tokeniser::finalPass() {
+    const std::size_t limit = request_.count > 0 ? static_cast<std::size_t>(request_.count) : keys_.size();
+    for (const SimKey& key : keys_) {
+        if (key.Path.empty() || !equalIgnoringCase(key.Key, request_.key) || !isWanted(key.pathId))
+            continue;
+        addHit(key, request_.section, request_.key);
+        if (hits_.size() >= limit)
+            break;
+    }
+    return hits_[0].Found;
+}
+
+void Tokeniser::addHit(const SimKey& key, std::string_view section, std::string_view name) {
+    if (hits_.back().Found)
+        hits_.emplace_back();
+    SimHit& hit = hits_.back();
+    hit.Path = section;
+    hit.Key = name;
+    hit.Tail = key.Tail;
+    hit.Value = commentRuleApplies(section, name) ? cutComment(key.Value) : key.Value;
+    hit.Found = true;
+    hit.FirstLine = key.Line;
+    if (name != "Description")
+        return;
+    if (key.Tail.find("Description (") == npos)
+        hit.FirstLine = key.Line - 1;
+    hit.LastLine = static_cast<int>(std::min(lineNumber_, lines_->size() - 1));
+}
+
+int Tokeniser::currentPath() {
+    if (pathId_ < 0)
+        pathId_ = internPath(path_);
+    return pathId_;
+}
+
+void Tokeniser::setCurrentPath(std::string_view path) {
+    path_.assign(path);
+    leafLength_ = lastComponent(path_).size();
+    pathId_ = -1;
+}
+
+void Tokeniser::popPath() {
+    if (deepBlocks_ > 0) {
+        --deepBlocks_;
+        return;
+    }
+    path_.resize(parentOf(path_, leafLength_).size());
+    leafLength_ = lastComponent(path_).size();
+    pathId_ = -1;
+}
+
+bool Tokeniser::isWanted(int path) {
+    PathEntry& entry = paths_[static_cast<std::size_t>(path)];
+    if (entry.wanted < 0)
+        entry.wanted = hasMarker(entry.text)
+                           ? equalIgnoringCase(StripOccurrence(entry.text), request_.section)
+                           : equalIgnoringCase(entry.text, request_.section);
+    return entry.wanted == 1;
+}
+
+int Tokeniser::internPath(std::string_view text) {
+    const std::size_t hash = std::hash<std::string_view>{}(text);
+    std::size_t mask = table_.size() - 1;
+    std::size_t slot = hash & mask;
+    for (; table_[slot] >= 0; slot = (slot + 1) & mask) {
+        const PathEntry& entry = paths_[static_cast<std::size_t>(table_[slot])];
+        if (entry.hash == hash && entry.text == text)
+            return table_[slot];
+    }
+    const int id = static_cast<int>(paths_.size());
+    paths_.push_back({arena_.keep(text), hash, 0, -1});
+    table_[slot] = id;
+    if (paths_.size() * 2 > table_.size())
+        growTable();
+    return id;
+}
+
+void Tokeniser::growTable() {
+    table_.assign(table_.size() * 2, -1);
+    const std::size_t mask = table_.size() - 1;
+    for (std::size_t id = 0; id < paths_.size(); ++id) {
+        std::size_t slot = paths_[id].hash & mask;
+        while (table_[slot] >= 0)
+            slot = (slot + 1) & mask;
+        table_[slot] = static_cast<int>(id);
+    }
+}
+
+} // namespace zandor

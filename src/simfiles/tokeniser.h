@@ -1,0 +1,101 @@
+// Lines of a simulator text file to keys: walks the lines with the block's path and its last component as its
+// only stack.
+#pragma once
+
+#include "simfiles/sim_keys.h"
+#include "simfiles/sim_lines.h"
+#include "simfiles/text_arena.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace zandor {
+
+struct SearchRequest {
+    std::string_view section;
+    std::string_view key;
+    int count = 1;
+    bool stockMode = false;
+};
+
+class Tokeniser {
+  public:
+    Tokeniser(std::vector<SimKey>& keys, std::vector<SimHit>& hits, TextArena& arena);
+
+    struct Outcome {
+        bool found = false; // a match ended the search, or the final pass made a hit
+        int badLine = 0;    // a consist's vehicle line without its bracket, from 1; 0: none
+        bool closeMissing = false;
+    };
+    Outcome run(const std::vector<SimLine>& lines, const SearchRequest& request, bool isConsist);
+
+  private:
+    // A path text met in this read.
+    struct PathEntry {
+        std::string_view text;
+        std::size_t hash = 0;
+        int records = 0;         // how many of the keys carry it now
+        signed char wanted = -1; // is it the section asked for? -1: not looked at yet
+    };
+    // Of a line: the first "(", then the first ")" or "(" behind it, and a ")" before it. With a ")",
+    // nextOpen is the
+    // "(" behind that.
+    struct Brackets {
+        std::size_t open = npos, nextOpen = npos, close = npos, earlyClose = npos;
+    };
+    static constexpr std::size_t npos = std::string_view::npos;
+
+    Brackets findBrackets(std::string_view line) const;
+    bool plainLine(const SimLine& line);
+    bool workLine(std::string_view line);
+    bool simpleKey(std::string_view& line, const Brackets& at);
+    bool openBlock(std::string_view name, std::string_view value, std::string_view tail);
+    std::string_view upToClosing(std::string_view text);
+    bool openWithRest(std::string_view& line, const Brackets& at);
+    bool close(std::string_view& line, std::size_t at);
+    bool continueQuoted(std::string_view line);
+    bool appendQuoted(std::string_view line);
+    bool bareWord(std::string_view line);
+
+    bool matchLast();
+    bool matchStockKey();
+    bool finalPass();
+    void addHit(const SimKey& key, std::string_view section, std::string_view name);
+
+    SimKey& addRecord(int path, std::string_view key, std::string_view value, std::string_view tail);
+    void setPath(SimKey& key, int path);
+    void appendToValue(std::string_view more);
+    void settleValue(); // makes the value being joined the last record's
+
+    int internPath(std::string_view text);
+    int currentPath();
+    void setCurrentPath(std::string_view path);
+    void popPath();
+    bool isWanted(int path);
+    void growTable();
+
+    std::vector<SimKey>& keys_;
+    std::vector<SimHit>& hits_;
+    TextArena& arena_;
+    std::vector<PathEntry> paths_;
+    std::vector<int> table_; // open addressing over paths_, -1 free
+    const std::vector<SimLine>* lines_ = nullptr;
+    SearchRequest request_;
+    bool searching_ = false;
+
+    std::string path_;
+    std::size_t leafLength_ = 0;
+    std::size_t deepBlocks_ = 0; // blocks open below the deepest path that is kept apart
+    int pathId_ = -1;            // of path_; -1: not looked up yet
+    int quotedIn_ = -1;          // the path in which a quoted value's bracket is still open
+    std::string joined_;         // the last record's value while pieces are being joined
+    bool joining_ = false;
+    std::size_t lineNumber_ = 0;
+    std::size_t skipLine_ = 0;          // already worked on together with the line above
+    const char* nextClosing_ = nullptr; // see upToClosing()
+    bool closingKnown_ = false;
+    unsigned stockSeen_ = 0;
+};
+
+} // namespace zandor
