@@ -1,0 +1,10 @@
+// What is measured: a small add-on collection up to about as much as the catalogue holds.
+#pragma once
+
+namespace zandor::bench {
+
+inline constexpr int StockCounts[] = {1000, 4000, 16000, 32000};
+inline constexpr int ConsistCount = 10000;
+inline constexpr int ConsistStock = 16000; // the stock that these consists name
+
+} // namespace zandor::bench

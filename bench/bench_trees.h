@@ -1,0 +1,38 @@
+// The trees that are measured on: made at first use in a temporary folder, which goes when the run ends.
+#pragma once
+
+#include "tree_maker.h"
+
+#include <map>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace zandor::bench {
+
+// Native paths, each list in the order of its folders and names.
+struct Tree {
+    std::string root;
+    std::vector<std::string> stockFiles;
+    std::vector<std::string> consistFiles;
+};
+
+class Trees {
+  public:
+    Trees() = default;
+    Trees(const Trees&) = delete;
+    Trees& operator=(const Trees&) = delete;
+    ~Trees();
+
+    // Its files have been read once, so that every measurement finds them in the system's cache.
+    const Tree& get(int stock, int consists);
+
+  private:
+    std::string folder_;
+    std::map<std::pair<int, int>, Tree> made_;
+};
+
+// What any reader of these files must pay: open, size, read, close. Returns the number of bytes read.
+std::size_t readPlainly(const std::vector<std::string>& paths);
+
+} // namespace zandor::bench

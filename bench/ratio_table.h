@@ -1,0 +1,35 @@
+// Takes every repetition of every benchmark and prints, when the run is over, the best times beside the plain
+// read of the same files.
+#pragma once
+
+#include <benchmark/benchmark.h>
+
+#include <map>
+#include <string>
+
+namespace zandor::bench {
+
+// The names under which benchmarks are registered: the operation, "/" and the number of files.
+inline constexpr const char* PlainStock = "PlainReadStock";
+inline constexpr const char* PlainConsists = "PlainReadConsists";
+inline constexpr const char* LoadFull = "LoadCatalogueFull";
+inline constexpr const char* LoadQuick = "LoadCatalogueQuick";
+inline constexpr const char* Consists = "ScanConsists";
+
+std::string benchmarkName(const std::string& operation, int files);
+
+class RatioTable final : public benchmark::BenchmarkReporter {
+  public:
+    bool ReportContext(const Context&) override { return true; }
+    void ReportRuns(const std::vector<Run>& runs) override;
+    void Finalize() override;
+
+  private:
+    void printRow(const std::string& operation, const std::string& baseLine, int files) const;
+    void printGrowth(const std::string& operation) const;
+    double secondsOf(const std::string& operation, int files) const; // 0: wasn't run
+
+    std::map<std::string, double> best_; // seconds of the fastest repetition, by benchmark
+};
+
+} // namespace zandor::bench

@@ -1,0 +1,20 @@
+// Makes a simulator folder of invented stock and consists whose sizes and shapes are those of real
+// installations: half of the stock engines of some 24 KB, half wagons of some 3.4 KB, consists of some 1.5
+// KB, ten stock files a folder.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace zandor::bench {
+
+struct TreeSize {
+    int stock = 0;
+    int consists = 0;
+    std::uint64_t seed = 1; // the same seed and counts give the same bytes
+};
+
+// `root` is a native path; its folders are made. False: a file couldn't be written.
+bool makeTree(const std::string& root, const TreeSize& size);
+
+} // namespace zandor::bench

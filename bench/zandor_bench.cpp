@@ -1,0 +1,127 @@
+// zandor-bench: the load of the catalogue and the scan of the consists, measured beside a plain read of the
+// same files in the same run. All that Google Benchmark's flags offer works; by default seven repetitions in
+// random order.
+#include "bench_sizes.h"
+#include "bench_trees.h"
+#include "ratio_table.h"
+
+#include "catalogue/catalogue.h"
+#include "platform/real_file_system.h"
+
+#include <memory>
+#include <vector>
+
+namespace zandor::bench {
+
+namespace {
+
+class SilentDialogs final : public Dialogs {
+  public:
+    int ShowMessage(const std::string&, int, const std::string&, const std::string&, int) override {
+        return answer::Ok;
+    }
+    std::optional<std::string> askOpenFile(const std::string&, const std::string&, const std::string&,
+                                           const std::string&) override {
+        return {};
+    }
+};
+
+class SilentProgress final : public Progress {
+  public:
+    void ShowProgress(int, int, int, std::string_view) override {}
+    bool yield() override { return true; }
+};
+
+class EmptyRegistry final : public Registry {
+  public:
+    std::string readString(RegistryHive, std::string_view, std::string_view) override { return {}; }
+};
+
+// One run of the program on a tree, nothing kept from the run before.
+struct Session {
+    std::unique_ptr<FileSystem> files = makeRealFileSystem("");
+    AppState state;
+    ProfileFiles profiles{*files};
+    EmptyRegistry registry;
+    SilentDialogs dialogs;
+    SilentProgress progress;
+    Frame frame{state, *files, profiles, registry, dialogs, progress, Language(profiles, state)};
+    Catalogue catalogue;
+
+    explicit Session(const std::string& root) {
+        state.RootPrimary = state.RootMSTS = root;
+        state.Language = "English";
+        state.LanguagePath = ZANDOR_SOURCE_DIR "/src/frame/Langues.lng";
+    }
+};
+
+void measurePlainRead(benchmark::State& state, const std::vector<std::string>& paths) {
+    for (auto _ : state)
+        benchmark::DoNotOptimize(readPlainly(paths));
+}
+
+void measureLoad(benchmark::State& state, const Tree& tree, bool full) {
+    for (auto _ : state) {
+        Session session(tree.root);
+        session.state.Optimize = full;
+        if (!LoadCatalogue(session.frame, session.catalogue) ||
+            session.catalogue.Materiels.size() != tree.stockFiles.size())
+            state.SkipWithError("the load isn't complete");
+    }
+}
+
+void measureConsists(benchmark::State& state, const Tree& tree) {
+    for (auto _ : state) {
+        Session session(tree.root);
+        if (!ScanConsists(session.frame, session.catalogue) || session.catalogue.StockUsage.size() < 2)
+            state.SkipWithError("the scan found nothing");
+    }
+}
+
+template <typename Measure> void add(const char* operation, int files, Measure measure) {
+    benchmark::RegisterBenchmark(benchmarkName(operation, files).c_str(), measure)
+        ->Iterations(1)
+        ->UseRealTime();
+}
+
+void addAll(Trees& trees) {
+    for (const int count : StockCounts) {
+        add(PlainStock, count, [&trees, count](benchmark::State& state) {
+            measurePlainRead(state, trees.get(count, 0).stockFiles);
+        });
+        add(LoadFull, count,
+            [&trees, count](benchmark::State& state) { measureLoad(state, trees.get(count, 0), true); });
+        add(LoadQuick, count,
+            [&trees, count](benchmark::State& state) { measureLoad(state, trees.get(count, 0), false); });
+    }
+    add(PlainConsists, ConsistCount, [&trees](benchmark::State& state) {
+        measurePlainRead(state, trees.get(ConsistStock, ConsistCount).consistFiles);
+    });
+    add(Consists, ConsistCount,
+        [&trees](benchmark::State& state) { measureConsists(state, trees.get(ConsistStock, ConsistCount)); });
+}
+
+int run(int argc, char** argv) {
+    char repetitions[] = "--benchmark_repetitions=7";
+    char interleaving[] = "--benchmark_enable_random_interleaving=true";
+    std::vector<char*> arguments{argv[0], repetitions, interleaving};
+    arguments.insert(arguments.end(), argv + 1, argv + argc); // given ones come last and win
+    int count = static_cast<int>(arguments.size());
+    Trees trees;
+    addAll(trees);
+    benchmark::Initialize(&count, arguments.data());
+    if (benchmark::ReportUnrecognizedArguments(count, arguments.data()))
+        return 2;
+    RatioTable table;
+    benchmark::RunSpecifiedBenchmarks(&table);
+    benchmark::Shutdown();
+    return 0;
+}
+
+} // namespace
+
+} // namespace zandor::bench
+
+int main(int argc, char** argv) {
+    return zandor::bench::run(argc, argv);
+}

@@ -1,0 +1,100 @@
+#include "catalogue/catalogue.h"
+
+namespace zandor {
+
+namespace {
+
+// A path and a progress text that keep their storage from one stock file to the next.
+struct ReadingTexts {
+    std::string path;
+    std::string shown;
+    std::size_t shownPrefix = 0;
+
+    explicit ReadingTexts(const std::string& prefix) : shown(prefix + " "), shownPrefix(shown.size()) {}
+
+    void moveTo(const Materiel& materiel) {
+        path.assign(materiel.BasePath).append(materiel.Folder).append(1, '\\').append(materiel.FileName);
+        shown.resize(shownPrefix);
+        shown += materiel.FileName;
+    }
+};
+
+// At the start the consists are read only for those who want to see what is unused; a later reload keeps what
+// that scan found.
+bool loadConsists(Frame& frame, Catalogue& catalogue, const std::string& stepDone) {
+    const bool scan = !frame.state.MainReady && frame.state.PrintGreen;
+    if (scan && !ScanConsists(frame, catalogue))
+        return false;
+    if (!scan)
+        ListConsistFiles(frame, catalogue, frame.state.RootPrimary);
+    if (scan || frame.state.MainReady)
+        frame.progress.ShowProgress(0, 255, 0, stepDone);
+    return true;
+}
+
+bool loadSteps(Frame& frame, Catalogue& catalogue, LoadOptions options) {
+    const std::string stepDone = frame.text(Message::StepDone);
+    const auto markStep = [&] { frame.progress.ShowProgress(0, 255, 0, stepDone); };
+    if (!loadConsists(frame, catalogue, stepDone))
+        return false;
+    ListStockFolders(frame, catalogue, trainsetPath(frame.state.RootPrimary), true);
+    markStep();
+    ScanStockFiles(frame, catalogue);
+    markStep();
+    if (!readAllStock(frame, catalogue, options))
+        return false;
+    markStep();
+    return true;
+}
+
+} // namespace
+
+std::string trainsetPath(std::string_view root) {
+    return std::string(root) + "\\TRAINS\\TRAINSET\\";
+}
+
+std::string consistsPath(std::string_view root) {
+    return std::string(root) + "\\TRAINS\\CONSISTS\\";
+}
+
+bool LoadCatalogue(Frame& frame, Catalogue& catalogue, LoadOptions options) {
+    catalogue.complete = loadSteps(frame, catalogue, options);
+    frame.state.Busy = false;
+    return catalogue.complete;
+}
+
+bool readAllStock(Frame& frame, Catalogue& catalogue, LoadOptions options) {
+    SimReader reader(frame.files, frame.language);
+    ReadingTexts texts(frame.text(Message::ReadingStock));
+    const int last = static_cast<int>(catalogue.Materiels.size()) - 1;
+    int index = -1;
+    for (Materiel& materiel : catalogue.Materiels) {
+        ++index;
+        if (materiel.FileName.empty())
+            continue;
+        if (!frame.progress.yield())
+            return false;
+        texts.moveTo(materiel);
+        // What is wrong with a file is the verifier's business; its entry keeps what could be read.
+        if (frame.state.Optimize)
+            ReadStockFile(reader, texts.path, materiel, options.repair);
+        else
+            QuickReadStock(frame.files, materiel);
+        frame.progress.ShowProgress(0, last, index, texts.shown);
+    }
+    return true;
+}
+
+bool reloadCatalogue(Frame& frame, Catalogue& catalogue) {
+    catalogue.ConsistSummaries.assign(1, {});
+    if (RestoreCatalogueSnapshot(catalogue, frame.state.RootPrimary)) {
+        frame.state.Busy = false;
+        return true;
+    }
+    if (!LoadCatalogue(frame, catalogue))
+        return false;
+    frame.progress.ShowProgress(0, 255, 0, frame.text(Message::StepDone));
+    return true;
+}
+
+} // namespace zandor

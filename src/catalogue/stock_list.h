@@ -1,0 +1,34 @@
+// The stock of one class as the lists show it.
+#pragma once
+
+#include "catalogue/catalogue.h"
+
+#include <string>
+#include <vector>
+
+namespace zandor {
+
+inline constexpr int StockClassCount = 6;
+// 0 electric, 1 diesel, 2 steam engine, 3 carriage, 4 freight, 5 tender or draisine; -1 for any other stock.
+int stockClassOf(const Materiel& materiel);
+Message stockClassMessage(int classIndex);
+
+struct StockListRow {
+    std::string key;         // "KEY_" and the index in Materiels
+    std::string text;        // the shown name, or the file name
+    std::string brakeSystem; // lower case
+    std::string coupling;    // lower case
+    bool hasCab = false;
+    bool unused = false; // shown in green
+};
+
+// The rows of a class in catalogue order; the list control sorts.
+std::vector<StockListRow> FillStockList(const AppState& state, const Catalogue& catalogue, int classIndex,
+                                        bool byFileName);
+// The index behind "KEY_", or -1.
+int indexOfKey(std::string_view key);
+// True when the stock is to be shown as unused: PrintGreen is on and no consist uses it.
+bool isShownUnused(const AppState& state, const Catalogue& catalogue, std::string_view folder,
+                   std::string_view file);
+
+} // namespace zandor

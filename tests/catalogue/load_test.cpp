@@ -1,0 +1,120 @@
+#include "catalogue_fixture.h"
+
+namespace zandor {
+namespace {
+
+constexpr const char* WagonBody =
+    "Wagon ( voit\r\nType ( Carriage )\r\nSize ( 3m 4m 20m )\r\nMass ( 30t )\r\n"
+    "Coupling (\r\nType ( Chain )\r\n)\r\nName ( \"First name\" )\r\n";
+
+struct StepCase {
+    bool mainReady, printGreen;
+    Names steps; // texts of the progress, runs of one text once
+};
+
+class LoadSteps : public CatalogueTest, public ::testing::WithParamInterface<StepCase> {};
+
+TEST_P(LoadSteps, ComeInOrderWithTheirMarks) {
+    putStock("Parc\\loco.eng");
+    putConsist("train.con", "train", {"EngineData ( loco Parc )"});
+    state.MainReady = GetParam().mainReady;
+    state.PrintGreen = GetParam().printGreen;
+    ASSERT_TRUE(LoadCatalogue(frame, catalogue));
+    EXPECT_EQ(progressShown(), GetParam().steps);
+    EXPECT_EQ(catalogue.ConsistFiles, Names{"train.con"});
+    EXPECT_EQ(usage().size(), GetParam().printGreen && !GetParam().mainReady ? 1u : 0u);
+}
+
+const Names StockSteps = {"0-0:0 engines", "0-0:0 wagons", "0-255:0 step", "0-0:0 reading loco.eng",
+                          "0-255:0 step"};
+
+Names withStockSteps(Names steps) {
+    steps.push_back("0-255:0 step"); // of the folders
+    steps.insert(steps.end(), StockSteps.begin(), StockSteps.end());
+    return steps;
+}
+
+INSTANTIATE_TEST_SUITE_P(All, LoadSteps,
+                         ::testing::Values(StepCase{false, false, withStockSteps({})},
+                                           StepCase{false, true,
+                                                    withStockSteps({"0-0:0 consists", "0-255:0 step"})},
+                                           StepCase{true, false, withStockSteps({"0-255:0 step"})},
+                                           StepCase{true, true, withStockSteps({"0-255:0 step"})}));
+
+TEST_F(CatalogueTest, LoadNeverBuildsStockUseAnewAfterTheStart) {
+    putConsist("train.con", "train", {"EngineData ( loco Parc )"});
+    state.PrintGreen = true;
+    LoadCatalogue(frame, catalogue);
+    state.MainReady = true;
+    putConsist("other.con", "other", {"EngineData ( other Parc )"});
+    LoadCatalogue(frame, catalogue);
+    EXPECT_EQ(usage(), Names{"Parc\\loco.eng 1"});
+    EXPECT_EQ(catalogue.ConsistFiles, (Names{"other.con", "train.con"}));
+}
+
+TEST_F(CatalogueTest, OptimizeChoosesTheFullReader) {
+    putStock("Parc\\voit.wag", "Wagon ( voit\r\nType ( Carriage ) Mass ( 30t )\r\n");
+    LoadCatalogue(frame, catalogue);
+    EXPECT_EQ(catalogue.Materiels[0].Mass, "30t");
+    state.Optimize = false; // the quick reader sees one key a line
+    LoadCatalogue(frame, catalogue);
+    EXPECT_EQ(catalogue.Materiels[0].Mass, "");
+    EXPECT_EQ(catalogue.Materiels[0].WagonName, "voit");
+}
+
+TEST_F(CatalogueTest, LoadKeepsStockThatItCannotRead) {
+    files.put(trainsetPath(MstsRoot) + "Parc\\binary.eng", "\x01\x02\x03");
+    files.put(trainsetPath(MstsRoot) + "Parc\\empty.wag", "");
+    putStock("Parc\\voit.wag", WagonBody);
+    EXPECT_TRUE(LoadCatalogue(frame, catalogue));
+    ASSERT_EQ(stockNames(), (Names{"Parc\\binary.eng", "Parc\\empty.wag", "Parc\\voit.wag"}));
+    EXPECT_EQ(catalogue.Materiels[0].Type + catalogue.Materiels[1].Type, "");
+    EXPECT_EQ(catalogue.Materiels[2].Type, "Carriage");
+    EXPECT_TRUE(dialogs.shown.empty());
+}
+
+TEST_F(CatalogueTest, LoadRepairsSeveralNamesOnlyWhereItMayWrite) {
+    const std::string path = trainsetPath(MstsRoot) + "Parc\\voit.wag";
+    putStock("Parc\\voit.wag", std::string(WagonBody) + "Name ( \"Second name\" )\r\n)\r\n");
+    const auto before = files.get(path);
+    LoadCatalogue(frame, catalogue, {NameRepair::Never});
+    EXPECT_EQ(files.get(path), before);
+    LoadCatalogue(frame, catalogue);
+    EXPECT_NE(files.get(path), before);
+}
+
+TEST_F(CatalogueTest, LoadOfAMissingRootIsEmptyAndNoError) {
+    EXPECT_TRUE(LoadCatalogue(frame, catalogue));
+    EXPECT_FALSE(state.Busy);
+    ASSERT_EQ(catalogue.Materiels.size(), 1u);
+    EXPECT_EQ(catalogue.Materiels[0].FileName, "");
+    EXPECT_EQ(catalogue.ConsistFiles, Names{""});
+    EXPECT_TRUE(dialogs.shown.empty());
+}
+
+TEST_F(CatalogueTest, LoadStopsAtOnceWhenTheUserEndsIt) {
+    for (const char* name : {"Parc\\a.wag", "Parc\\b.wag", "Parc\\c.wag"})
+        putStock(name, WagonBody);
+    progress.cancelAtYield = progress.yields + 3;
+    EXPECT_FALSE(LoadCatalogue(frame, catalogue));
+    EXPECT_FALSE(state.Busy);
+    ASSERT_EQ(stockNames().size(), 3u);
+    EXPECT_EQ(catalogue.Materiels[1].Type, "Carriage");
+    EXPECT_EQ(catalogue.Materiels[2].Type, "");
+    EXPECT_EQ(progressShown().back(), "0-2:1 reading b.wag");
+}
+
+TEST_F(CatalogueTest, ScanOfConsistsStopsAtOnceWhenTheUserEndsIt) {
+    putStock("Parc\\a.wag", WagonBody);
+    putConsist("a.con", "a", {"WagonData ( a Parc )"});
+    putConsist("b.con", "b", {"WagonData ( a Parc )"});
+    state.PrintGreen = true;
+    progress.cancelAtYield = progress.yields + 2;
+    EXPECT_FALSE(LoadCatalogue(frame, catalogue));
+    EXPECT_FALSE(state.Busy);
+    EXPECT_EQ(usage(), Names{"Parc\\a.wag 1"});
+    EXPECT_TRUE(stockNames().empty());
+}
+
+} // namespace
+} // namespace zandor

@@ -1,0 +1,87 @@
+#include "catalogue/stock_list.h"
+#include "catalogue_fixture.h"
+
+namespace zandor {
+namespace {
+
+TEST(StockClass, FollowsTypeAndEngineTypeInAnyCase) {
+    struct Case {
+        const char *type, *engineType;
+        int expected;
+    };
+    for (const Case& one :
+         {Case{"Engine", "ELECTRIC", 0}, Case{"ENGINE", "Diesel", 1}, Case{"engine", "steam", 2},
+          Case{"Carriage", "", 3}, Case{"FREIGHT", "diesel", 4}, Case{"Tender", "", 5},
+          Case{"Draisine", "", 5}, Case{"Engine", "", -1}, Case{"engine", "control", -1},
+          Case{"", "electric", -1}, Case{"caboose", "", -1}}) {
+        Materiel materiel;
+        materiel.Type = one.type;
+        materiel.EngineType = one.engineType;
+        EXPECT_EQ(stockClassOf(materiel), one.expected) << one.type << " " << one.engineType;
+    }
+}
+
+struct StockListTest : CatalogueTest {
+    StockListTest() { catalogue.Materiels.clear(); }
+
+    Materiel& add(const char* file, const char* type, const char* engineType = "") {
+        Materiel& added = catalogue.Materiels.emplace_back();
+        added.Folder = "Parc";
+        added.FileName = file;
+        added.Type = type;
+        added.EngineType = engineType;
+        return added;
+    }
+};
+
+TEST_F(StockListTest, HoldsTheClassInCatalogueOrder) {
+    add("z.eng", "Engine", "Diesel").EngineName = "Zed";
+    add("", "Engine", "Diesel"); // a free slot
+    add("a.wag", "Freight").WagonName = "Box";
+    Materiel& last = add("a.eng", "engine", "DIESEL");
+    last.WagonName = "Shell";
+    last.CabView = "a.cvf";
+    last.BrakeSystem = "EP";
+    last.Coupling = "Chain_Bar";
+
+    const auto rows = FillStockList(state, catalogue, 1, false);
+    ASSERT_EQ(rows.size(), 2u);
+    EXPECT_EQ(rows[0].key + rows[0].text, "KEY_0Zed");
+    EXPECT_FALSE(rows[0].hasCab);
+    EXPECT_EQ(rows[1].key + rows[1].text, "KEY_3Shell");
+    EXPECT_EQ(rows[1].brakeSystem + " " + rows[1].coupling, "ep chain_bar");
+    EXPECT_TRUE(rows[1].hasCab);
+    EXPECT_EQ(FillStockList(state, catalogue, 1, true)[0].text, "z.eng");
+    EXPECT_TRUE(FillStockList(state, catalogue, 0, false).empty());
+    EXPECT_TRUE(FillStockList(state, catalogue, -1, false).empty()) << "stock of no class is in no list";
+}
+
+TEST_F(StockListTest, UnusedStockIsShownOnlyWithPrintGreen) {
+    appendStockUse(catalogue, "PARC", "Voit.wag", 0);
+    appendStockUse(catalogue, "parc", "voit.wag", 2);
+    appendStockUse(catalogue, "Parc", "released.wag", 0);
+    struct Case {
+        const char* file;
+        bool unused;
+    };
+    for (const Case& one : {Case{"VOIT.wag", false}, Case{"released.wag", true}, Case{"never.wag", true}}) {
+        state.PrintGreen = true;
+        EXPECT_EQ(isShownUnused(state, catalogue, "Parc", one.file), one.unused) << one.file;
+        state.PrintGreen = false;
+        EXPECT_FALSE(isShownUnused(state, catalogue, "Parc", one.file)) << one.file;
+    }
+}
+
+TEST(StockKey, LeadsBackToItsIndex) {
+    struct Case {
+        const char* key;
+        int index;
+    };
+    for (const Case& one :
+         {Case{"KEY_0", 0}, Case{"KEY_32765", 32765}, Case{"KEY_", -1}, Case{"", -1}, Case{"SUBKEY_15", -1},
+          Case{"KEY_-1", -1}, Case{"KEY_99999999999", -1}, Case{"KEY_1x", -1}})
+        EXPECT_EQ(indexOfKey(one.key), one.index) << one.key;
+}
+
+} // namespace
+} // namespace zandor
