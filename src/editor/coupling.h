@@ -1,0 +1,35 @@
+// Which vehicles fit together, and what the panel tells of a stock entry.
+#pragma once
+
+#include "editor/consist_document.h"
+
+#include <string>
+#include <string_view>
+
+namespace zandor {
+
+// True when the two have a coupling in common; an unknown coupling fits everything. No orientation counts.
+bool CouplingCompatible(std::string_view couplingA, std::string_view couplingB, std::string_view uniqueA,
+                        std::string_view uniqueB);
+
+// `left`: a position of the strip; `right`: one too when `rightIsVehicule`, otherwise an index of Materiels.
+bool CheckCoupling(const Editor& editor, int left, int right, bool rightIsVehicule);
+
+// Shows the alert of an incompatible pair as the settings ask for it. False: the operation stops.
+bool reactToBadCoupling(Editor& editor);
+
+// "CHAIN_BAR" for "chain_bar"; empty for any other text. Any case.
+std::string_view CouplingImageName(std::string_view coupling);
+
+// The information panel.
+struct MaterielInfo {
+    std::string select;   // tbSELECT
+    std::string path;     // tbPATH
+    std::string brakes;   // lblFreins
+    std::string coupling; // lblATTELAGE
+    std::string length;   // lblLONGUEUR
+    std::string mass;     // lblPOIDS
+};
+MaterielInfo ShowMaterielInfo(const Frame& frame, const Materiel& materiel);
+
+} // namespace zandor

@@ -1,0 +1,101 @@
+#include "catalogue/catalogue.h"
+#include "editor/consist_io.h"
+#include "editor/editor_parts.h"
+#include "frame/startup.h"
+
+#include <algorithm>
+
+namespace zandor {
+
+int vehicleCount(const ConsistDocument& document) {
+    return hasVehicles(document) ? static_cast<int>(document.Vehicules.size()) : 0;
+}
+
+bool hasVehicles(const ConsistDocument& document) {
+    return !document.Vehicules.empty() && !document.Vehicules.front().Name.empty();
+}
+
+const Materiel* materielOf(const Editor& editor, const Vehicule& vehicule) {
+    if (vehicule.Missing)
+        return nullptr;
+    const Catalogue& catalogue = editor.catalogue;
+    const std::vector<Materiel>& materiels =
+        vehicule.FromSimulator ? catalogue.snapshots[0].Materiels : catalogue.Materiels;
+    const auto index = static_cast<std::size_t>(vehicule.MaterielIndex);
+    return index < materiels.size() ? &materiels[index] : nullptr;
+}
+
+bool isEngine(const Editor& editor, const Vehicule& vehicule) {
+    if (const Materiel* materiel = materielOf(editor, vehicule))
+        return endsWithIgnoringCase(materiel->FileName, ".eng");
+    return vehicule.origin && vehicule.origin->IsEngine;
+}
+
+void ResetEditor(Editor& editor) {
+    ConsistDocument& document = editor.document;
+    document.Vehicules.assign(1, {});
+    document.RameStockOld.clear();
+    document.RameStockNew.clear();
+    document.Loading = false;
+    document.NextNumber = document.PictureWidth = document.StripWidth = 0;
+    clearDrag(document);
+    editor.frame.state.HasFile = false;
+
+    // The durability and the size of the window stay as the user has them.
+    EditorControls controls;
+    controls.durability = document.controls.durability;
+    controls.viewWidth = document.controls.viewWidth;
+    controls.viewHeight = document.controls.viewHeight;
+    document.controls = std::move(controls);
+    setModified(editor, false);
+    updateResistance(editor);
+}
+
+void beginNewConsist(Editor& editor) {
+    ConsistDocument& document = editor.document;
+    ResetEditor(editor);
+    document.rame = {};
+    document.rame.Serial = document.rame.NextWagonUID = document.NextNumber;
+    document.rame.Durability = formatDurability(document.controls.durability / 1000.0);
+    document.rame.MaxVelocity = EngineMaxVelocity;
+    document.items.assign(1, {});
+}
+
+void initialiseDocument(Editor& editor) {
+    beginNewConsist(editor);
+}
+
+bool offerToSave(Editor& editor) {
+    if (!AskSaveChanges(editor.frame, editor.document.rame.Name))
+        return true;
+    SaveFileRame(editor);
+    return !editor.frame.state.Modified;
+}
+
+bool newConsist(Editor& editor) {
+    if (!offerToSave(editor))
+        return false;
+    beginNewConsist(editor);
+    return true;
+}
+
+bool closeEditor(Editor& editor) {
+    if (!offerToSave(editor))
+        return false;
+    editor.frame.state.HasFile = false;
+    writeClosingSettings(editor.frame);
+    return true;
+}
+
+bool ReloadAfterOptions(Editor& editor) {
+    AppState& state = editor.frame.state;
+    state.Busy = true;
+    editor.catalogue.ConsistSummaries.assign(1, {});
+    beginNewConsist(editor);
+    const bool complete = reloadCatalogue(editor.frame, editor.catalogue);
+    editor.document.finder.forget();
+    state.Busy = false;
+    return complete;
+}
+
+} // namespace zandor

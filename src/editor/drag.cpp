@@ -1,0 +1,139 @@
+#include "editor/coupling.h"
+#include "editor/editor_parts.h"
+
+namespace zandor {
+
+namespace {
+
+bool isStock(const Editor& editor, int index) {
+    const auto& materiels = editor.catalogue.Materiels;
+    return index >= 0 && static_cast<std::size_t>(index) < materiels.size() &&
+           !materiels[static_cast<std::size_t>(index)].FileName.empty();
+}
+
+// The neighbours that the stock would get right of position `pos`; at the very front the one on the right
+// alone.
+bool fitsBeside(const Editor& editor, int pos, int index) {
+    if (!CheckCoupling(editor, pos, index, false))
+        return false;
+    const ConsistDocument& document = editor.document;
+    const bool between = !document.DragAtFront && pos < lastPosition(document);
+    return !between || CheckCoupling(editor, pos + 1, index, false);
+}
+
+// A vehicle put at the end comes into sight; elsewhere the strip stays as it was scrolled.
+void scrollAfterInsert(ConsistDocument& document, int pos, int scrollBefore) {
+    EditorControls& controls = document.controls;
+    if (!controls.scrollEnabled)
+        return;
+    const bool atEnd = pos == lastPosition(document) - 1;
+    controls.scrollValue = atEnd ? controls.scrollMaximum : std::min(scrollBefore, controls.scrollMaximum);
+}
+
+bool insertStock(Editor& editor, int pos, int index) {
+    ConsistDocument& document = editor.document;
+    if (!isStock(editor, index))
+        return false;
+    if (vehicleCount(document) >= MaxEntries) {
+        showStripFull(editor);
+        return false;
+    }
+    if (!fitsBeside(editor, pos, index) && !reactToBadCoupling(editor))
+        return false;
+    const int scrollBefore = document.controls.scrollValue;
+    document.PictureWidth = PlainPictureWidth;
+    InsertVehicule(editor, index, true, false);
+    scrollAfterInsert(document, pos, scrollBefore);
+    return true;
+}
+
+// The vehicle at DragSource, looked up in the list of stock.
+std::optional<int> lookUpSource(const ConsistDocument& document) {
+    if (!isPosition(document, document.DragSource))
+        return std::nullopt;
+    const Vehicule& vehicule = document.Vehicules[static_cast<std::size_t>(document.DragSource)];
+    if (vehicule.Missing)
+        return std::nullopt;
+    return vehicule.FromSimulator ? -1 : vehicule.MaterielIndex;
+}
+
+} // namespace
+
+void clearDrag(ConsistDocument& document) {
+    document.DragActive = document.DragAtFront = document.DragAtEnd = document.StripPressed = false;
+    document.DragSource = document.DragTarget = 0;
+}
+
+void dragOverStrip(Editor& editor, int x, int y) {
+    ConsistDocument& document = editor.document;
+    const StripHit hit = HitTestStrip(document, x, y);
+    if (hit.hit)
+        document.DragTarget = hit.index;
+    document.StripPressed = false;
+    document.DragActive = true;
+    document.DragAtEnd = hit.atEnd;
+    document.DragAtFront = hit.atFront;
+    if (hit.atEnd)
+        document.DragSource = lastPosition(document);
+    else
+        document.DragSource = document.DragTarget > 0 ? document.DragTarget - 1 : 0;
+    AutoScrollStrip(document, x, y);
+}
+
+bool dropStock(Editor& editor, int materielIndex) {
+    ConsistDocument& document = editor.document;
+    const int pos = document.DragActive ? document.DragSource : lastPosition(document);
+    const bool inserted = insertStock(editor, pos, materielIndex);
+    clearDrag(document);
+    return inserted;
+}
+
+bool appendStock(Editor& editor, int materielIndex) {
+    clearDrag(editor.document);
+    return dropStock(editor, materielIndex);
+}
+
+void pressStrip(Editor& editor, int x, int y) {
+    ConsistDocument& document = editor.document;
+    clearDrag(document); // a drag from the list that left the strip may still stand
+    document.StripPressed = true;
+    const StripHit hit = HitTestStrip(document, x, y);
+    if (!hit.hit)
+        return;
+    document.DragSource = document.DragTarget = hit.index;
+    document.DragActive = true;
+    document.DragAtFront = hit.atFront;
+    document.DragAtEnd = hit.atEnd;
+    updateStrip(editor);
+}
+
+void moveOnStrip(Editor& editor, int x, int y) {
+    ConsistDocument& document = editor.document;
+    if (!document.StripPressed || !document.DragActive)
+        return;
+    const StripHit hit = HitTestStrip(document, x, y);
+    document.DragAtEnd = hit.atEnd;
+    if (hit.hit)
+        document.DragTarget = hit.index;
+    else if (hit.atEnd) // the pointer may have jumped over the vehicles between
+        document.DragTarget = lastPosition(document);
+    AutoScrollStrip(document, x, y);
+}
+
+std::optional<int> releaseStrip(Editor& editor, ReleaseZone zone) {
+    ConsistDocument& document = editor.document;
+    std::optional<int> found;
+    if (document.DragActive) {
+        if (zone == ReleaseZone::Preview)
+            found = lookUpSource(document);
+        else if (document.StripPressed && zone == ReleaseZone::Strip)
+            MoveVehicule(editor, document.DragSource, document.DragTarget);
+        else if (document.StripPressed)
+            RemoveVehicule(editor);
+    }
+    clearDrag(document);
+    updateStrip(editor);
+    return found;
+}
+
+} // namespace zandor

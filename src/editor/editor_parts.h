@@ -1,0 +1,56 @@
+// What the operations of this folder share among themselves.
+#pragma once
+
+#include "editor/consist_document.h"
+
+#include <charconv>
+#include <string>
+#include <string_view>
+#include <utility>
+
+namespace zandor {
+
+inline constexpr std::string_view LineBreak = "\r\n"; // in messages
+
+// Position of the last slot, 0 for the empty strip.
+inline int lastPosition(const ConsistDocument& document) {
+    return document.Vehicules.empty() ? 0 : static_cast<int>(document.Vehicules.size()) - 1;
+}
+
+inline bool isPosition(const ConsistDocument& document, int position) {
+    return position >= 0 && position < vehicleCount(document);
+}
+
+// After a change: an empty strip has nothing to save.
+inline void setModified(Editor& editor, bool modified) {
+    editor.frame.state.Modified = modified;
+    editor.document.controls.saveEnabled = modified;
+}
+
+// A figure as messages show it: up to 15 significant digits, "." as the point in every locale.
+inline std::string figureText(double value) {
+    char text[64];
+    const auto end = std::to_chars(text, text + sizeof text, value, std::chars_format::general, 15).ptr;
+    return std::string(text, end);
+}
+
+// Puts an element into the free slot at the end of an array, or behind it when the last slot is taken. An
+// array of one free slot is an empty one.
+template <class T> T& addToArray(std::vector<T>& array, bool lastIsFree, T element) {
+    if (lastIsFree)
+        array.back() = std::move(element);
+    else
+        array.push_back(std::move(element));
+    return array.back();
+}
+
+// Tells that the strip holds as many vehicles as positions can number.
+void showStripFull(Editor& editor);
+
+// The empty editor and a Rame with the defaults of a new consist; asks nothing.
+void beginNewConsist(Editor& editor);
+
+// What tbNAME shows of a consist whose file is named otherwise than the consist itself.
+std::string doubleName(const Rame& rame);
+
+} // namespace zandor

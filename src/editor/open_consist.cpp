@@ -1,0 +1,242 @@
+#include "editor/consist_io.h"
+#include "editor/editor_parts.h"
+#include "simfiles/consist_file.h"
+#include "simfiles/stock_reader.h"
+
+#include <algorithm>
+#include <cmath>
+#include <unordered_map>
+
+namespace zandor {
+
+namespace {
+
+// The entry that a vehicle of a file stands for.
+struct StockPlace {
+    enum Kind { Primary, Simulator, Missing } kind = Missing;
+    int index = 0;
+};
+
+// Finds the entries of a consist's stock, each stock once. Stock that has come to the disk since the
+// catalogue was loaded gets a new entry at the end of its array: the indexes that lists and the strip hold
+// stay what they were.
+class StockResolver {
+  public:
+    explicit StockResolver(Editor& editor)
+        : files_(editor.frame.files), state_(editor.frame.state),
+          reader_(files_, editor.frame.language), primary_{editor.catalogue.Materiels,
+                                                           editor.document.finder,
+                                                           {}},
+          simulator_{editor.catalogue.snapshots[0].Materiels, simulatorFinder_, {}} {}
+
+    StockPlace resolve(const RameItem& item) {
+        const auto [known, isNew] = places_.try_emplace(lowerCase(item.Folder + "\\" + stockFileOf(item)));
+        if (isNew)
+            known->second = search(item);
+        return known->second;
+    }
+
+    // Until then the array stays as it is, and the look-up tables with it.
+    void addNewEntries() {
+        addEntries(primary_);
+        addEntries(simulator_);
+    }
+
+  private:
+    struct Shelf {
+        std::vector<Materiel>& materiels;
+        MaterielFinder& finder;
+        std::vector<Materiel> added;
+    };
+
+    StockPlace search(const RameItem& item) {
+        if (standsUnder(state_.RootPrimary, item))
+            return entryOf(primary_, StockPlace::Primary, state_.RootPrimary, item);
+        // The stock of a Train Store consist may stand in the simulator's own tree.
+        if (!state_.RootMSTS.empty() && equalIgnoringCase(state_.RootPrimary, state_.RootTStore) &&
+            standsUnder(state_.RootMSTS, item))
+            return entryOf(simulator_, StockPlace::Simulator, state_.RootMSTS, item);
+        return {};
+    }
+
+    bool standsUnder(std::string_view root, const RameItem& item) {
+        return FileExists(files_, trainsetPath(root) + item.Folder + "\\" + stockFileOf(item));
+    }
+
+    static std::size_t occupied(const std::vector<Materiel>& materiels) {
+        return materiels.size() - (!materiels.empty() && materiels.back().FileName.empty() ? 1 : 0);
+    }
+
+    StockPlace entryOf(Shelf& shelf, StockPlace::Kind kind, std::string_view root, const RameItem& item) {
+        const int found = shelf.finder.find(shelf.materiels, item.Folder, stockFileOf(item));
+        if (found >= 0)
+            return {kind, found};
+        const std::size_t index = occupied(shelf.materiels) + shelf.added.size();
+        if (index >= static_cast<std::size_t>(MaxEntries))
+            return {}; // no index is left for it
+        shelf.added.push_back(readEntry(root, item));
+        return {kind, static_cast<int>(index)};
+    }
+
+    // Opening a consist repairs no stock file.
+    Materiel readEntry(std::string_view root, const RameItem& item) {
+        Materiel materiel;
+        materiel.BasePath = trainsetPath(root);
+        materiel.Folder = item.Folder;
+        materiel.FileName = stockFileOf(item);
+        ReadStockFile(reader_, materiel.BasePath + materiel.Folder + "\\" + materiel.FileName, materiel,
+                      NameRepair::Never);
+        return materiel;
+    }
+
+    static void addEntries(Shelf& shelf) {
+        if (shelf.added.empty())
+            return;
+        shelf.materiels.resize(occupied(shelf.materiels));
+        std::move(shelf.added.begin(), shelf.added.end(), std::back_inserter(shelf.materiels));
+        shelf.added.clear();
+        shelf.finder.forget();
+    }
+
+    FileSystem& files_;
+    const AppState& state_;
+    SimReader reader_;
+    MaterielFinder simulatorFinder_;
+    Shelf primary_, simulator_;
+    std::unordered_map<std::string, StockPlace> places_;
+};
+
+std::string_view withoutExtension(std::string_view fileName) {
+    return endsWithIgnoringCase(fileName, ".con") ? fileName.substr(0, fileName.size() - 4) : fileName;
+}
+
+void showNames(ConsistDocument& document) {
+    EditorControls& controls = document.controls;
+    const Rame& rame = document.rame;
+    const std::string_view cfgName = StripQuotes(rame.CfgName);
+    controls.fullName = rame.Name;
+    controls.shortNameRed = !equalIgnoringCase(withoutExtension(rame.FileName), cfgName);
+    controls.shortName = controls.shortNameRed ? doubleName(rame) : std::string(cfgName);
+    controls.shortNameEnabled = false;
+}
+
+int sliderValue(std::string_view durability) {
+    return static_cast<int>(std::nearbyint(std::clamp(numericValue(durability) * 1000.0, 0.0, 1e9)));
+}
+
+void insertItem(Editor& editor, const RameItem& item, StockPlace place) {
+    InsertVehicule(editor, place.index, place.kind == StockPlace::Primary,
+                   place.kind == StockPlace::Simulator, &item);
+    Vehicule& vehicule = editor.document.Vehicules.back();
+    vehicule.Number = item.UiD;
+    vehicule.Flipped = item.Flip;
+    vehicule.EngineVariables = item.EngineVariables;
+}
+
+void insertItems(Editor& editor, const std::vector<RameItem>& items) {
+    StockResolver resolver(editor);
+    std::vector<StockPlace> places;
+    places.reserve(items.size());
+    for (const RameItem& item : items)
+        places.push_back(item.Name.empty() ? StockPlace() : resolver.resolve(item));
+    resolver.addNewEntries();
+
+    ConsistDocument& document = editor.document;
+    document.Vehicules.reserve(items.size());
+    for (std::size_t i = 0; i < items.size(); ++i) {
+        if (items[i].Name.empty())
+            continue;
+        if (vehicleCount(document) >= MaxEntries) {
+            showStripFull(editor);
+            return;
+        }
+        document.PictureWidth = PlainPictureWidth;
+        insertItem(editor, items[i], places[i]);
+    }
+}
+
+std::vector<StockPair> stockOf(const std::vector<RameItem>& items) {
+    std::vector<StockPair> pairs;
+    for (const RameItem& item : items)
+        if (!item.Name.empty())
+            pairs.push_back({stockFileOf(item), item.Folder});
+    return pairs;
+}
+
+struct ConsistReading {
+    Rame rame;
+    std::vector<RameItem> items;
+    std::optional<SimError> error;
+
+    bool empty() const { return rame.CfgName.empty() && rame.Name.empty() && stockOf(items).empty(); }
+};
+
+ConsistReading readConsist(SimReader& reader, std::string_view path, double durability) {
+    ConsistReading reading;
+    reading.error = ReadConsistFile(reader, reading.rame, reading.items, path, durability);
+    return reading;
+}
+
+bool isConsist(SimReader& reader, std::string_view path) {
+    return kindOfFile(path) == FileKind::Consist &&
+           (reader.ReadSimFile(path, "Train", "", 1, false, false) ||
+            (reader.error && reader.error->number == MalformedConsist));
+}
+
+std::string folderOf(std::string_view path) {
+    const std::size_t end = path.find_last_of("\\/");
+    return end == std::string_view::npos ? ".\\" : std::string(path.substr(0, end + 1));
+}
+
+} // namespace
+
+bool openConsist(Editor& editor, std::string_view path) {
+    Frame& frame = editor.frame;
+    const double durability = editor.document.controls.durability / 1000.0;
+    SimReader reader(frame.files, frame.language);
+    ConsistReading reading;
+    if (kindOfFile(path) == FileKind::Consist)
+        reading = readConsist(reader, path, durability);
+    // Nothing came: the consist is empty, or this is none, or the disk failed. An empty one is read once
+    // more, so that a failure doesn't pass for it and a save over the file loses nothing.
+    if (reading.empty()) {
+        if (!isConsist(reader, path)) {
+            const std::string native = frame.files.nativePath(path);
+            frame.show(frame.text(Message::OpenFailed, {{"|1", native}, {"|2", LineBreak}}),
+                       style::Exclamation);
+            return false;
+        }
+        reading = readConsist(reader, path, durability);
+    }
+    editor.document.rame = std::move(reading.rame);
+    editor.document.items = std::move(reading.items);
+    frame.state.HasFile = true;
+    frame.state.ConsistFolder = folderOf(path);
+    OpenFileRame(editor);
+    if (reading.error && !reading.error->text.empty())
+        frame.show(reading.error->text, style::Exclamation);
+    return true;
+}
+
+void OpenFileRame(Editor& editor) {
+    AppState& state = editor.frame.state;
+    ConsistDocument& document = editor.document;
+    if (!state.HasFile)
+        return;
+    ResetEditor(editor);
+    state.HasFile = true;
+    document.Loading = true;
+    showNames(document);
+    document.controls.durability = sliderValue(document.rame.Durability);
+    updateResistance(editor);
+    document.RameStockOld = document.RameStockNew = stockOf(document.items);
+
+    insertItems(editor, document.items);
+    document.NextNumber = document.rame.NextWagonUID;
+    updateStrip(editor);
+    document.Loading = false;
+    setModified(editor, false);
+    document.controls.deleteEnabled = true;
+}
+
+} // namespace zandor

@@ -1,0 +1,101 @@
+#include "editor/coupling.h"
+
+#include "editor/editor_parts.h"
+
+#include <array>
+#include <optional>
+
+namespace zandor {
+
+namespace {
+
+// A brake system is shown by a message or, where it has none, by a text of its own.
+struct BrakeRow {
+    std::string_view system;
+    std::optional<Message> message;
+    std::string_view text;
+};
+
+constexpr std::array<BrakeRow, 8> Brakes{{
+    {"air_single_pipe", Message::BrakeAirSinglePipe, ""},
+    {"air_twin_pipe", Message::BrakeAirTwinPipe, ""},
+    {"vacuum_single_pipe", Message::BrakeVacuumSinglePipe, ""},
+    {"vacuum_twin_pipe", Message::BrakeVacuumTwinPipe, ""},
+    {"ep", std::nullopt, "EP"},
+    {"ecp", std::nullopt, "ECP"},
+    {"air_piped", Message::BrakeAirPiped, ""},
+    {"vacuum_piped", Message::BrakeVacuumPiped, ""},
+}};
+
+struct CouplingRow {
+    std::string_view type;
+    Message message;
+};
+
+constexpr std::array<CouplingRow, 4> Couplings{{
+    {"automatic", Message::CouplingAutomatic},
+    {"bar", Message::CouplingBar},
+    {"chain", Message::CouplingChain},
+    {"hydraulic", Message::CouplingHydraulic},
+}};
+
+std::string brakesText(const Frame& frame, std::string_view system) {
+    for (const BrakeRow& row : Brakes)
+        if (equalIgnoringCase(row.system, system))
+            return frame.text(Message::BrakeSystem) + " " +
+                   (row.message ? frame.text(*row.message) : std::string(row.text));
+    return {};
+}
+
+std::string couplingName(const Frame& frame, std::string_view type) {
+    for (const CouplingRow& row : Couplings)
+        if (equalIgnoringCase(row.type, type))
+            return frame.text(row.message);
+    return {};
+}
+
+// The names of the ends, the unique type behind the one that it belongs to.
+std::string couplingNames(const Frame& frame, const Materiel& materiel) {
+    constexpr std::string_view RearEnd = "_END";
+    std::string unique = materiel.CouplingUnique;
+    const std::size_t rear = unique.find(RearEnd);
+    if (rear != std::string::npos)
+        unique.erase(rear, RearEnd.size());
+    if (!unique.empty())
+        unique = " (" + unique + ")";
+
+    const std::string_view coupling = materiel.Coupling;
+    const std::size_t split = coupling.find('_');
+    if (split == std::string_view::npos)
+        return couplingName(frame, coupling) + unique;
+    const std::string front = couplingName(frame, coupling.substr(0, split));
+    const std::string behind = couplingName(frame, coupling.substr(split + 1));
+    return rear == std::string::npos ? front + unique + ", " + behind : front + ", " + behind + unique;
+}
+
+std::string couplingText(const Frame& frame, const Materiel& materiel) {
+    if (CouplingImageName(materiel.Coupling).empty())
+        return {};
+    return frame.text(Message::Coupling) + " " + couplingNames(frame, materiel);
+}
+
+std::string figureLine(const Frame& frame, Message message, std::string_view value) {
+    return frame.text(message, {{"|1", figureText(numericValue(value))}});
+}
+
+} // namespace
+
+MaterielInfo ShowMaterielInfo(const Frame& frame, const Materiel& materiel) {
+    MaterielInfo info;
+    info.select = " " + shownName(materiel) + " ";
+    info.path = materiel.Folder + "\\" + materiel.FileName;
+    info.brakes = brakesText(frame, materiel.BrakeSystem);
+    info.coupling = couplingText(frame, materiel);
+    if (!materiel.Size.empty())
+        info.length = figureLine(frame, Message::Length, lastToken(materiel.Size));
+    if (!materiel.Mass.empty())
+        info.mass = figureLine(frame, Message::Mass, materiel.Mass);
+    return info;
+}
+
+} // namespace zandor

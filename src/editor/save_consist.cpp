@@ -1,0 +1,296 @@
+#include "editor/consist_io.h"
+#include "editor/editor_parts.h"
+#include "simfiles/consist_file.h"
+
+#include <algorithm>
+
+namespace zandor {
+
+namespace {
+
+constexpr std::string_view BackupFolder = "Sauvegarde des fichiers de rames\\";
+constexpr std::size_t DoubleNameLength = 40; // characters that tbNAME is compared by
+
+struct SaveNames {
+    std::string shortName;
+    std::string file; // with .con
+};
+
+// Everything that a file says of the vehicles.
+struct VehicleList {
+    std::vector<VehicleLines> lines;
+    std::vector<StockPair> stock;
+    bool hasEngine = false;
+    bool hasMissing = false;
+};
+
+void showNameTaken(Editor& editor, const std::string& file) {
+    editor.frame.show(editor.frame.text(Message::NameTaken, {{"|1", file}}), style::Exclamation);
+}
+
+bool isListed(const Catalogue& catalogue, std::string_view file) {
+    const auto& names = catalogue.ConsistFiles;
+    return std::any_of(names.begin(), names.end(),
+                       [file](const std::string& name) { return equalIgnoringCase(name, file); });
+}
+
+bool showsDoubleName(const ConsistDocument& document) {
+    const auto compared = [](std::string_view text) {
+        return lowerCase(firstCharacters(text, DoubleNameLength));
+    };
+    return compared(document.controls.shortName) == compared(doubleName(document.rame));
+}
+
+// Where the consist under edit is saved; that of a new one is the folder of the root in use.
+std::string targetFolder(const AppState& state) {
+    return state.HasFile && !state.ConsistFolder.empty() ? state.ConsistFolder
+                                                         : consistsPath(state.RootPrimary);
+}
+
+std::optional<SaveNames> namesWithFile(Editor& editor) {
+    const ConsistDocument& document = editor.document;
+    const std::string cfgName(StripQuotes(document.rame.CfgName));
+    if (showsDoubleName(document))
+        return SaveNames{cfgName, document.rame.FileName};
+    SaveNames names{document.controls.shortName, document.controls.shortName + ".con"};
+    if (!equalIgnoringCase(names.shortName, cfgName) &&
+        FileExists(editor.frame.files, targetFolder(editor.frame.state) + names.file)) {
+        showNameTaken(editor, names.file);
+        return std::nullopt;
+    }
+    return names;
+}
+
+// A file that another program has made since the load isn't listed, and would be lost all the same.
+std::optional<SaveNames> namesOfNew(Editor& editor) {
+    const std::string& shortName = editor.document.controls.shortName;
+    SaveNames names{shortName, shortName + ".con"};
+    if (isListed(editor.catalogue, names.file) ||
+        FileExists(editor.frame.files, targetFolder(editor.frame.state) + names.file)) {
+        showNameTaken(editor, names.file);
+        return std::nullopt;
+    }
+    return names;
+}
+
+// Nothing when the save can't go on; the user was told why.
+std::optional<SaveNames> checkNames(Editor& editor) {
+    const EditorControls& controls = editor.document.controls;
+    Frame& frame = editor.frame;
+    if (trim(controls.shortName).empty()) {
+        frame.show(frame.text(Message::ShortNameEmpty), style::Exclamation);
+        return std::nullopt;
+    }
+    if (trim(controls.fullName).empty()) {
+        frame.show(frame.text(Message::FullNameEmpty), style::Exclamation);
+        return std::nullopt;
+    }
+    return frame.state.HasFile ? namesWithFile(editor) : namesOfNew(editor);
+}
+
+std::string_view stockNameOf(const Materiel& materiel) {
+    const std::string_view name = std::string_view(materiel.FileName).substr(0, materiel.FileName.size() - 4);
+    return equalIgnoringCase(name, materiel.WagonName) ? std::string_view(materiel.WagonName) : name;
+}
+
+bool isStockFile(const Materiel& materiel) {
+    return endsWithIgnoringCase(materiel.FileName, ".eng") || endsWithIgnoringCase(materiel.FileName, ".wag");
+}
+
+VehicleLines linesFor(const Editor& editor, const Vehicule& vehicule) {
+    VehicleLines lines;
+    lines.isEngine = isEngine(editor, vehicule);
+    lines.flipped = vehicule.Flipped;
+    lines.number = vehicule.Number;
+    lines.engineVariables = vehicule.EngineVariables;
+    return lines;
+}
+
+void addCatalogued(const Editor& editor, const Vehicule& vehicule, const Materiel& materiel,
+                   VehicleList& list) {
+    if (!isStockFile(materiel))
+        return;
+    VehicleLines lines = linesFor(editor, vehicule);
+    lines.stockName = stockNameOf(materiel);
+    lines.folder = materiel.Folder;
+    list.lines.push_back(std::move(lines));
+    list.stock.push_back({materiel.FileName, materiel.Folder});
+}
+
+// Back as it was read.
+void addFromOrigin(const Editor& editor, const Vehicule& vehicule, VehicleList& list) {
+    list.hasMissing = true;
+    if (!vehicule.origin)
+        return;
+    const RameItem& origin = *vehicule.origin;
+    VehicleLines lines = linesFor(editor, vehicule);
+    lines.isEngine = origin.IsEngine;
+    lines.stockName = origin.Name;
+    lines.folder = origin.Folder;
+    lines.engineVariables = origin.EngineVariables;
+    list.lines.push_back(std::move(lines));
+    list.stock.push_back({stockFileOf(origin), origin.Folder});
+}
+
+VehicleList listVehicles(const Editor& editor) {
+    VehicleList list;
+    for (const Vehicule& vehicule : editor.document.Vehicules) {
+        if (vehicule.Name.empty())
+            continue;
+        list.hasEngine = list.hasEngine || isEngine(editor, vehicule);
+        if (const Materiel* materiel = materielOf(editor, vehicule))
+            addCatalogued(editor, vehicule, *materiel, list);
+        else
+            addFromOrigin(editor, vehicule, list);
+    }
+    return list;
+}
+
+std::string velocityFor(const Rame& rame, bool hasEngine, bool hasFile) {
+    if (!hasEngine)
+        return WagonsOnlyMaxVelocity;
+    return hasFile && rame.MaxVelocity != WagonsOnlyMaxVelocity ? rame.MaxVelocity : EngineMaxVelocity;
+}
+
+Rame rameToWrite(const Editor& editor, const SaveNames& names, bool hasEngine) {
+    const ConsistDocument& document = editor.document;
+    const bool hasFile = editor.frame.state.HasFile;
+    Rame rame = document.rame;
+    if (!hasFile)
+        rame.Serial = 1;
+    rame.MaxVelocity = velocityFor(rame, hasEngine, hasFile);
+    rame.Durability = formatDurability(document.controls.durability / 1000.0);
+    rame.NextWagonUID = document.NextNumber;
+    rame.Name = document.controls.fullName;
+    rame.CfgName = quotedName(names.shortName);
+    rame.FileName = names.file;
+    return rame;
+}
+
+bool ensureFolder(FileSystem& files, std::string_view path) {
+    while (!path.empty() && (path.back() == '\\' || path.back() == '/'))
+        path.remove_suffix(1);
+    if (FolderExists(files, path))
+        return true;
+    const std::size_t above = path.find_last_of("\\/");
+    return above != std::string_view::npos && ensureFolder(files, path.substr(0, above)) &&
+           files.createFolder(path);
+}
+
+// Copies the file that is about to be replaced. Returns the copy's path, or an empty text when there is none.
+std::string keepBackup(Editor& editor, const std::string& folder, const std::string& file) {
+    Frame& frame = editor.frame;
+    const AppState& state = frame.state;
+    if (!state.HasFile || state.BackupDir.empty() ||
+        !readNumericFlag(frame.profiles, "BakFile", state.IniPath) || !FileExists(frame.files, folder + file))
+        return {};
+    const std::string keptIn = AddBackslash(state.BackupDir) + std::string(BackupFolder);
+    const std::string copy = keptIn + file + ".old";
+    const bool kept = ensureFolder(frame.files, keptIn) && CopyFileOver(frame.files, folder + file, copy);
+    return kept ? copy : std::string();
+}
+
+bool writeConsist(Editor& editor, const std::string& folder, const Rame& rame, const VehicleList& list) {
+    FileSystem& files = editor.frame.files;
+    const AppState& state = editor.frame.state;
+    if (!state.HasFile && FolderExists(files, state.RootPrimary))
+        ensureFolder(files, folder);
+    return replaceFile(files, folder + rame.FileName, encodeConsist(buildConsistText(rame, list.lines)));
+}
+
+bool sameFolder(std::string_view a, std::string_view b) {
+    const auto plain = [](std::string_view path) {
+        std::string text(path);
+        std::replace(text.begin(), text.end(), '/', '\\');
+        return lowerCase(AddBackslash(text));
+    };
+    return plain(a) == plain(b);
+}
+
+// The lists that mirror the CONSISTS folder of the root in use.
+void listSavedFile(Catalogue& catalogue, const std::string& file, bool complete) {
+    std::vector<std::string>& names = catalogue.ConsistFiles;
+    if (!isListed(catalogue, file))
+        addToArray(names, !names.empty() && names.back().empty(), file);
+
+    std::vector<ConsistSummary>& summaries = catalogue.ConsistSummaries;
+    const auto known =
+        std::find_if(summaries.begin(), summaries.end(), [&file](const ConsistSummary& summary) {
+            return equalIgnoringCase(summary.FileName, file);
+        });
+    if (known == summaries.end()) {
+        addToArray(summaries, !summaries.empty() && summaries.back().FileName.empty(),
+                   ConsistSummary{file, complete, {}});
+        return;
+    }
+    known->Complete = complete;
+    known->ThirdText.clear();
+}
+
+void reportSaved(Editor& editor, bool hadFile, const std::string& backup, bool hasMissing) {
+    Frame& frame = editor.frame;
+    std::string text = frame.text(Message::ConsistSaved);
+    if (!backup.empty()) {
+        const std::string native = frame.files.nativePath(backup);
+        text += frame.text(Message::BackupKept, {{"|1", LineBreak}, {"|2", native}});
+    }
+    if (hadFile && hasMissing)
+        text += std::string(LineBreak) + frame.text(Message::StockMissing);
+    frame.show(text, style::Information);
+}
+
+// Nothing else has changed: the consist stays unsaved, and a close that waits for the save stays open.
+void reportFailure(Editor& editor, const std::string& path) {
+    const std::string native = editor.frame.files.nativePath(path);
+    editor.frame.show(editor.frame.text(Message::SaveFailed, {{"|1", native}, {"|2", LineBreak}}),
+                      style::Exclamation);
+}
+
+// Brings everything up to date that the new file has changed.
+void takeSaved(Editor& editor, const std::string& folder, Rame rame, VehicleList list) {
+    ConsistDocument& document = editor.document;
+    AppState& state = editor.frame.state;
+    // A save under another name makes a new file: the old one goes on using its stock.
+    if (state.HasFile && !equalIgnoringCase(rame.FileName, document.rame.FileName))
+        document.RameStockOld.clear();
+    document.rame = std::move(rame);
+    document.RameStockNew = std::move(list.stock);
+    state.ConsistFolder = folder;
+    if (sameFolder(folder, consistsPath(state.RootPrimary)))
+        listSavedFile(editor.catalogue, document.rame.FileName, !list.hasMissing);
+    UpdateStockUse(editor, state.HasFile, document.rame.Name, document.rame.FileName, folder);
+}
+
+void showSaved(Editor& editor) {
+    editor.frame.state.HasFile = true;
+    setModified(editor, false);
+    editor.document.controls.deleteEnabled = true;
+    editor.document.controls.shortNameEnabled = false;
+}
+
+} // namespace
+
+void SaveFileRame(Editor& editor) {
+    const std::optional<SaveNames> names = checkNames(editor);
+    if (!names)
+        return;
+    Frame& frame = editor.frame;
+    const bool hadFile = frame.state.HasFile;
+    const std::string folder = targetFolder(frame.state);
+    VehicleList list = listVehicles(editor);
+    const bool hasMissing = list.hasMissing;
+    Rame rame = rameToWrite(editor, *names, list.hasEngine);
+
+    const std::string backup = keepBackup(editor, folder, names->file);
+    if (!writeConsist(editor, folder, rame, list)) {
+        reportFailure(editor, folder + names->file);
+        return;
+    }
+    takeSaved(editor, folder, std::move(rame), std::move(list));
+    reportSaved(editor, hadFile, backup, hasMissing);
+    showSaved(editor);
+    if (editor.document.openedFromOptions || readNumericFlag(frame.profiles, "NewFile", frame.state.IniPath))
+        beginNewConsist(editor);
+}
+
+} // namespace zandor

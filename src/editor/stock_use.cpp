@@ -1,0 +1,87 @@
+#include "editor/consist_io.h"
+#include "editor/editor_parts.h"
+
+#include <unordered_set>
+
+namespace zandor {
+
+namespace {
+
+constexpr int HighestCount = 32767; // 16 bits
+
+using PairSet = std::unordered_set<std::string, TextHash, std::equal_to<>>;
+
+std::string foldedPair(const StockPair& pair) {
+    std::string key = lowerCase(pair.Folder);
+    key += '\\';
+    key += lowerCase(pair.FileName);
+    return key;
+}
+
+PairSet foldedSet(const std::vector<StockPair>& pairs) {
+    PairSet set;
+    for (const StockPair& pair : pairs)
+        set.insert(foldedPair(pair));
+    return set;
+}
+
+void raiseCount(Catalogue& catalogue, const StockPair& pair) {
+    StockUse* use = findStockUse(catalogue, pair.Folder, pair.FileName);
+    if (!use)
+        appendStockUse(catalogue, pair.Folder, pair.FileName, 1);
+    else if (use->Count < HighestCount)
+        ++use->Count;
+}
+
+// Consists may spell one stock in several cases, each with a record of its own: the first that counts is
+// lowered.
+void lowerCount(Catalogue& catalogue, const StockPair& pair) {
+    StockUse* use = findStockUse(catalogue, pair.Folder, pair.FileName);
+    while (use && use->Count <= 0 && use->NextSameName >= 0)
+        use = &catalogue.StockUsage[static_cast<std::size_t>(use->NextSameName)];
+    if (use && use->Count > 0)
+        --use->Count;
+}
+
+// Once per entry of a list; what stands in both lists, however often, is left alone.
+void countDifference(Catalogue& catalogue, const std::vector<StockPair>& before,
+                     const std::vector<StockPair>& now) {
+    const PairSet oldSet = foldedSet(before), newSet = foldedSet(now);
+    for (const StockPair& pair : before)
+        if (!pair.FileName.empty() && !newSet.contains(foldedPair(pair)))
+            lowerCount(catalogue, pair);
+    for (const StockPair& pair : now)
+        if (!oldSet.contains(foldedPair(pair)))
+            raiseCount(catalogue, pair);
+}
+
+ConsistEntry& entryOf(Catalogue& catalogue, const std::string& fileName, const std::string& folder) {
+    std::vector<ConsistEntry>& index = catalogue.ConsistIndex;
+    for (ConsistEntry& entry : index)
+        if (equalIgnoringCase(entry.FileName, fileName) && equalIgnoringCase(entry.FolderPath, folder))
+            return entry;
+    return addToArray(index, !index.empty() && index.back().FileName.empty(), ConsistEntry());
+}
+
+} // namespace
+
+void UpdateStockUse(Editor& editor, bool hadFile, const std::string& fullName, const std::string& fileName,
+                    const std::string& folder) {
+    if (!editor.frame.state.PrintGreen)
+        return;
+    ConsistDocument& document = editor.document;
+    // Without an old list every pair counts as new.
+    countDifference(editor.catalogue, hadFile ? document.RameStockOld : std::vector<StockPair>(),
+                    document.RameStockNew);
+
+    ConsistEntry& entry = entryOf(editor.catalogue, fileName, folder);
+    entry.FileName = fileName;
+    entry.DisplayName = fullName;
+    entry.FolderPath = folder;
+    entry.Items = document.RameStockNew;
+    if (entry.Items.empty())
+        entry.Items.emplace_back();
+    document.RameStockOld = document.RameStockNew;
+}
+
+} // namespace zandor

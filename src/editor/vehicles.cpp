@@ -1,0 +1,183 @@
+#include "editor/coupling.h"
+#include "editor/editor_parts.h"
+
+#include <algorithm>
+
+namespace zandor {
+
+namespace {
+
+constexpr int HighestNumber = 32767; // 16 bits in the file
+
+// Behind the highest number the lowest one that no vehicle has follows.
+int numberAfter(const ConsistDocument& document, int number) {
+    if (number < HighestNumber)
+        return number + 1;
+    std::vector<bool> taken(HighestNumber + 1, false);
+    for (const Vehicule& vehicule : document.Vehicules)
+        if (vehicule.Number >= 0 && vehicule.Number <= HighestNumber)
+            taken[static_cast<std::size_t>(vehicule.Number)] = true;
+    return static_cast<int>(std::find(taken.begin(), taken.end(), false) - taken.begin());
+}
+
+void describeFrom(const Materiel& materiel, Vehicule& vehicule) {
+    vehicule.Name = shownName(materiel);
+    if (vehicule.Name.empty()) // stock that can't be read has but its file's name
+        vehicule.Name = materiel.FileName;
+    vehicule.Coupling = materiel.Coupling;
+    vehicule.ImageIsGeneric = materiel.ImageIsGeneric;
+    vehicule.ImageIsResource = materiel.ImageIsResource;
+    vehicule.Picture = materiel.Picture;
+    vehicule.Mass = materiel.Mass;
+    vehicule.Size = materiel.Size;
+}
+
+void describeMissing(const RameItem& item, Vehicule& vehicule) {
+    vehicule.Missing = true;
+    vehicule.Name = stockFileOf(item);
+    vehicule.Picture = "NO_MATERIEL";
+    vehicule.ImageIsResource = true;
+}
+
+Vehicule makeVehicule(const Editor& editor, int index, bool fromMateriels, bool fromSimulator,
+                      const RameItem* origin) {
+    Vehicule vehicule;
+    vehicule.FromSimulator = fromSimulator && !fromMateriels;
+    vehicule.MaterielIndex = index;
+    const Materiel* materiel = fromMateriels || fromSimulator ? materielOf(editor, vehicule) : nullptr;
+    if (origin)
+        vehicule.origin = *origin;
+    if (materiel)
+        describeFrom(*materiel, vehicule);
+    else
+        describeMissing(vehicule.origin ? *vehicule.origin : vehicule.origin.emplace(), vehicule);
+    return vehicule;
+}
+
+// Where the vehicle comes to stand once it is out of `from`.
+int destination(int from, int to, bool atEnd) {
+    return from < to && !atEnd ? to - 1 : to;
+}
+
+void relocate(std::vector<Vehicule>& vehicules, int from, int dest) {
+    const auto begin = vehicules.begin();
+    if (from < dest)
+        std::rotate(begin + from, begin + from + 1, begin + dest + 1);
+    else
+        std::rotate(begin + dest, begin + from, begin + from + 1);
+}
+
+bool acceptsMove(Editor& editor, int from, int to, bool atEnd) {
+    const int last = lastPosition(editor.document);
+    const int left = std::clamp(atEnd ? to : to - 1, 0, last);
+    const bool fits =
+        CheckCoupling(editor, left, from, true) && (from >= last || CheckCoupling(editor, from, to, true));
+    return fits || reactToBadCoupling(editor);
+}
+
+} // namespace
+
+void InsertVehicule(Editor& editor, int index, bool fromMateriels, bool fromSimulator,
+                    const RameItem* origin) {
+    ConsistDocument& document = editor.document;
+    if (vehicleCount(document) >= MaxEntries) {
+        showStripFull(editor);
+        return;
+    }
+    Vehicule vehicule = makeVehicule(editor, index, fromMateriels, fromSimulator, origin);
+    vehicule.Number = document.NextNumber;
+    vehicule.Width = document.PictureWidth;
+
+    std::vector<Vehicule>& vehicules = document.Vehicules;
+    if (!hasVehicles(document))
+        vehicules.assign(1, std::move(vehicule));
+    else if (document.DragActive && !document.DragAtEnd && isPosition(document, document.DragTarget))
+        vehicules.insert(vehicules.begin() + document.DragTarget, std::move(vehicule));
+    else
+        vehicules.push_back(std::move(vehicule));
+
+    document.NextNumber = numberAfter(document, document.NextNumber);
+    document.StripWidth += document.PictureWidth;
+    if (document.Loading)
+        return; // the strip is laid out once, when the whole consist stands
+    setModified(editor, true);
+    updateStrip(editor);
+}
+
+bool MoveVehicule(Editor& editor, int from, int to) {
+    ConsistDocument& document = editor.document;
+    const bool atEnd = document.DragAtEnd;
+    if (!isPosition(document, from) || !isPosition(document, to) || from == to || (to == from + 1 && !atEnd))
+        return true;
+    if (!acceptsMove(editor, from, to, atEnd))
+        return false;
+    relocate(document.Vehicules, from, destination(from, to, atEnd));
+    setModified(editor, true);
+    clearDrag(document);
+    updateStrip(editor);
+    return true;
+}
+
+void RemoveVehicule(Editor& editor) {
+    ConsistDocument& document = editor.document;
+    std::vector<Vehicule>& vehicules = document.Vehicules;
+    if (!isPosition(document, document.DragSource))
+        return;
+    const auto removed = vehicules.begin() + document.DragSource;
+    document.StripWidth -= removed->Width;
+    vehicules.erase(removed);
+    if (vehicules.empty())
+        vehicules.emplace_back();
+    setModified(editor, hasVehicles(document));
+    updateStrip(editor);
+}
+
+void RenumberVehicles(Editor& editor) {
+    ConsistDocument& document = editor.document;
+    const AppState& state = editor.frame.state;
+    if (document.Loading || !state.Modified || !state.PrintNumber)
+        return;
+    document.NextNumber = 0;
+    for (Vehicule& vehicule : document.Vehicules)
+        if (!vehicule.Name.empty())
+            vehicule.Number = document.NextNumber++;
+    setModified(editor, true);
+}
+
+void numberButtonPressed(Editor& editor) {
+    AppState& state = editor.frame.state;
+    if (!hasVehicles(editor.document)) {
+        setModified(editor, false);
+        editor.document.controls.numberEnabled = false;
+        return;
+    }
+    const bool kept = state.PrintNumber;
+    state.PrintNumber = true;
+    setModified(editor, true);
+    updateStrip(editor);
+    state.PrintNumber = kept;
+}
+
+void flipVehicule(Editor& editor, int x, int y) {
+    const StripHit hit = HitTestStrip(editor.document, x, y);
+    if (hit.hit) {
+        Vehicule& vehicule = editor.document.Vehicules[static_cast<std::size_t>(hit.index)];
+        if (!vehicule.Missing) {
+            vehicule.Flipped = !vehicule.Flipped;
+            setModified(editor, true);
+            updateStrip(editor);
+        }
+    }
+    clearDrag(editor.document);
+}
+
+void showStripFull(Editor& editor) {
+    const ConsistDocument& document = editor.document;
+    const std::string& name =
+        document.rame.FileName.empty() ? document.controls.shortName : document.rame.FileName;
+    editor.frame.show(
+        editor.frame.text(Message::TooManyFiles, {{"|1", name}, {"|2", std::to_string(MaxEntries)}}),
+        style::Exclamation);
+}
+
+} // namespace zandor

@@ -1,0 +1,193 @@
+#include "editor_fixture.h"
+
+namespace zandor {
+namespace {
+
+TEST(CouplingRule, NeedsOneTypeInCommon) {
+    struct Case {
+        const char *a, *b, *uniqueA, *uniqueB;
+        bool fits;
+    };
+    for (const Case& c : {
+             Case{"automatic", "automatic_bar", "", "", true},
+             Case{"Automatic", "AUTOMATIC", "", "", true},
+             Case{"chain", "bar", "", "", false},
+             Case{"chain_bar", "hydraulic_bar", "", "", true},
+             Case{"chain_bar", "bar_hydraulic", "", "", true},
+             Case{"", "bar", "", "", true},
+             Case{"bar", "", "", "", true},
+             Case{"scharfenberg", "Scharfenberg", "", "", true},
+             Case{"automatic", "automatic", "x", "", false},
+             Case{"automatic", "automatic", "X", "x", true},
+             Case{"automatic", "automatic", "x", "y", false},
+             Case{"chain_bar", "bar", "x", "", true},
+             Case{"chain_bar", "chain", "x", "", false},
+             Case{"chain_bar", "chain", "x", "x", true},
+             Case{"chain_bar", "chain", "x_END", "", true},
+             Case{"chain_bar", "bar", "x_END", "", false},
+             Case{"chain_bar", "bar", " x _END", "X", true},
+             Case{"bar", "_bar", "", "", false},
+             Case{"_bar", "bar", "", "", true},
+         }) {
+        EXPECT_EQ(CouplingCompatible(c.a, c.b, c.uniqueA, c.uniqueB), c.fits)
+            << c.a << " (" << c.uniqueA << ") and " << c.b << " (" << c.uniqueB << ")";
+    }
+}
+
+TEST(CouplingRule, KnownTypesHaveAnImage) {
+    EXPECT_EQ(CouplingImageName("Chain_BAR"), "CHAIN_BAR");
+    EXPECT_EQ(CouplingImageName("hydraulic"), "HYDRO");
+    EXPECT_EQ(CouplingImageName("automatic_hydraulic"), "AUTO_HYDRO");
+    for (const char* other : {"", "bar_bar", "scharfenberg", "chain_"})
+        EXPECT_EQ(CouplingImageName(other), "") << other;
+}
+
+class CouplingTest : public EditorTest {
+  protected:
+    int chain = addStock("c.wag", "chain"), bar = addStock("b.wag", "bar"),
+        both = addStock("x.wag", "chain_bar"), unknown = addStock("u.wag");
+
+    void strip(std::initializer_list<int> stock) {
+        state.NoAlertCoupling = true;
+        for (int index : stock)
+            appendStock(editor, index);
+        state.NoAlertCoupling = state.Modified = controls.saveEnabled = false;
+    }
+    // What a refusal has to leave as it is.
+    std::string everything() const {
+        return order() + " next " + std::to_string(document.NextNumber) + " wide " +
+               std::to_string(document.StripWidth) + (state.Modified ? " modified" : "") + controls.totals;
+    }
+};
+
+TEST_F(CouplingTest, ABadPairIsToldAndAccepted) {
+    strip({chain});
+    EXPECT_TRUE(appendStock(editor, bar));
+    EXPECT_EQ(shown(), Shown{"48 misfit"});
+    EXPECT_EQ(order(), "cb");
+}
+
+TEST_F(CouplingTest, WithoutAnAlertNothingIsRefused) {
+    strip({chain});
+    state.NoAlertCoupling = state.PassIsBadCoupling = true;
+    EXPECT_TRUE(appendStock(editor, bar));
+    EXPECT_EQ(shown(), Shown{});
+    EXPECT_EQ(order(), "cb");
+}
+
+TEST_F(CouplingTest, ARefusalLeavesEverythingAsItIs) {
+    strip({chain, chain, bar});
+    state.PassIsBadCoupling = true;
+    const std::string before = everything();
+    EXPECT_FALSE(appendStock(editor, chain));
+    dragOverStrip(editor, middleOf(1), 10);
+    EXPECT_FALSE(dropStock(editor, bar));
+    EXPECT_FALSE(document.DragActive);
+    pressStrip(editor, middleOf(2), 10);
+    moveOnStrip(editor, middleOf(0), 10);
+    releaseStrip(editor, ReleaseZone::Strip);
+    EXPECT_EQ(everything(), before);
+    EXPECT_EQ(shown(), (Shown{"48 misfit", "48 misfit", "48 misfit"}));
+    EXPECT_FALSE(document.DragActive || document.StripPressed);
+}
+
+TEST_F(CouplingTest, AVehicleBetweenOthersIsCheckedOnBothSides) {
+    strip({both, bar});
+    state.PassIsBadCoupling = true;
+    dragOverStrip(editor, middleOf(1), 10);
+    EXPECT_FALSE(dropStock(editor, chain)) << "fits on the left alone";
+    dragOverStrip(editor, middleOf(0), 10);
+    EXPECT_TRUE(dropStock(editor, chain)) << "at the front the neighbour alone counts";
+    EXPECT_EQ(order(), "cxb");
+}
+
+TEST_F(CouplingTest, AMoveIsCheckedWhereTheVehicleComesToStand) {
+    struct Case {
+        std::string_view before; // c chain, b bar, x both
+        int from, to;            // positions; past the last vehicle is the end
+        std::string_view after;
+    };
+    for (const Case& c : {Case{"cxb", 2, 0, "cxb"}, Case{"xcb", 2, 0, "bxc"}, Case{"bxc", 0, 3, "bxc"},
+                          Case{"cbx", 0, 3, "bxc"}, Case{"cxb", 0, 2, "cxb"}, Case{"cxb", 2, 1, "cxb"},
+                          Case{"bxcc", 0, 3, "bxcc"}, Case{"cxxb", 0, 3, "cxxb"}}) {
+        newConsist(editor);
+        state.NoAlertCoupling = true;
+        for (char letter : c.before)
+            appendStock(editor, letter == 'c' ? chain : letter == 'b' ? bar : both);
+        state.NoAlertCoupling = state.Modified = false;
+        state.PassIsBadCoupling = true;
+        pressStrip(editor, middleOf(c.from), 10);
+        moveOnStrip(editor, middleOf(c.to), 10);
+        releaseStrip(editor, ReleaseZone::Strip);
+        EXPECT_EQ(order(), c.after) << c.before << " from " << c.from << " to " << c.to;
+        EXPECT_EQ(state.Modified, c.before != c.after);
+        state.Modified = false;
+    }
+}
+
+TEST_F(CouplingTest, OneBadPairIsToldOnce) {
+    strip({chain, chain});
+    dragOverStrip(editor, middleOf(1), 10);
+    EXPECT_TRUE(dropStock(editor, bar));
+    EXPECT_EQ(shown(), Shown{"48 misfit"});
+}
+
+TEST_F(CouplingTest, AStripThatEndsInUnknownCouplingIsNotChecked) {
+    strip({chain, unknown});
+    EXPECT_TRUE(CheckCoupling(editor, 0, bar, false));
+    strip({bar});
+    EXPECT_FALSE(CheckCoupling(editor, 0, bar, false));
+    EXPECT_TRUE(CheckCoupling(editor, 1, bar, false))
+        << "the last vehicle stands in for one without coupling";
+    EXPECT_FALSE(CheckCoupling(editor, 1, chain, false));
+    EXPECT_TRUE(CheckCoupling(editor, 2, 1, true));
+}
+
+TEST_F(CouplingTest, AMissingVehicleFitsEverything) {
+    catalogue.Materiels[0].CouplingUnique = "own"; // the entry that its index would lead to
+    const RameItem gone{false, 0, false, "gone", "Parc", ""};
+    InsertVehicule(editor, 0, false, false, &gone);
+    strip({bar});
+    EXPECT_TRUE(CheckCoupling(editor, 1, 0, true));
+}
+
+TEST_F(CouplingTest, ThePanelNamesBrakesAndCouplings) {
+    struct Case {
+        const char *brakes, *coupling, *unique, *brakesText, *couplingText;
+    };
+    for (const Case& c : {
+             Case{"Air_Single_Pipe", "Chain", "", "Brakes air", "Coupled chain"},
+             Case{"air_piped", "automatic", "x", "Brakes piped air", "Coupled auto (x)"},
+             Case{"ECP", "chain_bar", "", "Brakes ECP", "Coupled chain, bar"},
+             Case{"ep", "chain_bar", "x", "Brakes EP", "Coupled chain (x), bar"},
+             Case{"handbrake", "hydraulic_bar", "x_END", "", "Coupled hydro, bar (x)"},
+             Case{"", "", "x", "", ""},
+             Case{"", "bar_bar", "", "", ""},
+         }) {
+        Materiel materiel;
+        materiel.BrakeSystem = c.brakes;
+        materiel.Coupling = c.coupling;
+        materiel.CouplingUnique = c.unique;
+        const MaterielInfo info = ShowMaterielInfo(frame, materiel);
+        EXPECT_EQ(info.brakes, c.brakesText);
+        EXPECT_EQ(info.coupling, c.couplingText) << c.coupling << " " << c.unique;
+    }
+}
+
+TEST_F(CouplingTest, ThePanelShowsNamesAndFigures) {
+    Materiel materiel;
+    materiel.Folder = "Parc";
+    materiel.FileName = "a.wag";
+    materiel.WagonName = "Voiture";
+    materiel.Size = "3m 4m 18.5m";
+    materiel.Mass = "heavy";
+    const MaterielInfo info = ShowMaterielInfo(frame, materiel);
+    EXPECT_EQ(info.select, " Voiture ");
+    EXPECT_EQ(info.path, "Parc\\a.wag");
+    EXPECT_EQ(info.length, "18.5 m");
+    EXPECT_EQ(info.mass, "0 t");
+    EXPECT_EQ(ShowMaterielInfo(frame, Materiel()).length, "");
+}
+
+} // namespace
+} // namespace zandor

@@ -1,0 +1,255 @@
+#include "editor_fixture.h"
+
+#include <chrono>
+
+namespace zandor {
+namespace {
+
+constexpr const char* Vehicles =
+    "Train (\r\n\tTrainCfg ( Mixed\r\n\t\tName ( \"A mixed train\" )\r\n"
+    "\t\tSerial ( 3 )\r\n\t\tDefault ( )\r\n\t\tMaxVelocity ( 30.00000 1.00000 )\r\n"
+    "\t\tNextWagonUID ( 9 )\r\n\t\tDurability ( 0.75000 )\r\n"
+    "\t\tEngine (\r\n\t\t\tFlip ( )\r\n\t\t\tUiD ( 4 )\r\n"
+    "\t\t\tEngineData ( loco1 FOLDER1 )\r\n\t\t\tEngineVariables( 1 2 3 )\r\n\t\t)\r\n"
+    "\t\tEngine (\r\n\t\t\tUiD ( 5 )\r\n\t\t\tEngineData ( Gone \"Old Parc\" )\r\n"
+    "\t\t\tEngineVariables( 7 )\r\n\t\t)\r\n"
+    "\t\tWagon (\r\n\t\t\tWagonData ( Wag1 Folder1 )\r\n\t\t\tUiD ( 6 )\r\n\t\t)\r\n"
+    "\t\tWagon (\r\n\t\t\tWagonData ( \"Gone too\" Parc )\r\n\t\t\tUiD ( 8 )\r\n"
+    "\t\t\tFlip ( )\r\n\t\t)\r\n\t)\r\n)\r\n";
+
+class OpenTest : public EditorTest {
+  protected:
+    int loco = addStock("Loco1.eng"), wagon = addStock("Wag1.wag");
+
+    bool open(std::string_view file) { return openConsist(editor, consistPath(file)); }
+    std::string rows() const {
+        std::string text;
+        for (const Vehicule& v : document.Vehicules)
+            text += v.Name + (v.Missing ? " missing" : "") + (v.FromSimulator ? " simulator" : "") +
+                    (v.Flipped ? " flipped " : " ") + std::to_string(v.Number) + " " + v.EngineVariables +
+                    "|";
+        return text;
+    }
+};
+
+TEST_F(OpenTest, BringsAFileOntoTheStrip) {
+    putConsist("mixed.con", Vehicles);
+    ASSERT_TRUE(open("mixed.con"));
+    EXPECT_EQ(rows(), "Loco1 flipped 4 EngineVariables(1 2 3)|Gone.eng missing 5 EngineVariables(7)|"
+                      "Wag1 6 |Gone too.wag missing flipped 8 |");
+    EXPECT_EQ(controls.fullName, "A mixed train");
+    EXPECT_EQ(controls.shortName, "Mixed");
+    EXPECT_FALSE(controls.shortNameRed || controls.shortNameEnabled);
+    EXPECT_EQ(controls.durability, 750);
+    EXPECT_EQ(document.NextNumber, 9);
+    EXPECT_EQ(document.StripWidth, 4 * PlainPictureWidth);
+    EXPECT_TRUE(state.HasFile && controls.deleteEnabled && controls.numberEnabled);
+    EXPECT_FALSE(state.Modified || controls.saveEnabled || document.Loading);
+    EXPECT_EQ(state.ConsistFolder, consistsPath(Simulator));
+    EXPECT_EQ(shown(), Shown{});
+}
+
+TEST_F(OpenTest, WhatIsSavedIsWhatWasRead) {
+    putConsist("mixed.con", Vehicles);
+    ASSERT_TRUE(open("mixed.con"));
+    const std::string before = rows();
+    SaveFileRame(editor);
+    EXPECT_EQ(shown().size(), 1u);
+    EXPECT_TRUE(shown()[0].ends_with("\r\nincomplete")) << shown()[0];
+    for (const char* line :
+         {"EngineData ( Gone \"Old Parc\" )", "WagonData ( \"Gone too\" Parc )", "Serial ( 3 )",
+          "EngineVariables(7)", "EngineVariables(1 2 3)", "EngineData ( Loco1 Folder1 )",
+          "MaxVelocity ( 30.00000 1.00000 )", "Durability ( 0.75000 )", "NextWagonUID ( 9 )"})
+        EXPECT_TRUE(savedHas("mixed.con", line)) << line;
+    const std::string saved = savedText("mixed.con");
+
+    initialiseDocument(editor);
+    ASSERT_TRUE(open("mixed.con"));
+    EXPECT_EQ(rows(), before);
+    SaveFileRame(editor);
+    EXPECT_EQ(savedText("mixed.con"), saved);
+    EXPECT_FALSE(catalogue.ConsistSummaries.back().Complete);
+}
+
+TEST_F(OpenTest, AMissingVehicleTakesANewNumberWithItsOldLines) {
+    putConsist("mixed.con", Vehicles);
+    open("mixed.con");
+    numberButtonPressed(editor);
+    SaveFileRame(editor);
+    EXPECT_NE(savedText("mixed.con").find("UiD ( 1 )\r\n\t\t\tEngineData ( Gone \"Old Parc\" )"),
+              std::string::npos);
+}
+
+TEST_F(OpenTest, AFileNamedOtherwiseShowsBothNamesAndKeepsThem) {
+    const std::string longName(35, 'L');
+    struct Case {
+        const char *file, *cfgName, *shown;
+        bool red;
+    };
+    const std::string longShown = longName + " - file.con";
+    for (const Case& c :
+         {Case{"Test.con", "tEST", "tEST", false}, Case{"file.con", "Été", "Été - file.con", true},
+          Case{"file.con", longName.c_str(), longShown.c_str(), true}}) {
+        putConsist(c.file, "Train (\r\nTrainCfg ( " + std::string(c.cfgName) +
+                               "\r\nWagon (\r\nWagonData ( Wag1 Folder1 )\r\n)\r\n)\r\n)\r\n");
+        ASSERT_TRUE(open(c.file));
+        EXPECT_EQ(controls.shortName, c.shown);
+        EXPECT_EQ(controls.shortNameRed, c.red);
+        const auto before = files.allFiles().size();
+        settings("0", "0");
+        SaveFileRame(editor);
+        EXPECT_EQ(files.allFiles().size(), before) << "the file keeps its name";
+        EXPECT_TRUE(savedHas(c.file, "TrainCfg ( " + std::string(c.cfgName)));
+        EXPECT_EQ(controls.shortName, c.shown);
+        EXPECT_EQ(controls.shortNameRed, c.red);
+    }
+}
+
+TEST_F(OpenTest, WhatIsNoConsistChangesNothing) {
+    compose("AB");
+    controls.shortName = "mine";
+    files.put(consistPath("wrong.con"), "SIMISA@@@@@@@@@@JINX0a0t______\r\nTrain (\r\n)\r\n");
+    files.put(consistPath("empty.con"), "");
+    files.put("C:\\x.txt", std::string(ConsistSignature) + "\r\nTrain (\r\n)\r\n");
+    for (const std::string& path : {consistPath("wrong.con"), consistPath("empty.con"),
+                                    consistPath("absent.con"), std::string("C:\\x.txt")}) {
+        dialogs.shown.clear();
+        EXPECT_FALSE(openConsist(editor, path)) << path;
+        EXPECT_EQ(shown(), Shown{"48 no consist " + files.nativePath(path)});
+        EXPECT_EQ(order(), "AB");
+        EXPECT_EQ(controls.shortName, "mine");
+        EXPECT_FALSE(state.HasFile);
+    }
+}
+
+TEST_F(OpenTest, AFailingDiskNeverPassesForAnEmptyConsist) {
+    putConsist("mixed.con", Vehicles);
+    for (bool allAfter : {false, true})
+        for (int call = 1;; ++call) {
+            initialiseDocument(editor);
+            files.failAt(call, allAfter);
+            const bool opened = open("mixed.con");
+            const bool failed = files.failed();
+            files.failAt(0);
+            EXPECT_EQ(vehicleCount(document), opened ? 4 : 0) << call;
+            EXPECT_EQ(state.HasFile, opened);
+            if (!failed)
+                break;
+        }
+}
+
+TEST_F(OpenTest, AMalformedConsistIsToldAndOpenedAsFarAsItGoes) {
+    files.put(state.LanguagePath, "[English]\r\n391=no bracket in line |1\r\n");
+    putConsist("bad.con", "Train (\r\nTrainCfg ( bad\r\nWagon (\r\nWagonData ( Wag1 Folder1 )\r\n)\r\n"
+                          "Wagon (\r\nWagonData Wag1 Folder1 )\r\n)\r\n)\r\n)\r\n");
+    ASSERT_TRUE(open("bad.con"));
+    EXPECT_EQ(order(), "Wag1");
+    EXPECT_EQ(shown(), Shown{"48 no bracket in line 9"});
+}
+
+TEST_F(OpenTest, AConsistWithoutVehiclesOpensEmpty) {
+    putConsist("none.con", "Train (\r\nTrainCfg ( \r\n)\r\n)\r\n");
+    ASSERT_TRUE(open("none.con"));
+    EXPECT_TRUE(state.HasFile);
+    EXPECT_FALSE(hasVehicles(document));
+}
+
+TEST_F(OpenTest, StockThatCameAfterTheLoadIsAddedAtTheEnd) {
+    files.put(trainsetPath(Simulator) + "Parc\\late.eng",
+              std::string(ConsistSignature) +
+                  "\r\nWagon ( late\r\nType ( Engine )\r\nCoupling (\r\nType ( Chain )\r\n)\r\n)\r\n"
+                  "Engine ( late\r\nName ( \"Late\" )\r\n)\r\n");
+    putConsist("late.con", "Train (\r\nTrainCfg ( late\r\nEngine (\r\nEngineData ( late Parc )\r\n)\r\n"
+                           "Wagon (\r\nWagonData ( Wag1 Folder1 )\r\n)\r\n"
+                           "Engine (\r\nEngineData ( LATE Parc )\r\n)\r\n)\r\n)\r\n");
+    for (int i = 0; i < 2; ++i) {
+        ASSERT_TRUE(open("late.con"));
+        EXPECT_EQ(order(), "LateWag1Late");
+        ASSERT_EQ(catalogue.Materiels.size(), 3u) << "once";
+        EXPECT_EQ(catalogue.Materiels[0].FileName, "Loco1.eng");
+        EXPECT_EQ(document.Vehicules[2].MaterielIndex, 2);
+    }
+    catalogue.Materiels.resize(2);
+    catalogue.Materiels.resize(MaxEntries, catalogue.Materiels[0]);
+    ASSERT_TRUE(open("late.con"));
+    EXPECT_TRUE(document.Vehicules[0].Missing) << "no index is left";
+    EXPECT_EQ(catalogue.Materiels.size(), static_cast<std::size_t>(MaxEntries));
+}
+
+TEST_F(OpenTest, StockIsAddedOnceToAnEmptyCatalogueToo) {
+    catalogue.Materiels.assign(1, {});
+    putConsist("one.con",
+               "Train (\r\nTrainCfg ( one\r\nWagon (\r\nWagonData ( Wag1 Folder1 )\r\n)\r\n)\r\n)\r\n");
+    for (int i = 0; i < 2; ++i) {
+        ASSERT_TRUE(open("one.con"));
+        ASSERT_EQ(catalogue.Materiels.size(), 1u);
+        EXPECT_EQ(catalogue.Materiels[0].FileName, "Wag1.wag");
+    }
+}
+
+class StoreTest : public OpenTest {
+  protected:
+    StoreTest() {
+        // Loco1 and Wag1 stand in the simulator's tree alone.
+        state.RootPrimary = Store;
+        state.RootSecondary = Simulator;
+        catalogue.Materiels.assign(1, {});
+        putConsist("mixed.con", Vehicles);
+    }
+};
+
+TEST_F(StoreTest, StockOfTheSimulatorIsFoundFromTheTrainStore) {
+    Materiel known;
+    known.Folder = "Folder1";
+    known.FileName = "Loco1.eng";
+    known.EngineName = "Known";
+    catalogue.snapshots[0].Materiels = {known};
+    ASSERT_TRUE(open("mixed.con"));
+    EXPECT_EQ(rows(),
+              "Known simulator flipped 4 EngineVariables(1 2 3)|Gone.eng missing 5 EngineVariables(7)|"
+              "Wag1.wag simulator 6 |Gone too.wag missing flipped 8 |");
+    EXPECT_EQ(catalogue.snapshots[0].Materiels.size(), 2u);
+    EXPECT_EQ(catalogue.snapshots[0].Materiels[1].BasePath, trainsetPath(Simulator));
+    SaveFileRame(editor);
+    EXPECT_TRUE(savedHas("mixed.con", "EngineData ( Loco1 Folder1 )"));
+    EXPECT_TRUE(savedHas("mixed.con", "WagonData ( Wag1 Folder1 )"));
+}
+
+TEST_F(StoreTest, ThePrimarySimulatorNeverLooksInTheTrainStore) {
+    files.put(trainsetPath(Store) + "Parc\\Gone too.wag", "stock");
+    state.RootPrimary = Simulator;
+    state.RootSecondary = Store;
+    ASSERT_TRUE(open("mixed.con"));
+    EXPECT_TRUE(document.Vehicules[3].Missing);
+}
+
+TEST_F(StoreTest, AChangeOfRootsEmptiesTheEditorAndFindsTheOtherStock) {
+    ASSERT_TRUE(open("mixed.con"));
+    changeDurability(editor, 600);
+    std::swap(state.RootPrimary, state.RootSecondary);
+    state.MainReady = true;
+    EXPECT_TRUE(ReloadAfterOptions(editor));
+    EXPECT_FALSE(state.Busy || state.Modified || state.HasFile || hasVehicles(document));
+    EXPECT_EQ(controls.durability, 600) << "the slider stays where the user has it";
+    EXPECT_EQ(document.rame.Durability, "0.60000");
+    ASSERT_TRUE(open("mixed.con"));
+    EXPECT_EQ(rows(), "Loco1.eng flipped 4 EngineVariables(1 2 3)|Gone.eng missing 5 EngineVariables(7)|"
+                      "Wag1.wag 6 |Gone too.wag missing flipped 8 |");
+}
+
+TEST_F(OpenTest, TheLongestConsistOpensAtOnce) {
+    std::string body = "Train (\r\nTrainCfg ( long\r\n";
+    for (int i = 0; i < MaxEntries + 2; ++i)
+        body += "Wagon (\r\nWagonData ( Wag1 Folder1 )\r\nUiD ( " + std::to_string(i % 100) + " )\r\n)\r\n";
+    putConsist("long.con", body + ")\r\n)\r\n");
+    const auto begin = std::chrono::steady_clock::now();
+    ASSERT_TRUE(open("long.con"));
+    const std::chrono::duration<double> spent = std::chrono::steady_clock::now() - begin;
+    EXPECT_EQ(vehicleCount(document), MaxEntries);
+    EXPECT_EQ(shown(), Shown{"48 limit 32766 in long.con"});
+    EXPECT_LT(spent.count(), 5.0) << "a fraction of a second when nothing is squared, minutes otherwise";
+    RecordProperty("seconds", std::to_string(spent.count()));
+}
+
+} // namespace
+} // namespace zandor

@@ -1,0 +1,266 @@
+#include "editor_fixture.h"
+
+namespace zandor {
+namespace {
+
+constexpr const char* BackupOf = "\\program\\Backup\\Sauvegarde des fichiers de rames\\";
+
+class SaveTest : public EditorTest {
+  protected:
+    int loco = addStock("Loco1.eng"), wagon = addStock("Wag1.wag");
+
+    void composeExample() {
+        appendStock(editor, loco);
+        appendStock(editor, wagon);
+        flipVehicule(editor, middleOf(1), 10);
+        nameConsist("Test");
+    }
+};
+
+TEST_F(SaveTest, WritesTheWholeTextOfAConsist) {
+    composeExample();
+    SaveFileRame(editor);
+    EXPECT_EQ(shown(), Shown{"64 saved"});
+    const std::string expected = "SIMISA@@@@@@@@@@JINX0D0t______\r\n"
+                                 "\r\n"
+                                 "Train (\r\n"
+                                 "\tTrainCfg ( Test\r\n"
+                                 "\t\tName ( \"Test\" )\r\n"
+                                 "\t\tSerial ( 1 )\r\n"
+                                 "\t\tMaxVelocity ( 40.00000 1.00000 )\r\n"
+                                 "\t\tNextWagonUID ( 2 )\r\n"
+                                 "\t\tDurability ( 1.00000 )\r\n"
+                                 "\t\tEngine (\r\n"
+                                 "\t\t\tUiD ( 0 )\r\n"
+                                 "\t\t\tEngineData ( Loco1 Folder1 )\r\n"
+                                 "\t\t)\r\n"
+                                 "\t\tWagon (\r\n"
+                                 "\t\t\tWagonData ( Wag1 Folder1 )\r\n"
+                                 "\t\t\tUiD ( 1 )\r\n"
+                                 "\t\t\tFlip ( )\r\n"
+                                 "\t\t)\r\n"
+                                 "\t)\r\n"
+                                 ")\r\n";
+    const std::string bytes = files.get(consistPath("Test.con")).value_or("");
+    EXPECT_EQ(bytes.substr(0, 6), std::string("\xFF\xFE\x53\x00\x49\x00", 6));
+    EXPECT_EQ(bytes, "\xFF\xFE" + encodeUtf16(expected));
+}
+
+TEST_F(SaveTest, ASavedConsistStaysAndIsClean) {
+    composeExample();
+    SaveFileRame(editor);
+    EXPECT_TRUE(state.HasFile && controls.deleteEnabled);
+    EXPECT_FALSE(state.Modified || controls.saveEnabled || controls.shortNameEnabled);
+    EXPECT_EQ(order(), "Loco1Wag1");
+    EXPECT_EQ(catalogue.ConsistFiles, Shown{"Test.con"});
+    EXPECT_EQ(catalogue.ConsistSummaries[0].FileName, "Test.con");
+    EXPECT_TRUE(catalogue.ConsistSummaries[0].Complete);
+    SaveFileRame(editor);
+    EXPECT_EQ(catalogue.ConsistFiles, Shown{"Test.con"});
+    EXPECT_EQ(catalogue.ConsistSummaries.size(), 1u);
+}
+
+TEST_F(SaveTest, ANewConsistBeginsWhenTheSettingOrTheToolWindowAsksForIt) {
+    settings("1", "1");
+    composeExample();
+    SaveFileRame(editor);
+    EXPECT_EQ(order(), "");
+    EXPECT_FALSE(state.HasFile || controls.deleteEnabled);
+    EXPECT_TRUE(controls.shortNameEnabled);
+
+    settings("1", "0");
+    composeExample();
+    nameConsist("Other");
+    document.openedFromOptions = true;
+    SaveFileRame(editor);
+    EXPECT_EQ(order(), "");
+}
+
+TEST_F(SaveTest, ABadNameStopsTheSave) {
+    files.put(consistPath("Unlisted.con"), "of another program");
+    catalogue.ConsistFiles = {"Listed.con"};
+    struct Case {
+        const char *shortName, *fullName, *message;
+    };
+    for (const Case& c :
+         {Case{"", "Full", "48 no name"}, Case{"Short", "", "48 no full name"},
+          Case{"LISTED", "Full", "48 LISTED.con taken"}, Case{"unlisted", "Full", "48 unlisted.con taken"}}) {
+        appendStock(editor, wagon);
+        controls.shortName = c.shortName;
+        controls.fullName = c.fullName;
+        const auto before = files.allFiles();
+        dialogs.shown.clear();
+        SaveFileRame(editor);
+        EXPECT_EQ(shown(), Shown{c.message});
+        EXPECT_EQ(files.allFiles(), before);
+        EXPECT_TRUE(state.Modified);
+        EXPECT_FALSE(state.HasFile);
+    }
+}
+
+TEST_F(SaveTest, BlanksAndBracketsInNamesAreQuotedOnceHoweverOftenItIsSaved) {
+    appendStock(editor, addStock("My Wagon.wag", "", "My Folder"));
+    nameConsist("My Train");
+    for (int i = 0; i < 2; ++i) {
+        dialogs.shown.clear();
+        SaveFileRame(editor);
+        EXPECT_EQ(shown().size(), 1u);
+        EXPECT_TRUE(shown()[0].starts_with("64 saved")) << shown()[0];
+        EXPECT_TRUE(savedHas("My Train.con", "TrainCfg ( \"My Train\""));
+        EXPECT_TRUE(savedHas("My Train.con", "WagonData ( \"My Wagon\" \"My Folder\" )"));
+        EXPECT_EQ(controls.shortName, "My Train");
+    }
+}
+
+TEST_F(SaveTest, MaxVelocityFollowsTheEngine) {
+    appendStock(editor, wagon);
+    nameConsist("v");
+    SaveFileRame(editor);
+    EXPECT_TRUE(savedHas("v.con", "MaxVelocity ( 0.00000 0.00100 )"));
+    appendStock(editor, loco);
+    SaveFileRame(editor);
+    EXPECT_TRUE(savedHas("v.con", "MaxVelocity ( 40.00000 1.00000 )"));
+    document.rame.MaxVelocity = "22.22222 0.50000";
+    SaveFileRame(editor);
+    EXPECT_TRUE(savedHas("v.con", "MaxVelocity ( 22.22222 0.50000 )"));
+}
+
+TEST_F(SaveTest, TheWagonsOwnSpellingOfItsNameIsWritten) {
+    catalogue.Materiels[static_cast<std::size_t>(wagon)].WagonName = "WAG1";
+    const int odd = addStock("odd.txt");
+    appendStock(editor, wagon);
+    appendStock(editor, odd);
+    nameConsist("w");
+    SaveFileRame(editor);
+    EXPECT_TRUE(savedHas("w.con", "WagonData ( WAG1 Folder1 )"));
+    EXPECT_EQ(savedText("w.con").find("odd"), std::string::npos);
+    ASSERT_EQ(document.RameStockNew.size(), 1u);
+    EXPECT_EQ(document.RameStockNew[0].FileName, "Wag1.wag");
+}
+
+TEST_F(SaveTest, TheOldFileIsKeptAndTheCopyReplacedByTheNextOne) {
+    composeExample();
+    SaveFileRame(editor);
+    const std::string first = *files.get(consistPath("Test.con"));
+    appendStock(editor, wagon);
+    dialogs.shown.clear();
+    SaveFileRame(editor);
+    const std::string copy = std::string(BackupOf) + "Test.con.old";
+    EXPECT_EQ(files.get(copy), first);
+    EXPECT_EQ(shown(), Shown{"64 saved+kept " + files.nativePath(copy)});
+    const std::string second = *files.get(consistPath("Test.con"));
+    appendStock(editor, wagon);
+    SaveFileRame(editor);
+    EXPECT_EQ(files.get(copy), second);
+
+    settings("0", "0");
+    dialogs.shown.clear();
+    SaveFileRame(editor);
+    EXPECT_EQ(shown(), Shown{"64 saved"});
+    EXPECT_EQ(files.get(copy), second);
+}
+
+TEST_F(SaveTest, ACopyThatCannotBeMadeIsNotReported) {
+    composeExample();
+    SaveFileRame(editor);
+    files.put("\\program\\Backup\\Sauvegarde des fichiers de rames", "a file in the folder's place");
+    dialogs.shown.clear();
+    appendStock(editor, wagon);
+    SaveFileRame(editor);
+    EXPECT_EQ(shown(), Shown{"64 saved"});
+    EXPECT_TRUE(savedHas("Test.con", "NextWagonUID ( 3 )"));
+}
+
+TEST_F(SaveTest, AnotherNameMakesAnotherFile) {
+    composeExample();
+    SaveFileRame(editor);
+    const std::string first = *files.get(consistPath("Test.con"));
+    files.put(consistPath("Taken.con"), "x");
+    changeShortName(editor, "Taken");
+    dialogs.shown.clear();
+    SaveFileRame(editor);
+    EXPECT_EQ(shown(), Shown{"48 Taken.con taken"});
+    changeShortName(editor, "Second");
+    SaveFileRame(editor);
+    EXPECT_EQ(files.get(consistPath("Test.con")), first);
+    EXPECT_TRUE(savedHas("Second.con", "TrainCfg ( Second"));
+}
+
+TEST_F(SaveTest, WithoutItsRootNothingIsCreated) {
+    state.RootPrimary = "D:\\Gone";
+    composeExample();
+    const auto before = files.allFiles();
+    SaveFileRame(editor);
+    EXPECT_TRUE(state.Modified && controls.saveEnabled);
+    EXPECT_EQ(files.allFiles(), before);
+    EXPECT_EQ(shown(), Shown{"48 failed " + files.nativePath("D:\\Gone\\TRAINS\\CONSISTS\\Test.con")});
+}
+
+TEST_F(SaveTest, ACloseWaitsForASaveThatFails) {
+    composeExample();
+    state.RootPrimary = "D:\\Gone";
+    dialogs.defaultAnswer = answer::Yes;
+    EXPECT_FALSE(closeEditor(editor));
+    EXPECT_EQ(order(), "Loco1Wag1");
+    state.RootPrimary = Simulator;
+    EXPECT_TRUE(closeEditor(editor));
+    EXPECT_TRUE(files.get(consistPath("Test.con")));
+}
+
+// Every call that a save makes fails once, alone and with all that follow.
+TEST_F(SaveTest, AFailureAnywhereLosesNothing) {
+    struct Case {
+        bool hasFile, allAfter;
+    };
+    for (const Case& c : {Case{true, false}, Case{true, true}, Case{false, false}, Case{false, true}}) {
+        int failures = 0;
+        for (int call = 1;; ++call) {
+            files = MemoryFileSystem();
+            files.put("C:\\MSTS\\train.exe", "");
+            settings("1", "0");
+            catalogue.ConsistFiles.assign(1, {});
+            catalogue.ConsistSummaries.assign(1, {});
+            initialiseDocument(editor);
+            composeExample();
+            std::optional<std::string> old;
+            if (c.hasFile) {
+                SaveFileRame(editor);
+                old = files.get(consistPath("Test.con"));
+                ASSERT_TRUE(old);
+                appendStock(editor, wagon);
+            }
+            const Rame rameBefore = document.rame;
+            dialogs.shown.clear();
+            files.writeShort(40);
+            files.failAt(call, c.allAfter);
+            SaveFileRame(editor);
+            const bool failed = files.failed();
+            files.failAt(0);
+
+            ASSERT_EQ(shown().size(), 1u);
+            const bool saved = shown()[0].starts_with("64");
+            const auto now = files.get(consistPath("Test.con"));
+            const bool isOld = now == old;
+            const bool isNew =
+                now && now->size() > 100 && savedText("Test.con").ends_with("\t)\r\n)\r\n") && now != old;
+            EXPECT_TRUE(isOld || isNew) << "call " << call;
+            EXPECT_EQ(state.Modified, !saved) << "call " << call;
+            if (saved) {
+                EXPECT_TRUE(isNew) << "call " << call;
+            } else {
+                ++failures;
+                EXPECT_TRUE(controls.saveEnabled);
+                EXPECT_EQ(document.rame.CfgName, rameBefore.CfgName);
+                EXPECT_EQ(document.rame.NextWagonUID, rameBefore.NextWagonUID);
+                EXPECT_EQ(state.HasFile, c.hasFile);
+                EXPECT_EQ(catalogue.ConsistFiles.back(), c.hasFile ? "Test.con" : "");
+            }
+            if (!failed)
+                break;
+        }
+        EXPECT_GT(failures, 0);
+    }
+}
+
+} // namespace
+} // namespace zandor

@@ -1,0 +1,280 @@
+#include "editor_fixture.h"
+
+namespace zandor {
+namespace {
+
+class StripTest : public EditorTest {};
+
+TEST_F(StripTest, StockIsPutWhereItIsDropped) {
+    struct Case {
+        int position; // of the pointer; 3 is behind the last vehicle
+        const char* result;
+    };
+    for (const Case& c : {Case{0, "NABC"}, Case{1, "ANBC"}, Case{2, "ABNC"}, Case{3, "ABCN"}}) {
+        newConsist(editor);
+        compose("ABC");
+        dragOverStrip(editor, middleOf(c.position), 10);
+        EXPECT_TRUE(dropMarkPosition(document)) << c.position;
+        dragOverStrip(editor, middleOf(c.position), 11);
+        EXPECT_TRUE(dropMarkPosition(document)) << "the mark stays when the pointer moves on the vehicle";
+        EXPECT_TRUE(dropStock(editor, stockOf('N')));
+        EXPECT_EQ(order(), c.result);
+        EXPECT_TRUE(state.Modified && controls.saveEnabled);
+        EXPECT_FALSE(document.DragActive);
+        EXPECT_EQ(document.StripWidth, 4 * PlainPictureWidth);
+        state.Modified = false;
+    }
+}
+
+TEST_F(StripTest, TheFirstVehicleComesOntoTheEmptyStrip) {
+    dragOverStrip(editor, 400, 50);
+    EXPECT_FALSE(dropMarkPosition(document));
+    EXPECT_TRUE(dropStock(editor, stockOf('A')));
+    EXPECT_EQ(order(), "A");
+    EXPECT_TRUE(controls.numberEnabled);
+}
+
+TEST_F(StripTest, WhatIsNotInTheCatalogueIsNotDropped) {
+    compose("A");
+    for (int index : {-1, 1, 4711})
+        EXPECT_FALSE(appendStock(editor, index));
+    EXPECT_EQ(order(), "A");
+    EXPECT_FALSE(state.Modified);
+}
+
+TEST_F(StripTest, AVehicleMovesToWhereItIsReleased) {
+    struct Case {
+        int from, to; // positions; 4 is behind the last vehicle
+        const char* result;
+        bool marked;
+    };
+    for (const Case& c : {Case{0, 0, "ABCD", false}, Case{0, 1, "ABCD", false}, Case{0, 2, "BACD", true},
+                          Case{0, 4, "BCDA", true}, Case{2, 4, "ABDC", true}, Case{3, 4, "ABCD", false},
+                          Case{3, 0, "DABC", true}, Case{2, 1, "ACBD", true}, Case{3, 3, "ABCD", false}}) {
+        newConsist(editor);
+        compose("ABCD");
+        pressStrip(editor, middleOf(c.from), 10);
+        moveOnStrip(editor, middleOf(c.to), 10);
+        EXPECT_EQ(dropMarkPosition(document).has_value(), c.marked) << c.from << " to " << c.to;
+        releaseStrip(editor, ReleaseZone::Strip);
+        EXPECT_EQ(order(), c.result) << c.from << " to " << c.to;
+        EXPECT_EQ(state.Modified, order() != "ABCD");
+        EXPECT_FALSE(document.DragActive || document.StripPressed);
+        state.Modified = false;
+    }
+}
+
+TEST_F(StripTest, AVehicleDraggedOffTheStripIsGoneWithNoQuestion) {
+    compose("ABC");
+    pressStrip(editor, middleOf(1), 10);
+    moveOnStrip(editor, 300, 400);
+    releaseStrip(editor, ReleaseZone::Elsewhere);
+    EXPECT_EQ(order(), "AC");
+    EXPECT_EQ(document.StripWidth, 2 * PlainPictureWidth);
+    EXPECT_TRUE(state.Modified);
+    EXPECT_EQ(shown(), Shown{});
+}
+
+TEST_F(StripTest, AnEmptiedStripHasNothingToSave) {
+    compose("A");
+    state.HasFile = state.Modified = true;
+    pressStrip(editor, middleOf(0), 10);
+    releaseStrip(editor, ReleaseZone::Elsewhere);
+    EXPECT_FALSE(hasVehicles(document));
+    EXPECT_FALSE(state.Modified || controls.saveEnabled || controls.numberEnabled);
+    EXPECT_EQ(document.StripWidth, 0);
+}
+
+TEST_F(StripTest, AForgottenDragFromTheListRemovesNoVehicle) {
+    compose("AB");
+    dragOverStrip(editor, middleOf(1), 10);
+    pressStrip(editor, 700, 10);
+    releaseStrip(editor, ReleaseZone::Elsewhere);
+    EXPECT_EQ(order(), "AB");
+    dragOverStrip(editor, middleOf(0), 10);
+    appendStock(editor, stockOf('C'));
+    EXPECT_EQ(order(), "ABC") << "a double click appends";
+}
+
+TEST_F(StripTest, AReleaseOnThePreviewLooksTheStockUp) {
+    compose("AB");
+    document.Vehicules[1].FromSimulator = true;
+    const RameItem gone{false, 0, false, "gone", "Parc", ""};
+    InsertVehicule(editor, 0, false, false, &gone);
+    const std::optional<int> expected[] = {stockOf('A'), -1, std::nullopt};
+    for (int position = 0; position < 3; ++position) {
+        pressStrip(editor, middleOf(position), 10);
+        EXPECT_EQ(releaseStrip(editor, ReleaseZone::Preview), expected[position]) << position;
+    }
+    EXPECT_EQ(order(), "ABgone.wag");
+}
+
+TEST_F(StripTest, PointsAreTestedFromEdgeToEdge) {
+    compose("AB");
+    controls.viewWidth = 400;
+    struct Case {
+        int x, y, index;
+        bool hit, atFront, atEnd;
+    };
+    for (const Case& c : {Case{0, 0, 0, true, true, false}, Case{120, 116, 0, true, true, false},
+                          Case{121, 50, 1, true, false, false}, Case{241, 50, 1, true, false, false},
+                          Case{242, 50, 0, false, false, true}, Case{400, 50, 0, false, false, true},
+                          Case{401, 50, 0, false, false, false}, Case{-1, 50, 0, false, false, false},
+                          Case{50, 117, 0, false, false, false}}) {
+        const StripHit hit = HitTestStrip(document, c.x, c.y);
+        EXPECT_EQ(hit.hit, c.hit) << c.x;
+        EXPECT_EQ(hit.index, c.index) << c.x;
+        EXPECT_EQ(hit.atFront, c.atFront) << c.x;
+        EXPECT_EQ(hit.atEnd, c.atEnd) << c.x;
+    }
+    EXPECT_EQ(stripToolTip(document, 130, 5), "B");
+    EXPECT_EQ(stripToolTip(document, 300, 5), "");
+}
+
+TEST_F(StripTest, NumbersRunAlongTheStripOnlyWhenAskedFor) {
+    compose("ABC");
+    pressStrip(editor, middleOf(2), 10);
+    moveOnStrip(editor, middleOf(0), 10);
+    releaseStrip(editor, ReleaseZone::Strip);
+    EXPECT_EQ(numbers(), (std::vector<int>{2, 0, 1}));
+    numberButtonPressed(editor);
+    EXPECT_EQ(numbers(), (std::vector<int>{0, 1, 2}));
+    EXPECT_FALSE(state.PrintNumber);
+
+    state.PrintNumber = true;
+    document.DragSource = 0;
+    RemoveVehicule(editor);
+    appendStock(editor, stockOf('D'));
+    EXPECT_EQ(numbers(), (std::vector<int>{0, 1, 2}));
+    EXPECT_EQ(document.NextNumber, 3);
+}
+
+TEST_F(StripTest, PastTheHighestNumberALowerFreeOneFollows) {
+    compose("AB");
+    document.NextNumber = 32767;
+    appendStock(editor, stockOf('C'));
+    EXPECT_EQ(document.Vehicules[2].Number, 32767);
+    EXPECT_EQ(document.NextNumber, 2);
+}
+
+TEST_F(StripTest, AMissingVehicleIsNotTurned) {
+    compose("A");
+    const RameItem gone{true, 0, false, "gone", "Parc", ""};
+    InsertVehicule(editor, 0, false, false, &gone);
+    state.Modified = false;
+    flipVehicule(editor, middleOf(1), 10);
+    EXPECT_FALSE(document.Vehicules[1].Flipped || state.Modified);
+    flipVehicule(editor, middleOf(0), 10);
+    EXPECT_TRUE(document.Vehicules[0].Flipped && state.Modified);
+    EXPECT_TRUE(isEngine(editor, document.Vehicules[1]));
+}
+
+TEST_F(StripTest, AppendingScrollsToTheEndAndInsertingStays) {
+    controls.viewWidth = 300;
+    compose("AB");
+    EXPECT_FALSE(controls.scrollEnabled);
+    appendStock(editor, stockOf('C'));
+    EXPECT_TRUE(controls.scrollEnabled);
+    EXPECT_EQ(controls.scrollMaximum, 3 * PlainPictureWidth + 150 - 300);
+    EXPECT_EQ(controls.scrollValue, controls.scrollMaximum);
+    controls.scrollValue = 40;
+    dragOverStrip(editor, 100, 10);
+    EXPECT_EQ(dropMarkPosition(document), PlainPictureWidth - 40);
+    dropStock(editor, stockOf('D'));
+    EXPECT_EQ(order(), "ADBC");
+    EXPECT_EQ(controls.scrollValue, 40);
+    while (vehicleCount(document) > 2)
+        RemoveVehicule(editor);
+    EXPECT_FALSE(controls.scrollEnabled);
+    EXPECT_EQ(controls.scrollValue, 0);
+}
+
+TEST_F(StripTest, AVeryLongStripScrollsAsFarAsItsPictureReaches) {
+    compose(std::string(140, 'A'));
+    const int reached = 134 * PlainPictureWidth + 150; // the most that stays under 16384
+    EXPECT_EQ(controls.scrollMaximum, reached - controls.viewWidth);
+}
+
+TEST_F(StripTest, ThePointerNearAnEdgeScrolls) {
+    controls.viewWidth = 400;
+    compose("ABCDEFGH");
+    struct Case {
+        int x, y, before, after;
+    };
+    for (const Case& c : {Case{390, 10, 100, 140}, Case{350, 10, 100, 100}, Case{10, 10, 100, 60},
+                          Case{10, 10, 20, 0}, Case{400, 10, 700, 718}, Case{401, 10, 100, 100}}) {
+        controls.scrollValue = c.before;
+        AutoScrollStrip(document, c.x, c.y);
+        EXPECT_EQ(controls.scrollValue, c.after) << c.x << " from " << c.before;
+    }
+}
+
+TEST_F(StripTest, TotalsAreCutNotRounded) {
+    struct Case {
+        const char *size, *mass, *total;
+    };
+    for (const Case& c :
+         {Case{"3m 4m 18.98765m", "80.5t", "long 37.975 heavy 161"}, Case{"3m 4m 18m", "", "long 36"},
+          Case{"", "12.25", " heavy 24.5"}, Case{"", "", ""}, Case{"wide", "0", ""}}) {
+        newConsist(editor);
+        catalogue.Materiels[static_cast<std::size_t>(stockOf('A'))].Size = c.size;
+        catalogue.Materiels[static_cast<std::size_t>(stockOf('A'))].Mass = c.mass;
+        compose("AA");
+        EXPECT_EQ(controls.totals, c.total);
+    }
+}
+
+TEST_F(StripTest, AFullStripTakesNoMore) {
+    document.Vehicules.assign(MaxEntries, Vehicule());
+    for (Vehicule& vehicule : document.Vehicules)
+        vehicule.Name = "x";
+    controls.shortName = "long";
+    EXPECT_FALSE(appendStock(editor, stockOf('A')));
+    EXPECT_EQ(vehicleCount(document), MaxEntries);
+    EXPECT_EQ(shown(), Shown{"48 limit 32766 in long"});
+}
+
+TEST_F(StripTest, StockWithoutANameShowsItsFile) {
+    catalogue.Materiels[static_cast<std::size_t>(stockOf('A'))].EngineName.clear();
+    compose("A");
+    EXPECT_EQ(order(), "A.wag");
+    EXPECT_EQ(vehicleCount(document), 1);
+}
+
+TEST_F(StripTest, TheShortNameHoldsWhatAFileNameCan) {
+    EXPECT_EQ(filterShortName("a*b/c:d<e>f?g\\h|i\"j¦k¨l\nm"), "abcdefghijklm");
+    EXPECT_EQ(filterShortName("Été à 12° (x)"), "Été à 12° (x)");
+    changeFullName(editor, "Express: 12");
+    EXPECT_EQ(controls.shortName, "Express 12");
+    controls.shortNameEnabled = false;
+    changeFullName(editor, "Other");
+    EXPECT_EQ(controls.shortName, "Express 12");
+}
+
+TEST_F(StripTest, NamesAndDurabilityChangeAConsistOnlyWhenThereIsOne) {
+    changeDurability(editor, 500);
+    changeFullName(editor, "empty");
+    EXPECT_FALSE(state.Modified || controls.saveEnabled);
+    EXPECT_EQ(controls.resistance, "R 14.7");
+    compose("A");
+    changeDurability(editor, 1000);
+    EXPECT_TRUE(state.Modified && controls.saveEnabled);
+    EXPECT_EQ(controls.resistance, "R 29.4");
+}
+
+TEST_F(StripTest, ANewConsistAsksFirst) {
+    compose("A");
+    state.Modified = true;
+    dialogs.defaultAnswer = answer::Yes;
+    EXPECT_FALSE(newConsist(editor)) << "it has no name to be saved by";
+    EXPECT_EQ(shown(), (Shown{"36 save new?", "48 no name"}));
+    EXPECT_EQ(order(), "A");
+    dialogs.defaultAnswer = answer::No;
+    EXPECT_TRUE(newConsist(editor));
+    EXPECT_EQ(order(), "");
+    EXPECT_FALSE(state.Modified || controls.saveEnabled || controls.deleteEnabled);
+    EXPECT_TRUE(controls.shortNameEnabled);
+}
+
+} // namespace
+} // namespace zandor
