@@ -1,0 +1,153 @@
+#include "cli/session.h"
+#include "editor/consist_io.h"
+
+#include <CLI/CLI.hpp>
+
+namespace zandor {
+
+namespace {
+
+// One vehicle as the command line names it.
+struct WantedVehicle {
+    std::string given;
+    std::string folder;
+    std::string file; // perhaps without extension
+    bool flipped = false;
+    int index = -1; // in the catalogue
+};
+
+constexpr std::string_view FlipMark = ":flip";
+
+WantedVehicle wantedVehicle(const std::string& given) {
+    WantedVehicle wanted;
+    wanted.given = given;
+    std::string_view stock = given;
+    if (endsWithIgnoringCase(stock, FlipMark)) {
+        wanted.flipped = true;
+        stock.remove_suffix(FlipMark.size());
+    }
+    wanted.file = GetFileName(stock);
+    wanted.folder = stock.substr(0, stock.size() - wanted.file.size());
+    while (!wanted.folder.empty() && (wanted.folder.back() == '/' || wanted.folder.back() == '\\'))
+        wanted.folder.pop_back();
+    return wanted;
+}
+
+int findStock(MaterielFinder& finder, const Catalogue& catalogue, const WantedVehicle& wanted) {
+    for (const char* extension : {"", ".eng", ".wag"})
+        if (const int index = finder.find(catalogue.Materiels, wanted.folder, wanted.file + extension);
+            index >= 0)
+            return index;
+    return -1;
+}
+
+bool hasControlCharacter(std::string_view text) {
+    return std::any_of(text.begin(), text.end(), [](unsigned char c) { return c < 0x20; });
+}
+
+std::string withoutExtension(const std::string& name) {
+    return endsWithIgnoringCase(name, ".con") ? name.substr(0, name.size() - 4) : name;
+}
+
+class ComposeCommand final : public Command {
+  public:
+    const char* name() const override { return "compose"; }
+    const char* help() const override { return "Make a consist of stock of the catalogue and save it"; }
+    bool usesRoots() const override { return true; }
+
+    void addArguments(CLI::App& app) override {
+        app.add_option("NAME", name_, "the short name, which the file bears too")->required();
+        app.add_option("FOLDER/FILE", given_,
+                       "the vehicles in their order; \":flip\" behind one turns it round")
+            ->required();
+        full_ = app.add_option("--full", fullName_, "the full name; by default that of the file, or NAME")
+                    ->type_name("TEXT");
+        app.add_flag("--overwrite", overwrite_,
+                     "put the vehicles in the place of those of an existing consist");
+    }
+
+    int run(Session& session) override {
+        const std::string shortName = withoutExtension(name_);
+        if (filterShortName(shortName) != shortName)
+            return session.cannotRun("A file's name can't hold one of the characters of " + name_);
+        if (hasControlCharacter(fullName_))
+            return session.cannotRun("The full name must be a single line");
+        session.state.PrintGreen = false; // who uses what isn't asked for
+        Catalogue catalogue;
+        LoadCatalogue(session.frame, catalogue, {NameRepair::Never});
+        ConsistDocument document;
+        Editor editor{session.frame, catalogue, document};
+        std::vector<WantedVehicle> wanted;
+        for (const std::string& given : given_) {
+            wanted.push_back(wantedVehicle(given));
+            wanted.back().index = findStock(document.finder, catalogue, wanted.back());
+            if (wanted.back().index < 0)
+                return session.cannotRun("This stock is not in the catalogue: " + given);
+        }
+        return compose(session, editor, shortName, wanted);
+    }
+
+  private:
+    int compose(Session& session, Editor& editor, const std::string& shortName,
+                const std::vector<WantedVehicle>& wanted) const {
+        const std::string path = consistsPath(session.state.RootPrimary) + shortName + ".con";
+        const bool exists = FileExists(session.frame.files, path);
+        initialiseDocument(editor);
+        if (exists && overwrite_ && !openConsist(editor, path))
+            return exitcode::Faults;
+        if (!putVehicles(session, editor, wanted))
+            return exitcode::Faults;
+        putNames(editor, shortName);
+
+        const EditorControls& controls = editor.document.controls;
+        const bool refused =
+            trim(controls.shortName).empty() || trim(controls.fullName).empty() || (exists && !overwrite_);
+        SaveFileRame(editor);
+        if (session.state.Modified)
+            return refused ? exitcode::Faults : exitcode::CannotRun;
+        session.out << session.shown(path) << '\n';
+        return exitcode::Done;
+    }
+
+    // Empties the strip, then adds to its end what is wanted. False: one was refused.
+    static bool putVehicles(Session& session, Editor& editor, const std::vector<WantedVehicle>& wanted) {
+        ConsistDocument& document = editor.document;
+        document.Vehicules.assign(1, {});
+        document.StripWidth = document.NextNumber = 0;
+        document.Loading = true; // the strip is laid out once, when all of it stands
+        for (const WantedVehicle& vehicle : wanted) {
+            session.dialogs.subject = vehicle.given;
+            if (!appendStock(editor, vehicle.index))
+                return false;
+            document.Vehicules.back().Flipped = vehicle.flipped;
+        }
+        session.dialogs.subject.clear();
+        document.Loading = false;
+        session.state.Modified = document.controls.saveEnabled = true;
+        updateStrip(editor);
+        return true;
+    }
+
+    // A consist that has a file keeps its short name.
+    void putNames(Editor& editor, const std::string& shortName) const {
+        const bool isNew = !editor.frame.state.HasFile;
+        if (full_->count() > 0 || isNew)
+            changeFullName(editor, full_->count() > 0 ? fullName_ : shortName);
+        if (isNew)
+            changeShortName(editor, shortName);
+    }
+
+    std::string name_;
+    std::string fullName_;
+    std::vector<std::string> given_;
+    bool overwrite_ = false;
+    CLI::Option* full_ = nullptr;
+};
+
+} // namespace
+
+std::unique_ptr<Command> makeComposeCommand() {
+    return std::make_unique<ComposeCommand>();
+}
+
+} // namespace zandor

@@ -1,0 +1,54 @@
+#include "cli/records.h"
+#include "cli/session.h"
+
+#include <CLI/CLI.hpp>
+
+namespace zandor {
+
+namespace {
+
+class ConsistCommand final : public Command {
+  public:
+    const char* name() const override { return "consist"; }
+    const char* help() const override { return "Print a consist file's record and its vehicles"; }
+
+    void addArguments(CLI::App& app) override {
+        app.add_option("FILE", file_, "the consist file: .con")->required();
+    }
+
+    int run(Session& session) override {
+        SimReader reader(session.frame.files, session.frame.language);
+        const std::string path = ExpandLongPath(file_);
+        if (const int refusal = readWholeFile(session, reader, path); refusal != exitcode::Done)
+            return refusal;
+        if (kindOfFile(path) != FileKind::Consist)
+            return session.fault("Not a consist file: " + session.shown(path));
+        Rame rame;
+        std::vector<RameItem> items;
+        const std::optional<SimError> error = ReadConsistFile(reader, rame, items, path);
+        print(session.out, rame, items);
+        return error ? session.fault(errorText(*error)) : exitcode::Done;
+    }
+
+  private:
+    static void print(std::ostream& out, const Rame& rame, const std::vector<RameItem>& items) {
+        JsonObject object(out);
+        object.member("rame", recordOf(rame));
+        JsonList list = object.list("items");
+        for (const RameItem& item : items)
+            if (!item.Name.empty())
+                list.add(recordOf(item));
+        list.close();
+        object.close();
+    }
+
+    std::string file_;
+};
+
+} // namespace
+
+std::unique_ptr<Command> makeConsistCommand() {
+    return std::make_unique<ConsistCommand>();
+}
+
+} // namespace zandor

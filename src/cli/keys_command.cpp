@@ -1,0 +1,88 @@
+#include "cli/records.h"
+#include "cli/session.h"
+
+#include <CLI/CLI.hpp>
+
+namespace zandor {
+
+namespace {
+
+bool isPlaceholder(const SimKey& key) {
+    return key.Line == 0 && key.Path.empty() && key.Key.empty() && key.Value.empty();
+}
+
+class KeysCommand final : public Command {
+  public:
+    const char* name() const override { return "keys"; }
+    const char* help() const override { return "Print the keys of a simulator file, or those asked for"; }
+
+    void addArguments(CLI::App& app) override {
+        app.add_option("FILE", file_, "the file: .con, .eng, .wag, .cvf, .s, .sd, .sms, .act or .srv")
+            ->required();
+        stock_ = app.add_flag("--stock", stockMode_, "find the 22 keys that the check of stock follows");
+        section_ =
+            app.add_option("--section", sought_.section, "find a key of this block, such as Wagon\\Coupling")
+                ->type_name("PATH")
+                ->excludes(stock_);
+        key_ = app.add_option("--key", sought_.key, "find this key; without it the block's own value")
+                   ->type_name("NAME")
+                   ->excludes(stock_);
+        app.add_option("--count", sought_.count, "stop after so many; 0 finds all (default: 1)")
+            ->type_name("N")
+            ->check(CLI::Range(0, 32767))
+            ->excludes(stock_);
+    }
+
+    int run(Session& session) override {
+        SimReader reader(session.frame.files, session.frame.language);
+        const std::string path = ExpandLongPath(file_);
+        if (const int refusal = readWholeFile(session, reader, path); refusal != exitcode::Done)
+            return refusal;
+        if (section_->count() + key_->count() + stock_->count() > 0)
+            printHits(session, reader, path);
+        else
+            printKeys(session, reader);
+        return reader.error ? session.fault(errorText(*reader.error)) : exitcode::Done;
+    }
+
+  private:
+    static void printKeys(Session& session, const SimReader& reader) {
+        JsonList list(session.out);
+        for (const SimKey& key : reader.SimKeys)
+            if (!isPlaceholder(key))
+                list.add(recordOf(key));
+        list.close();
+        session.out << '\n';
+    }
+
+    void printHits(Session& session, SimReader& reader, const std::string& path) const {
+        const bool result = reader.ReadSimFile(path, sought_.section, sought_.key,
+                                               stockMode_ ? 0 : sought_.count, true, stockMode_);
+        JsonObject object(session.out);
+        object.member("result", result);
+        JsonList list = object.list("hits");
+        for (const SimHit& hit : reader.SimHits)
+            if (hit.Found)
+                list.add(recordOf(hit));
+        list.close();
+        object.close();
+    }
+
+    std::string file_;
+    struct {
+        std::string section, key;
+        int count = 1;
+    } sought_;
+    bool stockMode_ = false;
+    CLI::Option* stock_ = nullptr;
+    CLI::Option* section_ = nullptr;
+    CLI::Option* key_ = nullptr;
+};
+
+} // namespace
+
+std::unique_ptr<Command> makeKeysCommand() {
+    return std::make_unique<KeysCommand>();
+}
+
+} // namespace zandor

@@ -1,0 +1,185 @@
+#include "cli/session.h"
+
+#include "frame/startup.h"
+
+#include <array>
+
+namespace zandor {
+
+namespace {
+
+struct FlagRow {
+    const char* key;
+    bool AppState::*flag;
+    bool numeric; // read by its number, not by its exact text
+};
+constexpr std::array<FlagRow, 7> Flags{{
+    {"PrintName", &AppState::PrintName, true},
+    {"NoAlertCoupling", &AppState::NoAlertCoupling, true},
+    {"PassIsBadCoupling", &AppState::PassIsBadCoupling, false},
+    {"Optimize", &AppState::Optimize, false},
+    {"PrintGreen", &AppState::PrintGreen, false},
+    {"sfCanvas", &AppState::UseCanvas, false},
+    {"PrintNumber", &AppState::PrintNumber, false},
+}};
+
+constexpr std::string_view SimulatorKey = "SOFTWARE\\Microsoft\\Microsoft Games\\Train Simulator\\1.0";
+
+std::string withoutTrailingSeparators(std::string path) {
+    while (!path.empty() && (path.back() == '\\' || path.back() == '/'))
+        path.pop_back();
+    return path;
+}
+
+std::string existingFolder(FileSystem& files, const std::string& path) {
+    return FolderExists(files, path) ? withoutTrailingSeparators(path) : std::string();
+}
+
+std::string settingsPath(const ProgramFolders& folders, const CommonOptions& options) {
+    return options.settings.empty() ? folders.program + "\\Zandor.ini" : ExpandLongPath(options.settings);
+}
+
+} // namespace
+
+Session::Session(const Surroundings& surroundings, const CommonOptions& options, std::ostream& output,
+                 std::ostream& errors)
+    : out(output), err(errors), options_(options), folders_(surroundings.folders),
+      diskProfiles_(surroundings.files), defaultProfiles_(defaults_),
+      dialogs(output, errors), frame{state,
+                                     surroundings.files,
+                                     FileExists(surroundings.files, settingsPath(folders_, options))
+                                         ? diskProfiles_
+                                         : defaultProfiles_,
+                                     surroundings.registry,
+                                     dialogs,
+                                     progress_,
+                                     Language(diskProfiles_, state)} {
+    state.Title = makeTitle();
+    state.ProgramFolder = folders_.program;
+    state.IniPath = settingsPath(folders_, options);
+    defaults_.put(state.IniPath, {});
+    WriteDefaultIni(defaults_, state.IniPath, state.Title, folders_.program);
+}
+
+bool Session::prepare(bool withRoots) {
+    if (!options_.settings.empty() && !FileExists(frame.files, state.IniPath))
+        return refuse("There is no settings file " + shown(state.IniPath));
+    readFlags();
+    return prepareLanguage() && (!withRoots || prepareRoots());
+}
+
+int Session::cannotRun(std::string_view text) {
+    err << "zandor-cli: " << oneLine(text) << '\n';
+    return exitcode::CannotRun;
+}
+
+int Session::fault(std::string_view text) {
+    cannotRun(text);
+    return exitcode::Faults;
+}
+
+bool Session::refuse(std::string_view text) {
+    cannotRun(text);
+    return false;
+}
+
+void Session::readFlags() {
+    for (const FlagRow& row : Flags)
+        state.*row.flag = row.numeric ? readNumericFlag(frame.profiles, row.key, state.IniPath)
+                                      : readExactFlag(frame.profiles, row.key, state.IniPath);
+    const std::string backup = frame.profiles.ReadIniValue(GeneralSection, "Backup", state.IniPath);
+    state.BackupDir = AddBackslash(backup.empty() ? folders_.program + "\\Backup\\" : backup);
+}
+
+bool Session::prepareLanguage() {
+    for (const std::string& folder : {folders_.executable, folders_.program})
+        if (const std::string path = folder + "\\Langues.lng"; FileExists(frame.files, path))
+            state.LanguagePath = path;
+    if (state.LanguagePath.empty())
+        return refuse(LanguageFileMissing);
+    state.Language = frame.profiles.ReadIniValue(GeneralSection, "Langage", state.IniPath);
+    if (state.Language.empty())
+        state.Language = "Français";
+    if (options_.language.empty())
+        return true;
+
+    std::string known;
+    for (const LanguageChoice& choice : frame.language.ListLanguages()) {
+        if (equalIgnoringCase(choice.name, options_.language)) {
+            state.Language = choice.name;
+            return true;
+        }
+        known += (known.empty() ? "" : ", ") + choice.name;
+    }
+    return refuse("There is no language \"" + options_.language + "\", but: " + known);
+}
+
+bool Session::prepareRoots() {
+    if (!takeGivenFolder("--root", options_.root, state.RootMSTS) ||
+        !takeGivenFolder("--tstore", options_.tstore, state.RootTStore))
+        return false;
+    takeRootsOfSettings();
+    const bool simulator = simulatorIsPrimary();
+    state.RootPrimary = simulator ? state.RootMSTS : state.RootTStore;
+    state.RootSecondary = simulator ? state.RootTStore : state.RootMSTS;
+    if (!state.RootPrimary.empty())
+        return FolderExists(frame.files, state.RootPrimary + "\\TRAINS") ||
+               refuse("There is no TRAINS folder in " + shown(state.RootPrimary));
+    return refuse(std::string(simulator
+                                  ? "No simulator folder is known: give it with --root DIR or as InstallDir"
+                                  : "No Train Store folder is known: give it with --tstore DIR or as "
+                                    "TStoreDir") +
+                  " in " + shown(state.IniPath));
+}
+
+bool Session::takeGivenFolder(std::string_view option, const std::string& given, std::string& root) {
+    if (given.empty())
+        return true;
+    root = existingFolder(frame.files, ExpandLongPath(given));
+    return !root.empty() || refuse(std::string(option) + ": there is no folder " + given);
+}
+
+// A simulator folder that was given stands alone: the Train Store of the settings belongs to another one.
+void Session::takeRootsOfSettings() {
+    if (!options_.root.empty())
+        return;
+    const auto folderOf = [this](std::string_view key) {
+        return existingFolder(frame.files, frame.profiles.ReadIniValue(GeneralSection, key, state.IniPath));
+    };
+    state.RootMSTS = folderOf("InstallDir");
+    if (state.RootMSTS.empty())
+        state.RootMSTS =
+            existingFolder(frame.files, ReadRegistryString(frame.registry, RegistryHive::LocalMachine,
+                                                           SimulatorKey, "Path"));
+    if (state.RootTStore.empty())
+        state.RootTStore = folderOf("TStoreDir");
+}
+
+bool Session::simulatorIsPrimary() {
+    if (!options_.primary.empty())
+        return equalIgnoringCase(options_.primary, "msts");
+    const std::string setting = frame.profiles.ReadIniValue(GeneralSection, "InitialiseMSTS", state.IniPath);
+    return !options_.root.empty() || setting.empty() || numericValue(setting) == 1;
+}
+
+int readWholeFile(Session& session, SimReader& reader, const std::string& path) {
+    const std::string shown = session.shown(path);
+    if (!FileExists(session.frame.files, path))
+        return session.cannotRun("There is no file " + shown);
+    if (kindOfFile(path) == FileKind::Unknown)
+        return session.fault("The simulator has no files of this kind: " + shown);
+    if (reader.ReadSimFile(path, "", "", 1, false, false))
+        return exitcode::Done;
+    if (!reader.error)
+        return session.fault("The file does not begin with the signature of its kind: " + shown);
+    return reader.error->number == MalformedConsist ? exitcode::Done
+                                                    : session.fault(errorText(*reader.error) + ": " + shown);
+}
+
+std::string errorText(const SimError& error) {
+    if (!error.text.empty())
+        return error.text;
+    return error.number == EmptyFile ? "The file is empty" : "Error " + std::to_string(error.number);
+}
+
+} // namespace zandor

@@ -1,0 +1,81 @@
+// One run of a command: the settings in effect, the simulator's folders, and where the results go. Nothing
+// here writes the settings file, so that a command works for a user whose home can't be written to.
+#pragma once
+
+#include "cli/command.h"
+#include "cli/command_line.h"
+#include "cli/console_dialogs.h"
+#include "frame/frame.h"
+#include "platform/memory_file_system.h"
+#include "simfiles/sim_file.h"
+
+#include <ostream>
+#include <string>
+#include <string_view>
+
+namespace zandor {
+
+// What a command line may say beside the arguments of its command; an empty text leaves it to the settings.
+struct CommonOptions {
+    std::string root;     // the simulator's folder
+    std::string tstore;   // the Train Store's
+    std::string primary;  // "msts" or "tstore"
+    std::string settings; // a settings file instead of the user's own
+    std::string language;
+};
+
+class Session {
+  public:
+    Session(const Surroundings& surroundings, const CommonOptions& options, std::ostream& out,
+            std::ostream& err);
+    Session(const Session&) = delete;
+    Session& operator=(const Session&) = delete;
+
+    // Settings, language and, for a command that uses them, the root folders. False: the user was told why
+    // the command can't run.
+    bool prepare(bool withRoots);
+
+    // Tell in one line what is wrong, and return the exit code that goes with it.
+    int cannotRun(std::string_view text);
+    int fault(std::string_view text);
+
+    // The path as messages and results show it.
+    std::string shown(std::string_view path) { return frame.files.nativePath(path); }
+
+    std::ostream& out;
+    std::ostream& err;
+    AppState state;
+
+  private:
+    void readFlags();
+    bool prepareLanguage();
+    bool prepareRoots();
+    bool takeGivenFolder(std::string_view option, const std::string& given, std::string& root);
+    void takeRootsOfSettings();
+    bool simulatorIsPrimary();
+    bool refuse(std::string_view text); // false, once the user was told
+
+    const CommonOptions& options_;
+    const ProgramFolders& folders_;
+    ProfileFiles diskProfiles_;
+    MemoryFileSystem defaults_; // holds a new settings file for a user who has none yet
+    ProfileFiles defaultProfiles_;
+
+    class SilentProgress final : public Progress {
+        void ShowProgress(int, int, int, std::string_view) override {}
+        bool yield() override { return true; }
+    } progress_;
+
+  public:
+    ConsoleDialogs dialogs;
+    Frame frame;
+};
+
+// Reads a simulator file as a whole. Done: the reader holds its keys, and perhaps an error that ended the
+// read. Another exit code: there is no such file or it is none of the simulator's, and the user was told.
+int readWholeFile(Session& session, SimReader& reader, const std::string& path);
+
+// What an error of a reader says; never empty.
+std::string errorText(const SimError& error);
+
+} // namespace zandor

@@ -1,0 +1,102 @@
+#include "cli/records.h"
+#include "cli/session.h"
+
+#include <CLI/CLI.hpp>
+
+#include <algorithm>
+
+namespace zandor {
+
+namespace {
+
+// The three names that the readers find a file by.
+Materiel materielAt(std::string_view path) {
+    Materiel materiel;
+    materiel.FileName = GetFileName(path);
+    path.remove_suffix(std::min(path.size(), materiel.FileName.size() + 1));
+    materiel.Folder = GetFileName(path);
+    materiel.BasePath = path.substr(0, path.size() - materiel.Folder.size());
+    return materiel;
+}
+
+bool isStockKind(std::string_view path) {
+    const FileKind kind = kindOfFile(path);
+    return kind == FileKind::Engine || kind == FileKind::Wagon;
+}
+
+class StockCommand final : public Command {
+  public:
+    const char* name() const override { return "stock"; }
+    const char* help() const override { return "Print what engine and wagon files say"; }
+
+    void addArguments(CLI::App& app) override {
+        app.add_option("FILE", files_, "the files: .eng or .wag")->required();
+        CLI::Option* quick = app.add_flag("--quick", quick_, "read by how lines begin, not in full");
+        app.add_flag("--repair", repair_, "rewrite a wagon file that has several Name keys")->excludes(quick);
+    }
+
+    int run(Session& session) override {
+        int exitCode = exitcode::Done;
+        SimReader reader(session.frame.files, session.frame.language);
+        JsonList list(session.out);
+        for (const std::string& file : files_) {
+            const std::string path = ExpandLongPath(file);
+            if (!FileExists(session.frame.files, path)) {
+                exitCode = session.cannotRun("There is no file " + file);
+                continue;
+            }
+            const Json record = read(session, reader, file, path);
+            if (record.contains("error"))
+                exitCode = std::max(exitCode, exitcode::Faults);
+            list.add(record);
+        }
+        list.close();
+        session.out << '\n';
+        return exitCode;
+    }
+
+  private:
+    Json read(Session& session, SimReader& reader, const std::string& file, const std::string& path) const {
+        Materiel materiel = materielAt(path);
+        StockReading reading;
+        if (!isStockKind(path))
+            reading.error = SimError{0, path, "Not an engine or a wagon file"};
+        else if (quick_)
+            QuickReadStock(session.frame.files, materiel);
+        else
+            reading = readInFull(reader, path, materiel);
+
+        Json record{{"file", file}};
+        record.update(recordOf(materiel));
+        if (reading.needsRepair)
+            record["needsRepair"] = !reading.repaired;
+        if (reading.repaired)
+            record["repaired"] = true;
+        if (reading.error)
+            record["error"] = {{"number", reading.error->number}, {"text", errorText(*reading.error)}};
+        return record;
+    }
+
+    StockReading readInFull(SimReader& reader, const std::string& path, Materiel& materiel) const {
+        StockReading reading =
+            ReadStockFile(reader, path, materiel, repair_ ? NameRepair::Allowed : NameRepair::Never);
+        // A file that was accepted has a type, or the reader would have objected.
+        if (!reading.error && materiel.Type.empty())
+            reading.error = SimError{0, path, "The file does not begin with the signature of its kind"};
+        else if (repair_ && reading.needsRepair && !reading.repaired && !reading.error)
+            reading.error = SimError{0, path, "The file could not be rewritten"};
+        return reading;
+    }
+
+    std::vector<std::string> files_;
+    bool quick_ = false;
+    bool repair_ = false;
+};
+
+} // namespace
+
+std::unique_ptr<Command> makeStockCommand() {
+    return std::make_unique<StockCommand>();
+}
+
+} // namespace zandor
