@@ -1,0 +1,59 @@
+// One run of the program: owns everything that lives from its start to its end, and knows the order of the
+// start.
+#pragma once
+
+#include "app/launch_options.h"
+#include "editor/consist_document.h"
+#include "frame/startup.h"
+#include "frame/windows/qt_progress.h"
+
+#include <memory>
+
+namespace zandor {
+
+class frmPrincipal;
+class frmSplash;
+
+class Application {
+  public:
+    explicit Application(LaunchOptions options);
+    ~Application();
+    Application(const Application&) = delete;
+    Application& operator=(const Application&) = delete;
+
+    // From the splash to the end of the main window. Returns the process's exit code.
+    int run();
+    frmPrincipal* mainWindow() const { return window_.get(); } // nullptr until the load
+
+  private:
+    enum class End { GoOn, UserEnded, Failed };
+
+    void reportMissingLanguages();
+    void showSplash();
+    void loadThenShow();
+    End load();
+    bool chooseRoots();
+    void openFromCommandLine();
+    void showMainWindow();
+    void savePicture();
+    void rememberRoots();
+    void putRootsBack();
+
+    LaunchOptions options_;
+    std::unique_ptr<FileSystem> files_;
+    std::unique_ptr<Registry> registry_;
+    AppState state_;
+    ProfileFiles profiles_;
+    std::unique_ptr<Dialogs> dialogs_;
+    QtProgress progress_;
+    Frame frame_;
+    ProgramFolders folders_;
+    Catalogue catalogue_;
+    ConsistDocument document_;
+    Editor editor_;
+    std::unique_ptr<frmSplash> splash_;
+    std::unique_ptr<frmPrincipal> window_;
+    std::string keptInstallDir_, keptTStoreDir_; // of the settings, in a run with a root of its own
+};
+
+} // namespace zandor

@@ -1,0 +1,18 @@
+// What the program was started with.
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+namespace zandor {
+
+struct LaunchOptions {
+    QString consist; // a path of a consist to open; anything that isn't one is ignored
+    QString root;    // --root: the simulator's folder for this run only
+    QString picture; // --picture: the main window is saved to this file after the start, and the run ends
+};
+
+// `arguments` without the program's name. Unknown options are ignored.
+LaunchOptions parseLaunchOptions(const QStringList& arguments);
+
+} // namespace zandor

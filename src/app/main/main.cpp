@@ -1,0 +1,12 @@
+#include "app/application.h"
+#include "frame/windows/theme.h"
+
+#include <QApplication>
+
+int main(int argc, char** argv) {
+    QApplication qt(argc, argv);
+    QApplication::setApplicationName("Zandor");
+    zandor::applyTheme(qt);
+    zandor::Application application(zandor::parseLaunchOptions(qt.arguments().mid(1)));
+    return application.run();
+}

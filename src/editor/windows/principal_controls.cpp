@@ -1,0 +1,295 @@
+#include "editor/windows/principal_controls.h"
+
+#include "catalogue/stock_list.h"
+#include "editor/windows/elided_label.h"
+#include "editor/windows/preview_view.h"
+#include "editor/windows/stock_view.h"
+#include "editor/windows/strip_view.h"
+#include "frame/windows/qt_text.h"
+
+#include <QBoxLayout>
+#include <QComboBox>
+#include <QGridLayout>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QSignalBlocker>
+#include <QSlider>
+#include <QTimer>
+
+#include <algorithm>
+
+namespace zandor {
+
+namespace {
+
+constexpr int Gap = 10; // pixels between cards
+constexpr int DurabilityRange = 1000;
+constexpr int ShortNameLength = 200; // with ".con" a file name of any disk
+
+template <class Widget> Widget* named(Widget* widget, const char* name) {
+    widget->setObjectName(name);
+    return widget;
+}
+
+QFrame* card(QWidget* parent) {
+    auto* frame = new QFrame(parent);
+    frame->setProperty("card", true);
+    return frame;
+}
+
+// ---- the buttons
+
+struct ButtonRow {
+    QPushButton* PrincipalControls::*place;
+    const char* name;
+    Message caption;
+    const char* french;
+    Message tip; // NoTip: none
+};
+constexpr Message NoTip{0};
+constexpr ButtonRow Buttons[] = {
+    {&PrincipalControls::cmdNEW, "cmdNEW", Message::CaptionNew, "&Nouveau", Message::TipNew},
+    {&PrincipalControls::cmdOPEN, "cmdOPEN", Message::CaptionOpen, "&Ouvrir", Message::TipOpen},
+    {&PrincipalControls::cmdSAVE, "cmdSAVE", Message::CaptionSave, "&Enregistrer", Message::TipSave},
+    {&PrincipalControls::cmdDELETE, "cmdDELETE", Message::CaptionDelete, "&Supprimer", Message::TipDelete},
+    {&PrincipalControls::cmdNUMEROTATION, "cmdNUMEROTATION", Message::CaptionNumber, "N&uméroter",
+     Message::TipNumber},
+    {&PrincipalControls::cmdOptions, "cmdOptions", Message::CaptionOptions, "O&ptions", NoTip},
+    {&PrincipalControls::cmdHELP, "cmdHELP", Message::CaptionHelp, "&Aide", NoTip},
+    {&PrincipalControls::cmdPROPOS, "cmdPROPOS", Message::CaptionAbout, "A p&ropos", NoTip},
+    {&PrincipalControls::cmdCANCEL, "cmdCANCEL", Message::CaptionQuit, "&Quitter", NoTip},
+};
+
+QLayout* buildButtons(QWidget& window, PrincipalControls& c) {
+    auto* bar = new QHBoxLayout;
+    bar->setSpacing(6);
+    for (const ButtonRow& row : Buttons) {
+        QPushButton* button = named(new QPushButton(&window), row.name);
+        button->setAutoDefault(false);
+        c.*row.place = button;
+        if (button == c.cmdPROPOS)
+            bar->addStretch(1);
+        bar->addWidget(button);
+    }
+    c.cmdSAVE->setProperty("primary", true);
+    // What these three would open isn't there yet.
+    for (QPushButton* unused : {c.cmdDELETE, c.cmdOptions, c.cmdHELP}) {
+        unused->setEnabled(false);
+        unused->hide();
+    }
+    return bar;
+}
+
+// ---- the stock list
+
+QWidget* buildStock(QWidget& window, PrincipalControls& c) {
+    QFrame* frame = card(&window);
+    auto* column = new QVBoxLayout(frame);
+    column->setContentsMargins(12, 10, 12, 12);
+    c.lblCLASS = named(new QLabel(frame), "lblCLASS");
+    c.cmbMATERIEL = named(new QComboBox(frame), "cmbMATERIEL");
+    c.cmbMATERIEL->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    c.lblCLASS->setBuddy(c.cmbMATERIEL);
+    c.lstViewMATERIEL = new StockView(frame);
+    c.lstViewMATERIEL->setMinimumHeight(90);
+    auto* head = new QHBoxLayout;
+    head->addWidget(c.lblCLASS);
+    head->addWidget(c.cmbMATERIEL, 1);
+    column->addLayout(head);
+    column->addWidget(c.lstViewMATERIEL, 1);
+    return frame;
+}
+
+// ---- what is known of the selected stock
+
+QWidget* buildInfo(QWidget* parent, PrincipalControls& c) {
+    QFrame* frame = card(parent);
+    auto* row = new QHBoxLayout(frame);
+    row->setContentsMargins(12, 12, 12, 12);
+    row->setSpacing(14);
+    c.picPREVIEW = new PreviewView(frame);
+    c.picPREVIEW->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
+    c.picPREVIEW->setMaximumHeight(210);
+    row->addWidget(c.picPREVIEW);
+
+    auto* lines = new QVBoxLayout;
+    lines->setSpacing(4);
+    const auto line = [&](const char* name, Qt::TextElideMode mode) {
+        auto* label = named(new ElidedLabel(frame, mode), name);
+        lines->addWidget(label);
+        return label;
+    };
+    lines->addStretch(1);
+    c.tbSELECT = line("tbSELECT", Qt::ElideRight);
+    c.tbPATH = line("tbPATH", Qt::ElideMiddle);
+    lines->addSpacing(6);
+    c.lblFreins = line("lblFreins", Qt::ElideRight);
+    c.lblATTELAGE = line("lblATTELAGE", Qt::ElideRight);
+    c.lblLONGUEUR = line("lblLONGUEUR", Qt::ElideRight);
+    c.lblPOIDS = line("lblPOIDS", Qt::ElideRight);
+    lines->addStretch(1);
+    QFont bold = c.tbSELECT->font();
+    bold.setBold(true);
+    bold.setPointSizeF(bold.pointSizeF() * 1.15);
+    c.tbSELECT->setFont(bold);
+    c.tbPATH->setProperty("quiet", true);
+    row->addLayout(lines, 1);
+    return frame;
+}
+
+// ---- the consist's names and durability
+
+QWidget* buildConsist(QWidget* parent, PrincipalControls& c) {
+    QFrame* frame = card(parent);
+    auto* grid = new QGridLayout(frame);
+    grid->setContentsMargins(12, 12, 12, 12);
+    grid->setHorizontalSpacing(12);
+    grid->setColumnStretch(1, 1);
+    c.lblFULL_NAME = named(new QLabel(frame), "lblFULL_NAME");
+    c.lblNAME = named(new QLabel(frame), "lblNAME");
+    c.lblSLIDER = named(new QLabel(frame), "lblSLIDER");
+    c.tbFULL_NAME = named(new QLineEdit(frame), "tbFULL_NAME");
+    c.tbNAME = named(new QLineEdit(frame), "tbNAME");
+    c.tbNAME->setMaxLength(ShortNameLength);
+    c.Slider1 = named(new QSlider(Qt::Horizontal, frame), "Slider1");
+    c.Slider1->setRange(0, DurabilityRange);
+    c.Slider1->setPageStep(DurabilityRange / 10);
+    c.Slider1->setSingleStep(DurabilityRange / 100);
+    c.lblRESISTANCE = named(new QLabel(frame), "lblRESISTANCE");
+    c.lblRESISTANCE->setProperty("quiet", true);
+    c.lblRESISTANCE->setWordWrap(true);
+    c.lblFULL_NAME->setBuddy(c.tbFULL_NAME);
+    c.lblNAME->setBuddy(c.tbNAME);
+    c.lblSLIDER->setBuddy(c.Slider1);
+    grid->addWidget(c.lblFULL_NAME, 0, 0);
+    grid->addWidget(c.tbFULL_NAME, 0, 1);
+    grid->addWidget(c.lblNAME, 1, 0);
+    grid->addWidget(c.tbNAME, 1, 1);
+    grid->addWidget(c.lblSLIDER, 2, 0);
+    grid->addWidget(c.Slider1, 2, 1);
+    grid->addWidget(c.lblRESISTANCE, 3, 1);
+    return frame;
+}
+
+// The right-hand side scrolls where a low screen has no room for it.
+QWidget* buildDetails(QWidget& window, PrincipalControls& c) {
+    auto* area = new QScrollArea(&window);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setWidgetResizable(true);
+    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    area->setFocusPolicy(Qt::NoFocus);
+    auto* content = new QWidget(area);
+    auto* column = new QVBoxLayout(content);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(Gap);
+    column->addWidget(buildInfo(content, c), 1);
+    column->addWidget(buildConsist(content, c));
+    area->setWidget(content);
+    return area;
+}
+
+// ---- the strip
+
+QWidget* buildStrip(QWidget& window, PrincipalControls& c, Editor& editor) {
+    QFrame* frame = card(&window);
+    auto* column = new QVBoxLayout(frame);
+    column->setContentsMargins(12, 10, 12, 12);
+    column->setSpacing(6);
+    c.lblLongueurNewRame = named(new QLabel(frame), "lblLongueurNewRame");
+    c.lblLongueurNewRame->setTextFormat(Qt::PlainText);
+    c.lblLongueurNewRame->setProperty("heading", true);
+    c.PicRAME = new StripView(editor, frame);
+    c.HScrollRAME = named(new QScrollBar(Qt::Horizontal, frame), "HScrollRAME");
+    c.HScrollRAME->setFocusPolicy(Qt::StrongFocus);
+    column->addWidget(c.lblLongueurNewRame);
+    column->addWidget(c.PicRAME);
+    column->addWidget(c.HScrollRAME);
+    return frame;
+}
+
+void setTabOrder(const PrincipalControls& c) {
+    QWidget* const order[] = {c.cmbMATERIEL, c.lstViewMATERIEL, c.tbFULL_NAME, c.tbNAME,
+                              c.Slider1,     c.HScrollRAME,     c.cmdNEW,      c.cmdOPEN,
+                              c.cmdSAVE,     c.cmdNUMEROTATION, c.cmdPROPOS,   c.cmdCANCEL};
+    for (std::size_t i = 1; i < std::size(order); ++i)
+        QWidget::setTabOrder(order[i - 1], order[i]);
+}
+
+// The text of a message, or the French one that serves when the language lacks it.
+QString textOr(const Frame& frame, Message message, const char* french) {
+    const std::string text = frame.text(message);
+    return text.empty() ? QString::fromUtf8(french) : toQt(text);
+}
+
+struct LabelRow {
+    QLabel* PrincipalControls::*label;
+    Message message;
+    const char* french;
+};
+constexpr LabelRow Labels[] = {
+    {&PrincipalControls::lblNAME, Message::CaptionShortName, "Nom &court"},
+    {&PrincipalControls::lblFULL_NAME, Message::CaptionFullName, "Nom co&mplet"},
+    {&PrincipalControls::lblSLIDER, Message::CaptionDurability, "&Résistance de la rame"},
+    {&PrincipalControls::lblCLASS, Message::CaptionStockClass, "&Type de matériel"},
+};
+
+void captionButtons(const PrincipalControls& c, const Frame& frame) {
+    for (const ButtonRow& row : Buttons) {
+        QPushButton* button = c.*row.place;
+        button->setText(textOr(frame, row.caption, row.french));
+        if (row.tip != NoTip)
+            button->setToolTip(toQt(frame.text(row.tip)));
+    }
+}
+
+void captionClasses(QComboBox& box, const Frame& frame) {
+    const QSignalBlocker quiet(box);
+    const int chosen = std::max(0, box.currentIndex());
+    box.clear();
+    for (int i = 0; i < StockClassCount; ++i)
+        box.addItem(toQt(frame.text(stockClassMessage(i))));
+    box.setCurrentIndex(chosen);
+}
+
+} // namespace
+
+PrincipalControls buildPrincipal(QWidget& window, Editor& editor) {
+    PrincipalControls c{};
+    auto* column = new QVBoxLayout(&window);
+    column->setContentsMargins(12, 12, 12, 12);
+    column->setSpacing(Gap);
+    column->addLayout(buildButtons(window, c));
+    auto* middle = new QHBoxLayout;
+    middle->setSpacing(Gap);
+    middle->addWidget(buildStock(window, c), 6);
+    middle->addWidget(buildDetails(window, c), 5);
+    column->addLayout(middle, 1);
+    column->addWidget(buildStrip(window, c, editor));
+    c.PicRAME->setPreview(c.picPREVIEW);
+    c.Timer1 = named(new QTimer(&window), "Timer1");
+    setTabOrder(c);
+    return c;
+}
+
+void captionPrincipal(const PrincipalControls& c, const Frame& frame) {
+    captionButtons(c, frame);
+    captionClasses(*c.cmbMATERIEL, frame);
+    for (const LabelRow& row : Labels)
+        (c.*row.label)->setText(textOr(frame, row.message, row.french));
+    c.lstViewMATERIEL->stock()->setTitles({textOr(frame, Message::ColumnName, "Nom"),
+                                           textOr(frame, Message::ColumnBrakes, "Freins"),
+                                           textOr(frame, Message::ColumnCoupling, "Attelage")});
+    c.lstViewMATERIEL->setToolTip(toQt(frame.text(Message::TipStockList)));
+    c.Slider1->setToolTip(toQt(frame.text(Message::TipDurability)));
+    c.PicRAME->setEmptyHint(toQt(frame.text(Message::StripEmpty)));
+    c.PicRAME->setEmptyToolTip(toQt(frame.text(Message::TipStrip)));
+    const auto plain = [](QString text) { return text.remove(u'&'); };
+    c.tbNAME->setAccessibleName(plain(c.lblNAME->text()));
+    c.tbFULL_NAME->setAccessibleName(plain(c.lblFULL_NAME->text()));
+    c.Slider1->setAccessibleName(plain(c.lblSLIDER->text()));
+    c.cmbMATERIEL->setAccessibleName(plain(c.lblCLASS->text()));
+}
+
+} // namespace zandor

@@ -1,0 +1,136 @@
+#include "editor/windows/stock_view.h"
+
+#include <QDrag>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QMimeData>
+#include <QMouseEvent>
+#include <QPixmap>
+
+#include <memory>
+
+namespace zandor {
+
+StockView::StockView(QWidget* parent) : QTreeView(parent), model_(new StockModel(this)) {
+    setObjectName("lstViewMATERIEL");
+    setModel(model_);
+    setRootIsDecorated(false);
+    setUniformRowHeights(true);
+    setAllColumnsShowFocus(true);
+    setSelectionMode(SingleSelection);
+    setEditTriggers(NoEditTriggers);
+    setDragEnabled(true);
+    setDragDropMode(DragOnly);
+    setTextElideMode(Qt::ElideRight);
+    setIconSize({16, 16});
+
+    QHeaderView* columns = header();
+    columns->setStretchLastSection(false);
+    columns->setSectionsMovable(false);
+    columns->setSectionsClickable(true);
+    columns->setSortIndicatorShown(true);
+    columns->setSortIndicator(StockModel::NameColumn, Qt::AscendingOrder);
+    columns->setSectionResizeMode(StockModel::NameColumn, QHeaderView::Stretch);
+    columns->setMinimumSectionSize(6 * fontMetrics().averageCharWidth());
+    connect(columns, &QHeaderView::sectionClicked, this, &StockView::toggleOrder);
+    connect(columns, &QHeaderView::sectionResized, this, [this](int section) {
+        if (section != StockModel::NameColumn && !sizing_)
+            sizedByUser_ = true;
+    });
+}
+
+QString StockView::currentKey() const {
+    return currentIndex().data(StockModel::KeyRole).toString();
+}
+
+void StockView::show(const QModelIndex& index) {
+    if (!index.isValid())
+        return;
+    setCurrentIndex(index);
+    scrollTo(index);
+}
+
+void StockView::selectKey(const QString& key) {
+    show(model_->indexOfKey(key));
+}
+
+void StockView::selectFirst() {
+    show(model_->index(0, 0));
+}
+
+void StockView::setColours(const QColor& background, const QColor& text) {
+    QPalette colours = palette();
+    if (background.isValid())
+        colours.setColor(QPalette::Base, background);
+    if (text.isValid())
+        colours.setColor(QPalette::Text, text);
+    setPalette(colours);
+    model_->setTextColour(text);
+}
+
+void StockView::toggleOrder() {
+    QHeaderView* columns = header();
+    const bool wasAscending = model_->order() == Qt::AscendingOrder;
+    const Qt::SortOrder order = wasAscending ? Qt::DescendingOrder : Qt::AscendingOrder;
+    const QString key = currentKey();
+    model_->sort(StockModel::NameColumn, order);
+    columns->setSortIndicator(StockModel::NameColumn, order);
+    selectKey(key);
+}
+
+// The names get what the two other columns leave; as soon as the user has sized one, they stay.
+void StockView::resizeEvent(QResizeEvent* event) {
+    QTreeView::resizeEvent(event);
+    if (sizedByUser_)
+        return;
+    sizing_ = true;
+    header()->resizeSection(StockModel::BrakeColumn, viewport()->width() * 30 / 100);
+    header()->resizeSection(StockModel::CouplingColumn, viewport()->width() * 26 / 100);
+    sizing_ = false;
+}
+
+void StockView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
+    QTreeView::currentChanged(current, previous);
+    if (current.isValid())
+        emit currentKeyChanged(current.data(StockModel::KeyRole).toString());
+}
+
+void StockView::mousePressEvent(QMouseEvent* event) {
+    QTreeView::mousePressEvent(event);
+    // A click on the row that is current already shows it again: the panel may have shown another vehicle
+    // since.
+    if (event->button() == Qt::LeftButton && indexAt(event->position().toPoint()) == currentIndex())
+        emit currentKeyChanged(currentKey());
+}
+
+void StockView::mouseDoubleClickEvent(QMouseEvent* event) {
+    const QModelIndex index = indexAt(event->position().toPoint());
+    if (event->button() == Qt::LeftButton && index.isValid())
+        emit chosen(index.data(StockModel::KeyRole).toString());
+    else
+        QTreeView::mouseDoubleClickEvent(event);
+}
+
+void StockView::keyPressEvent(QKeyEvent* event) {
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (enter && currentIndex().isValid())
+        emit chosen(currentKey());
+    else
+        QTreeView::keyPressEvent(event);
+}
+
+void StockView::startDrag(Qt::DropActions) {
+    std::unique_ptr<QMimeData> data(model_->mimeData({currentIndex()}));
+    if (!currentIndex().isValid() || !data)
+        return;
+    auto* drag = new QDrag(this);
+    drag->setMimeData(data.release());
+    if (dragPicture_) {
+        drag->setPixmap(dragPicture_());
+        drag->setHotSpot({-14, -6}); // right of the pointer, whose place on the strip stays in sight
+    }
+    drag->exec(Qt::CopyAction);
+    emit dragEnded();
+}
+
+} // namespace zandor

@@ -1,0 +1,48 @@
+// lstViewMATERIEL: the stock of one class, from which vehicles are dragged or sent to the strip.
+#pragma once
+
+#include "editor/windows/stock_model.h"
+
+#include <QTreeView>
+
+#include <functional>
+
+namespace zandor {
+
+class StockView final : public QTreeView {
+    Q_OBJECT
+  public:
+    explicit StockView(QWidget* parent);
+
+    StockModel* stock() const { return model_; }
+    QString currentKey() const; // empty when nothing is selected
+    void selectKey(const QString& key);
+    void selectFirst();
+    void setColours(const QColor& background, const QColor& text); // an invalid colour stays as it is
+    // The picture that goes with a dragged row.
+    void setDragPicture(std::function<QPixmap()> picture) { dragPicture_ = std::move(picture); }
+
+  signals:
+    void currentKeyChanged(const QString& key);
+    void chosen(const QString& key); // double click or Enter
+    void dragEnded();
+
+  protected:
+    void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void startDrag(Qt::DropActions actions) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+  private:
+    void toggleOrder();
+    void show(const QModelIndex& index);
+
+    StockModel* model_;
+    std::function<QPixmap()> dragPicture_;
+    bool sizing_ = false;      // the columns are being sized by the window
+    bool sizedByUser_ = false; // they stay as they are
+};
+
+} // namespace zandor

@@ -1,0 +1,275 @@
+#include "editor/windows/strip_view.h"
+
+#include "catalogue/stock_list.h"
+#include "editor/windows/stock_model.h"
+#include "editor/windows/strip_painter.h"
+#include "editor/windows/vehicle_art.h"
+#include "frame/windows/cursors.h"
+#include "frame/windows/qt_text.h"
+
+#include <QApplication>
+#include <QDragEnterEvent>
+#include <QKeyEvent>
+#include <QMimeData>
+#include <QMouseEvent>
+#include <QPainter>
+
+#include <algorithm>
+#include <cstdlib>
+
+namespace zandor {
+
+namespace {
+
+constexpr int ScrollEvery = 40; // ms, while a drag rests near an edge
+// Around the preview the pointer still shows that the vehicle is carried, not thrown away.
+constexpr QMargins PreviewSurroundings{192, 192, 384, 384};
+
+// The throw-away sign: a bin under the pointer's tip.
+QCursor discardCursor() {
+    QPixmap picture(64, 64);
+    picture.setDevicePixelRatio(2);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(Qt::white, 1.2));
+    painter.setBrush(QColor(200, 30, 30));
+    painter.drawRoundedRect(QRectF(8, 12, 16, 17), 2, 2);
+    painter.drawRoundedRect(QRectF(6, 8, 20, 3.5), 1, 1);
+    painter.drawRoundedRect(QRectF(13, 4.5, 6, 3), 1, 1);
+    painter.drawLine(QPointF(13, 15), QPointF(13, 26));
+    painter.drawLine(QPointF(19, 15), QPointF(19, 26));
+    return QCursor(picture, 16, 16);
+}
+
+// The stock entry of a dragged list row, or -1.
+int draggedStock(const QMimeData* data) {
+    if (!data || !data->hasFormat(StockModel::MimeType))
+        return -1;
+    return indexOfKey(data->data(StockModel::MimeType).toStdString());
+}
+
+} // namespace
+
+StripView::StripView(Editor& editor, QWidget* parent) : QWidget(parent), editor_(editor) {
+    setObjectName("PicRAME");
+    setAcceptDrops(true);
+    setMouseTracking(true);
+    setFocusPolicy(Qt::ClickFocus);
+    setFixedHeight(ArtHeight);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    scrollTimer_.setInterval(ScrollEvery);
+    connect(&scrollTimer_, &QTimer::timeout, this, &StripView::scrollWhileResting);
+}
+
+StripView::~StripView() = default;
+
+void StripView::setEmptyHint(const QString& hint) {
+    emptyHint_ = hint;
+    update();
+}
+
+void StripView::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    paintStrip(painter, editor_, size(), emptyHint_);
+    if (inside_ && dragging())
+        paintDropMark(painter, editor_.document, height());
+}
+
+void StripView::resizeEvent(QResizeEvent*) {
+    emit sizeChanged();
+}
+
+// ---- a vehicle in the hand
+
+void StripView::mousePressEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton || dragging())
+        return;
+    lastPoint_ = event->position().toPoint();
+    pressStrip(editor_, lastPoint_.x(), lastPoint_.y());
+    pressed_ = editor_.document.DragActive;
+    pressPoint_ = lastPoint_;
+    moved_ = false;
+    inside_ = true;
+    emit changed();
+    update();
+}
+
+void StripView::followPress(const QPoint& point) {
+    lastPoint_ = point;
+    inside_ = rect().contains(point);
+    moveOnStrip(editor_, point.x(), point.y());
+    setShape(shapeAt(mapToGlobal(point)));
+    emit scrolled();
+    update();
+}
+
+void StripView::mouseMoveEvent(QMouseEvent* event) {
+    const QPoint point = event->position().toPoint();
+    if (pressed_ && (event->buttons() & Qt::LeftButton)) {
+        // A trembling hand doesn't move a vehicle, nor scroll the strip away under it.
+        if (!moved_ && (point - pressPoint_).manhattanLength() < QApplication::startDragDistance())
+            return;
+        moved_ = true;
+        if (!scrollTimer_.isActive())
+            scrollTimer_.start();
+        followPress(point);
+    }
+    if (event->buttons() == Qt::NoButton)
+        updateToolTip(point);
+}
+
+void StripView::mouseReleaseEvent(QMouseEvent* event) {
+    const QPoint point = event->position().toPoint();
+    if (event->button() == Qt::RightButton) {
+        endPress();
+        flipVehicule(editor_, point.x(), point.y());
+        emit changed();
+        update();
+        return;
+    }
+    if (event->button() != Qt::LeftButton)
+        return;
+    const bool wasPressed = pressed_;
+    endPress(); // first: a message of the operation takes the focus away
+    if (!wasPressed) {
+        clearDrag(editor_.document);
+        return;
+    }
+    const auto found = releaseStrip(editor_, zoneAt(mapToGlobal(point)));
+    emit changed();
+    update();
+    if (found)
+        emit lookedUp(*found);
+}
+
+void StripView::endPress() {
+    pressed_ = false;
+    scrollTimer_.stop();
+    setShape(Shape::None);
+}
+
+void StripView::cancelPress() {
+    if (!pressed_)
+        return;
+    endPress();
+    clearDrag(editor_.document);
+    emit changed();
+    update();
+}
+
+ReleaseZone StripView::zoneAt(const QPoint& globalPoint) const {
+    if (preview_ && preview_->isVisible() && preview_->rect().contains(preview_->mapFromGlobal(globalPoint)))
+        return ReleaseZone::Preview;
+    return rect().contains(mapFromGlobal(globalPoint)) ? ReleaseZone::Strip : ReleaseZone::Elsewhere;
+}
+
+StripView::Shape StripView::shapeAt(const QPoint& globalPoint) const {
+    if (rect().contains(mapFromGlobal(globalPoint)))
+        return Shape::Carry;
+    const bool nearPreview =
+        preview_ &&
+        preview_->rect().marginsAdded(PreviewSurroundings).contains(preview_->mapFromGlobal(globalPoint));
+    return nearPreview ? Shape::Carry : Shape::Discard;
+}
+
+void StripView::setShape(Shape shape) {
+    if (shape == shape_)
+        return;
+    shape_ = shape;
+    pointer_.reset();
+    if (shape == Shape::Carry)
+        pointer_ = std::make_unique<PointerShape>(Qt::ClosedHandCursor);
+    else if (shape == Shape::Discard)
+        pointer_ = std::make_unique<PointerShape>(discardCursor());
+}
+
+// The strip goes on scrolling while the pointer rests near an edge.
+void StripView::scrollWhileResting() {
+    const int before = editor_.document.controls.scrollValue;
+    if (pressed_)
+        followPress(lastPoint_);
+    else if (stockOver_)
+        followStock(lastPoint_);
+    if (editor_.document.controls.scrollValue != before)
+        update();
+}
+
+void StripView::updateToolTip(const QPoint& point) {
+    const ConsistDocument& document = editor_.document;
+    setToolTip(hasVehicles(document) ? toQt(stripToolTip(document, point.x(), point.y())) : emptyTip_);
+}
+
+void StripView::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Escape && pressed_)
+        cancelPress();
+    else
+        QWidget::keyPressEvent(event);
+}
+
+void StripView::focusOutEvent(QFocusEvent* event) {
+    cancelPress();
+    QWidget::focusOutEvent(event);
+}
+
+// A notch of the wheel is one vehicle.
+void StripView::wheelEvent(QWheelEvent* event) {
+    EditorControls& controls = editor_.document.controls;
+    if (!controls.scrollEnabled)
+        return event->ignore();
+    const QPoint turned = event->angleDelta();
+    const int delta = std::abs(turned.x()) > std::abs(turned.y()) ? turned.x() : turned.y();
+    controls.scrollValue =
+        std::clamp(controls.scrollValue - delta * ArtWidth / 120, 0, controls.scrollMaximum);
+    emit scrolled();
+    update();
+}
+
+// ---- a row of the stock list
+
+void StripView::followStock(const QPoint& point) {
+    lastPoint_ = point;
+    inside_ = rect().contains(point);
+    dragOverStrip(editor_, point.x(), point.y());
+    emit scrolled();
+    update();
+}
+
+void StripView::dragEnterEvent(QDragEnterEvent* event) {
+    if (draggedStock(event->mimeData()) < 0)
+        return event->ignore();
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
+    stockOver_ = true;
+    scrollTimer_.start();
+    followStock(event->position().toPoint());
+}
+
+void StripView::dragMoveEvent(QDragMoveEvent* event) {
+    if (!stockOver_)
+        return event->ignore();
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
+    followStock(event->position().toPoint());
+}
+
+void StripView::dragLeaveEvent(QDragLeaveEvent*) {
+    stockOver_ = false;
+    inside_ = false;
+    scrollTimer_.stop();
+    update();
+}
+
+void StripView::dropEvent(QDropEvent* event) {
+    const int index = draggedStock(event->mimeData());
+    stockOver_ = false;
+    scrollTimer_.stop();
+    update();
+    if (index < 0)
+        return event->ignore();
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
+    emit stockDropped(index);
+}
+
+} // namespace zandor

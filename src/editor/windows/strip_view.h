@@ -1,0 +1,74 @@
+// PicRAME: the visible part of the strip, and everything that the mouse does on it.
+#pragma once
+
+#include "editor/consist_document.h"
+
+#include <QTimer>
+#include <QWidget>
+
+#include <memory>
+
+namespace zandor {
+
+class PointerShape;
+
+class StripView final : public QWidget {
+    Q_OBJECT
+  public:
+    StripView(Editor& editor, QWidget* parent);
+    ~StripView() override;
+
+    void setPreview(const QWidget* preview) { preview_ = preview; } // where a vehicle is looked up; borrowed
+    void setEmptyHint(const QString& hint);
+    void setEmptyToolTip(const QString& tip) { emptyTip_ = tip; }
+    // Puts a vehicle in the hand back without doing anything.
+    void cancelPress();
+    bool dragging() const { return pressed_ || stockOver_; }
+
+  signals:
+    void changed(); // the document may hold something new
+    void scrolled();
+    void stockDropped(int materielIndex); // of a list row, at the drag state's place
+    void lookedUp(int materielIndex); // a vehicle was let go over the preview; -1: it isn't in the catalogue
+    void sizeChanged();
+
+  protected:
+    void paintEvent(QPaintEvent*) override;
+    void resizeEvent(QResizeEvent*) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dragMoveEvent(QDragMoveEvent* event) override;
+    void dragLeaveEvent(QDragLeaveEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+
+  private:
+    enum class Shape { None, Carry, Discard };
+
+    void followPress(const QPoint& point);
+    void followStock(const QPoint& point);
+    void scrollWhileResting();
+    void endPress();
+    ReleaseZone zoneAt(const QPoint& globalPoint) const;
+    Shape shapeAt(const QPoint& globalPoint) const;
+    void setShape(Shape shape);
+    void updateToolTip(const QPoint& point);
+
+    Editor& editor_;
+    const QWidget* preview_ = nullptr;
+    QString emptyHint_, emptyTip_;
+    bool pressed_ = false;   // the left button is down, and the drag is on
+    bool stockOver_ = false; // a list row is over the strip
+    bool inside_ = false;    // the pointer of either drag
+    bool moved_ = false;     // since the press
+    QPoint pressPoint_, lastPoint_;
+    QTimer scrollTimer_;
+    Shape shape_ = Shape::None;
+    std::unique_ptr<PointerShape> pointer_;
+};
+
+} // namespace zandor

@@ -1,0 +1,30 @@
+// Messages and file questions as windows.
+#pragma once
+
+#include "frame/dialogs.h"
+#include "frame/language.h"
+
+namespace zandor {
+
+class QtDialogs final : public Dialogs {
+  public:
+    // Buttons are captioned in the language of `state`, which also gets each answer as LastAnswer.
+    QtDialogs(AppState& state, ProfileFiles& profiles);
+
+    int ShowMessage(const std::string& text, int style, const std::string& title,
+                    const std::string& helpFile = {}, int helpContext = 0) override;
+    // Takes and gives paths in the program's form.
+    std::optional<std::string> askOpenFile(const std::string& title, const std::string& filter,
+                                           const std::string& folder,
+                                           const std::string& proposedName) override;
+
+  private:
+    AppState& state_;
+    FileSystem& files_;
+    Language language_;
+};
+
+// "text (*.x)|*.x" as a Qt file dialog takes it.
+std::string fileDialogFilter(const std::string& filter);
+
+} // namespace zandor

@@ -1,0 +1,23 @@
+// Texts between the logic, which holds UTF-8, and the windows.
+#pragma once
+
+#include <QString>
+
+#include <string>
+#include <string_view>
+
+namespace zandor {
+
+inline QString toQt(std::string_view text) {
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+inline std::string fromQt(const QString& text) {
+    return text.toStdString();
+}
+
+// A path that a file dialog gave, as the program holds paths: "\" between the components.
+inline std::string pathFromQt(QString path) {
+    return fromQt(path.replace(u'/', u'\\'));
+}
+
+} // namespace zandor

@@ -1,0 +1,430 @@
+#include "windows/window_fixture.h"
+
+#include <QHeaderView>
+
+namespace zandor {
+namespace {
+
+TEST_F(WindowTest, EveryControlIsThereUnderItsName) {
+    const char* names[] = {"lstViewMATERIEL", "cmbMATERIEL", "PicRAME",     "HScrollRAME",
+                           "picPREVIEW",      "tbNAME",      "tbFULL_NAME", "Slider1",
+                           "lblRESISTANCE",   "tbPATH",      "tbSELECT",    "lblLongueurNewRame",
+                           "lblFreins",       "lblATTELAGE", "lblPOIDS",    "lblLONGUEUR",
+                           "cmdNEW",          "cmdOPEN",     "cmdSAVE",     "cmdDELETE",
+                           "cmdNUMEROTATION", "cmdOptions",  "cmdHELP",     "cmdPROPOS",
+                           "cmdCANCEL",       "Timer1"};
+    for (const char* name : names)
+        EXPECT_TRUE(window->findChild<QObject*>(name)) << name;
+    EXPECT_EQ(window->objectName(), "frmPrincipal");
+    EXPECT_EQ(window->windowTitle().toStdString(), state.Title);
+}
+
+TEST_F(WindowTest, CommandsThatLeadNowhereAreNotOffered) {
+    for (const char* name : {"cmdDELETE", "cmdOptions", "cmdHELP"})
+        EXPECT_FALSE(get<QPushButton>(name).isVisible()) << name;
+}
+
+TEST_F(WindowTest, NothingIsCutOnALowScreenInAnyLanguage) {
+    for (const char* language : {"Français", "English", "Deutsch"}) {
+        state.Language = language;
+        window->applyLanguage();
+        QTest::qWait(1);
+        const QSize least = window->minimumSizeHint();
+        EXPECT_LE(least.width(), 900) << language;
+        EXPECT_LE(least.height(), 460) << language;
+        window->resize(1024, 700);
+        QTest::qWait(1);
+        for (QPushButton* button : window->findChildren<QPushButton*>()) {
+            EXPECT_GE(button->width(), button->sizeHint().width()) << button->text().toStdString();
+            EXPECT_FALSE(button->text().isEmpty()) << language << " " << button->objectName().toStdString();
+        }
+        for (const char* name : {"lblNAME", "lblFULL_NAME", "lblSLIDER", "lblCLASS", "lblRESISTANCE"})
+            EXPECT_GE(get<QLabel>(name).width(), get<QLabel>(name).minimumSizeHint().width()) << name;
+    }
+}
+
+// A letter that reaches two controls reaches none.
+TEST_F(WindowTest, EveryMnemonicIsItsOwn) {
+    for (const char* language : {"Français", "English", "Deutsch"}) {
+        state.Language = language;
+        window->applyLanguage();
+        QString seen;
+        const auto take = [&](const QString& text) {
+            const qsizetype mark = text.indexOf(u'&');
+            ASSERT_GE(mark, 0) << language << " " << text.toStdString();
+            const QChar letter = text[mark + 1].toUpper();
+            EXPECT_FALSE(seen.contains(letter)) << language << " " << text.toStdString();
+            seen += letter;
+        };
+        for (QPushButton* button : window->findChildren<QPushButton*>())
+            if (button->isVisible())
+                take(button->text());
+        for (const char* name : {"lblNAME", "lblFULL_NAME", "lblSLIDER", "lblCLASS"})
+            take(get<QLabel>(name).text());
+    }
+}
+
+// ---- the stock list
+
+TEST_F(WindowTest, EachClassListsItsStockAndShowsTheFirst) {
+    struct Case {
+        int classIndex;
+        Names names;
+    };
+    const Case cases[] = {
+        {1, {"BB 67400"}}, {3, {"Voiture Corail"}}, {4, {"Wagon plat"}}, {0, {"BB 9288", "CC 6500"}}};
+    for (const Case& c : cases) {
+        get<QComboBox>("cmbMATERIEL").setCurrentIndex(c.classIndex);
+        EXPECT_EQ(listed(), c.names);
+        EXPECT_EQ(get<QLabel>("tbSELECT").text().trimmed().toStdString(), c.names[0]);
+    }
+    get<QComboBox>("cmbMATERIEL").setCurrentIndex(2); // no steam engine: the panel stays
+    EXPECT_EQ(listed(), Names());
+    EXPECT_EQ(get<QLabel>("tbSELECT").text().trimmed(), "BB 9288");
+}
+
+TEST_F(WindowTest, ArrowKeysShowTheNextStock) {
+    QTest::keyClick(&list(), Qt::Key_Down);
+    EXPECT_EQ(get<QLabel>("tbSELECT").text().trimmed(), "CC 6500");
+    EXPECT_EQ(get<QLabel>("tbPATH").text(), "BB\\bb2.eng");
+    EXPECT_FALSE(get<QLabel>("lblFreins").text().isEmpty());
+    EXPECT_FALSE(get<QLabel>("lblLONGUEUR").text().isEmpty());
+}
+
+TEST_F(WindowTest, ColumnClicksTurnTheOrderRoundAndKeepTheSelection) {
+    const QString chosen = list().currentKey();
+    QHeaderView& header = *list().header();
+    for (const Names& order : {Names{"CC 6500", "BB 9288"}, Names{"BB 9288", "CC 6500"}}) {
+        QTest::mouseClick(header.viewport(), Qt::LeftButton, {}, {20, header.height() / 2});
+        EXPECT_EQ(listed(), order);
+        EXPECT_EQ(list().currentKey(), chosen);
+    }
+}
+
+TEST_F(WindowTest, UnusedStockIsGreenUntilAConsistUsesIt) {
+    const auto colour = [this](int row) {
+        return list().model()->index(row, 0).data(Qt::ForegroundRole).value<QColor>();
+    };
+    EXPECT_EQ(colour(0), QColor(0, 128, 0));
+    build({"BB 9288"});
+    QTest::keyClicks(&get<QLineEdit>("tbFULL_NAME"), "Used");
+    press("cmdSAVE");
+    EXPECT_NE(colour(0), QColor(0, 128, 0));
+    EXPECT_EQ(colour(1), QColor(0, 128, 0));
+}
+
+TEST_F(WindowTest, DoubleClickAndEnterAppend) {
+    const QPoint row = list().visualRect(list().model()->index(1, 0)).center();
+    QTest::mouseClick(list().viewport(), Qt::LeftButton, {}, row);
+    QTest::mouseDClick(list().viewport(), Qt::LeftButton, {}, row);
+    QTest::keyClick(&list(), Qt::Key_Up);
+    QTest::keyClick(&list(), Qt::Key_Return);
+    EXPECT_EQ(vehicles(), (Names{"CC 6500", "BB 9288"}));
+    EXPECT_TRUE(get<QPushButton>("cmdSAVE").isEnabled());
+    EXPECT_FALSE(get<QLabel>("lblLongueurNewRame").text().isEmpty());
+}
+
+// ---- from the list to the strip
+
+TEST_F(WindowTest, StockIsDroppedWhereItWasShown) {
+    struct Case {
+        const char* what;
+        QPoint at;
+        Names after;
+    };
+    const Case cases[] = {
+        {"front", onVehicle(0), {"BB 67400", "BB 9288", "CC 6500"}},
+        {"between", onVehicle(1), {"BB 9288", "BB 67400", "CC 6500"}},
+        {"end", behind(2), {"BB 9288", "CC 6500", "BB 67400"}},
+    };
+    for (const Case& c : cases) {
+        newConsist(editor);
+        build({"BB 9288", "CC 6500"});
+        const auto data = dragged(keyOf("BB 67400"));
+        EXPECT_TRUE(enterStrip(*data, behind(3)));
+        moveOverStrip(*data, c.at);
+        dropOnStrip(*data, c.at);
+        EXPECT_EQ(vehicles(), c.after) << c.what;
+        EXPECT_FALSE(document.DragActive);
+        EXPECT_TRUE(state.Modified);
+    }
+}
+
+TEST_F(WindowTest, ADropOnTheEmptyStripBeginsIt) {
+    const auto data = dragged(keyOf("BB 9288"));
+    enterStrip(*data, {300, 50});
+    dropOnStrip(*data, {300, 50});
+    EXPECT_EQ(vehicles(), Names{"BB 9288"});
+}
+
+TEST_F(WindowTest, AForeignDragIsRefused) {
+    QMimeData text;
+    text.setText("KEY_1");
+    EXPECT_FALSE(enterStrip(text, {10, 10}));
+    const auto nothing = dragged("KEY_");
+    EXPECT_FALSE(enterStrip(*nothing, {10, 10}));
+}
+
+TEST_F(WindowTest, ADragThatEndedElsewhereLeavesNothing) {
+    build({"BB 9288", "CC 6500"});
+    const auto data = dragged(keyOf("BB 67400"));
+    enterStrip(*data, onVehicle(0));
+    leaveStrip();
+    emit list().dragEnded();
+    EXPECT_FALSE(document.DragActive);
+    list().selectKey(keyOf("CC 6500"));
+    QTest::keyClick(&list(), Qt::Key_Return);
+    EXPECT_EQ(vehicles(), (Names{"BB 9288", "CC 6500", "CC 6500"}));
+}
+
+TEST_F(WindowTest, ARefusedCouplingIsToldOnceAndChangesNothing) {
+    build({"BB 9288"});
+    state.NoAlertCoupling = false;
+    state.PassIsBadCoupling = true;
+    const auto data = dragged(keyOf("BB 67400"));
+    enterStrip(*data, behind(1));
+    dropOnStrip(*data, behind(1));
+    EXPECT_EQ(test.dialogs.shown.size(), 1u);
+    EXPECT_EQ(vehicles(), Names{"BB 9288"});
+    EXPECT_FALSE(state.Modified);
+}
+
+// ---- the mouse on the strip
+
+TEST_F(WindowTest, VehiclesAreMovedAndThrownAway) {
+    const QPoint away(200, 400); // far below the strip
+    struct Case {
+        const char* what;
+        QPoint from, to;
+        Names after;
+        bool modified;
+    };
+    const Case cases[] = {
+        {"to the right", onVehicle(0), onVehicle(2), {"CC 6500", "BB 9288", "BB 67400"}, true},
+        {"to the end", onVehicle(0), behind(3), {"CC 6500", "BB 67400", "BB 9288"}, true},
+        {"to the front", onVehicle(2), onVehicle(0), {"BB 67400", "BB 9288", "CC 6500"}, true},
+        {"onto its neighbour's left", onVehicle(0), onVehicle(1), {"BB 9288", "CC 6500", "BB 67400"}, false},
+        {"onto itself", onVehicle(1), onVehicle(1), {"BB 9288", "CC 6500", "BB 67400"}, false},
+        {"away", onVehicle(1), away, {"BB 9288", "BB 67400"}, true},
+    };
+    for (const Case& c : cases) {
+        newConsist(editor);
+        build({"BB 9288", "CC 6500", "BB 67400"});
+        drag(c.from, c.to);
+        EXPECT_EQ(vehicles(), c.after) << c.what;
+        EXPECT_EQ(state.Modified, c.modified) << c.what;
+        EXPECT_FALSE(document.DragActive) << c.what;
+        EXPECT_TRUE(test.dialogs.shown.empty()) << c.what;
+        state.Modified = false;
+    }
+}
+
+TEST_F(WindowTest, ATremblingClickMovesNothing) {
+    build({"BB 9288", "CC 6500"});
+    const QPoint edge(PlainPictureWidth - 2, 60);
+    QTest::mousePress(&strip(), Qt::LeftButton, {}, edge);
+    moveHeld(edge + QPoint(3, 0));
+    QTest::mouseRelease(&strip(), Qt::LeftButton, {}, edge + QPoint(3, 0));
+    EXPECT_EQ(vehicles(), (Names{"BB 9288", "CC 6500"}));
+    EXPECT_FALSE(state.Modified);
+}
+
+TEST_F(WindowTest, EscapeAndLostFocusPutAHeldVehicleBack) {
+    build({"BB 9288", "CC 6500"});
+    for (const bool byKey : {true, false}) {
+        QTest::mousePress(&strip(), Qt::LeftButton, {}, onVehicle(0));
+        moveHeld(onVehicle(0) + QPoint(0, 300));
+        if (byKey)
+            QTest::keyClick(&strip(), Qt::Key_Escape);
+        else
+            list().setFocus();
+        EXPECT_FALSE(strip().dragging());
+        EXPECT_FALSE(QApplication::overrideCursor());
+        QTest::mouseRelease(&strip(), Qt::LeftButton, {}, onVehicle(0) + QPoint(0, 300));
+        EXPECT_EQ(vehicles(), (Names{"BB 9288", "CC 6500"})) << byKey;
+    }
+}
+
+TEST_F(WindowTest, ThePointerShowsWhatLettingGoWouldDo) {
+    build({"BB 9288"});
+    QTest::mousePress(&strip(), Qt::LeftButton, {}, onVehicle(0));
+    moveHeld(onVehicle(0) + QPoint(20, 0));
+    ASSERT_TRUE(QApplication::overrideCursor());
+    EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::ClosedHandCursor);
+    moveHeld({5, 400});
+    EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::BitmapCursor);
+    moveHeld(fromWindow(get<QWidget>("picPREVIEW")));
+    EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::ClosedHandCursor);
+    QTest::mouseRelease(&strip(), Qt::LeftButton, {}, onVehicle(0));
+    EXPECT_FALSE(QApplication::overrideCursor());
+}
+
+TEST_F(WindowTest, AVehicleOnThePreviewIsLookedUpInTheList) {
+    build({"BB 9288", "Wagon plat"});
+    drag(onVehicle(1), fromWindow(get<QWidget>("picPREVIEW")));
+    EXPECT_EQ(get<QComboBox>("cmbMATERIEL").currentIndex(), 4);
+    EXPECT_EQ(list().currentKey(), keyOf("Wagon plat"));
+    EXPECT_EQ(get<QLabel>("tbSELECT").text().trimmed(), "Wagon plat");
+    EXPECT_EQ(vehicles().size(), 2u);
+    EXPECT_FALSE(state.Modified);
+}
+
+TEST_F(WindowTest, TheRightButtonTurnsAVehicleRound) {
+    build({"BB 9288", "CC 6500"});
+    for (const bool flipped : {true, false}) {
+        QTest::mouseClick(&strip(), Qt::RightButton, {}, onVehicle(1));
+        EXPECT_EQ(document.Vehicules[1].Flipped, flipped);
+    }
+    EXPECT_TRUE(get<QPushButton>("cmdSAVE").isEnabled());
+}
+
+TEST_F(WindowTest, TheToolTipNamesTheVehicle) {
+    build({"BB 9288", "CC 6500"});
+    QTest::mouseMove(&strip(), onVehicle(1));
+    EXPECT_EQ(strip().toolTip(), "CC 6500");
+    QTest::mouseMove(&strip(), behind(2));
+    EXPECT_EQ(strip().toolTip(), "");
+}
+
+TEST_F(WindowTest, ADragThatRestsAtTheEdgeScrolls) {
+    for (int i = 0; i < 20; ++i)
+        build({"BB 9288"});
+    document.controls.scrollValue = 0;
+    window->refresh();
+    const auto data = dragged(keyOf("CC 6500"));
+    enterStrip(*data, {strip().width() - 5, 60});
+    const int before = document.controls.scrollValue;
+    QTest::qWait(200);
+    EXPECT_GT(document.controls.scrollValue, before);
+    EXPECT_EQ(get<QScrollBar>("HScrollRAME").value(), document.controls.scrollValue);
+    leaveStrip();
+    const int after = document.controls.scrollValue;
+    QTest::qWait(100);
+    EXPECT_EQ(document.controls.scrollValue, after);
+}
+
+// ---- names, durability, saving
+
+TEST_F(WindowTest, TypedNamesKeepWhatAFileNameCanHold) {
+    QLineEdit& shortName = get<QLineEdit>("tbNAME");
+    QTest::keyClicks(&shortName, "a*b?c");
+    EXPECT_EQ(shortName.text(), "abc");
+    shortName.setCursorPosition(1);
+    QTest::keyClicks(&shortName, ":X"); // a dropped key leaves the caret alone
+    EXPECT_EQ(shortName.text(), "aXbc");
+    QTest::keyClicks(&get<QLineEdit>("tbFULL_NAME"), "Paris: <Lyon>");
+    EXPECT_EQ(get<QLineEdit>("tbFULL_NAME").text(), "Paris: <Lyon>");
+    EXPECT_EQ(shortName.text(), "Paris Lyon");
+    EXPECT_FALSE(state.Modified) << "there is no vehicle yet";
+}
+
+TEST_F(WindowTest, TheSliderShowsItsForce) {
+    QSlider& slider = get<QSlider>("Slider1");
+    EXPECT_EQ(slider.value(), 1000);
+    const QString full = get<QLabel>("lblRESISTANCE").text();
+    EXPECT_TRUE(full.contains("29")) << full.toStdString();
+    QTest::keyClick(&slider, Qt::Key_Home);
+    EXPECT_EQ(document.controls.durability, 0);
+    EXPECT_NE(get<QLabel>("lblRESISTANCE").text(), full);
+}
+
+TEST_F(WindowTest, ControlSWritesTheConsist) {
+    build({"BB 9288", "Voiture Corail"});
+    QTest::keyClicks(&get<QLineEdit>("tbFULL_NAME"), "Corail");
+    window->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    QTest::keyClick(window.get(), Qt::Key_S, Qt::ControlModifier);
+    const auto bytes = test.files.get(consistsPath(state.RootMSTS) + "Corail.con");
+    ASSERT_TRUE(bytes);
+    std::string text;
+    decodeSimulatorText(*bytes, text);
+    EXPECT_NE(text.find("EngineData ( bb1 BB )"), std::string::npos);
+    EXPECT_NE(text.find("WagonData ( car1 Cars )"), std::string::npos);
+    EXPECT_FALSE(get<QPushButton>("cmdSAVE").isEnabled());
+    EXPECT_EQ(test.dialogs.shown.size(), 1u);
+}
+
+TEST_F(WindowTest, NewAsksFirstAndEmptiesTheStrip) {
+    build({"BB 9288"});
+    document.Vehicules[0].Flipped = true;
+    state.Modified = true;
+    test.dialogs.answers = {answer::No};
+    press("cmdNEW");
+    EXPECT_EQ(test.dialogs.shown.size(), 1u);
+    EXPECT_EQ(vehicles(), Names());
+    EXPECT_FALSE(get<QPushButton>("cmdNUMEROTATION").isEnabled());
+}
+
+TEST_F(WindowTest, OpenShowsTheConsistAndItsDoubleNameInRed) {
+    const std::string path = consistsPath(state.RootMSTS) + "other.con";
+    test.files.put(
+        path, encodeConsist(std::string(ConsistSignature) +
+                            "\r\nTrain (\r\nTrainCfg ( inside\r\nName ( \"Full name\" )\r\n"
+                            "Durability ( 0.50000 )\r\nEngine (\r\nUiD ( 7 )\r\nEngineData ( bb1 BB )\r\n)"
+                            "\r\nWagon (\r\nWagonData ( gone Cars )\r\nUiD ( 8 )\r\n)\r\n)\r\n)\r\n"));
+    test.dialogs.openFile = path;
+    press("cmdOPEN");
+    ASSERT_EQ(test.dialogs.asked.size(), 1u);
+    EXPECT_EQ(test.dialogs.asked[0].folder, consistsPath(state.RootMSTS));
+    EXPECT_EQ(vehicles(), (Names{"BB 9288", "gone.wag"}));
+    QLineEdit& shortName = get<QLineEdit>("tbNAME");
+    EXPECT_EQ(shortName.text(), "inside - other.con");
+    EXPECT_FALSE(shortName.isEnabled());
+    EXPECT_EQ(shortName.palette().color(QPalette::Disabled, QPalette::Text), QColor(255, 0, 0));
+    EXPECT_EQ(get<QLineEdit>("tbFULL_NAME").text(), "Full name");
+    EXPECT_EQ(get<QSlider>("Slider1").value(), 500);
+    EXPECT_FALSE(get<QPushButton>("cmdSAVE").isEnabled());
+    press("cmdNEW");
+    EXPECT_TRUE(shortName.isEnabled());
+    EXPECT_NE(shortName.palette().color(QPalette::Text), QColor(255, 0, 0));
+}
+
+TEST_F(WindowTest, ACancelledOpenChangesNothing) {
+    build({"BB 9288"});
+    press("cmdOPEN");
+    EXPECT_EQ(vehicles(), Names{"BB 9288"});
+}
+
+TEST_F(WindowTest, CloseWaitsForASaveThatDidNotHappen) {
+    build({"BB 9288"});
+    state.Modified = true;
+    test.dialogs.answers = {answer::Yes}; // then the message that the name is missing
+    EXPECT_FALSE(window->close());
+    EXPECT_TRUE(window->isVisible());
+    EXPECT_EQ(test.setting("InstallDir"), "");
+    test.dialogs.answers = {answer::No};
+    press("cmdCANCEL");
+    EXPECT_FALSE(window->isVisible());
+    EXPECT_EQ(test.setting("InstallDir"), state.RootMSTS);
+}
+
+TEST_F(WindowTest, TheNumberButtonRenumbersOnce) {
+    build({"BB 9288", "CC 6500"});
+    document.Vehicules[0].Number = 12;
+    press("cmdNUMEROTATION");
+    EXPECT_EQ(document.Vehicules[0].Number, 0);
+    EXPECT_EQ(document.Vehicules[1].Number, 1);
+    EXPECT_TRUE(get<QPushButton>("cmdSAVE").isEnabled());
+}
+
+TEST_F(WindowTest, AboutNamesTheProgram) {
+    press("cmdPROPOS");
+    ASSERT_EQ(test.dialogs.shown.size(), 1u);
+    EXPECT_EQ(test.dialogs.shown[0].style, style::Information);
+}
+
+TEST_F(WindowTest, AResizedWindowShowsAsMuchOfTheStrip) {
+    for (int i = 0; i < 12; ++i)
+        build({"BB 9288"});
+    const int narrow = get<QScrollBar>("HScrollRAME").maximum();
+    window->resize(1400, 800);
+    QTest::qWait(1);
+    EXPECT_EQ(document.controls.viewWidth, strip().width());
+    EXPECT_LT(get<QScrollBar>("HScrollRAME").maximum(), narrow);
+    window->resize(1800, 800);
+    QTest::qWait(1);
+    EXPECT_FALSE(get<QScrollBar>("HScrollRAME").isEnabled());
+}
+
+} // namespace
+} // namespace zandor
