@@ -1,0 +1,39 @@
+// What every fuzz target needs around the call that it tries.
+#pragma once
+
+#include "frame/language.h"
+#include "platform/memory_file_system.h"
+#include "simfiles/sim_file.h"
+
+#include <fuzzer/FuzzedDataProvider.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <string>
+#include <string_view>
+
+namespace zandor::fuzz {
+
+// A disk in memory and a reader on it. There is no language file, so every message text is empty.
+struct Surroundings {
+    MemoryFileSystem files;
+    ProfileFiles profiles{files};
+    AppState state;
+    Language language{profiles, state};
+    SimReader reader{files, language};
+};
+
+// Ends the run, as a crash does, when a promise is broken.
+inline void require(bool kept, const char* promise) {
+    if (kept)
+        return;
+    std::fprintf(stderr, "Broken: %s\n", promise);
+    std::abort();
+}
+
+// The options are taken from the end of the input and the rest is a file: a seed is a file as it stands.
+inline std::string fileOf(FuzzedDataProvider& input) {
+    return input.ConsumeRemainingBytesAsString();
+}
+
+} // namespace zandor::fuzz
