@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <iterator>
 
 namespace zandor::bench {
 
@@ -13,17 +14,23 @@ std::string benchmarkName(const std::string& operation, int files) {
 
 void RatioTable::ReportRuns(const std::vector<Run>& runs) {
     for (const Run& run : runs) {
-        if (run.run_type == Run::RT_Aggregate || run.error_occurred)
+        if (run.run_type == Run::RT_Aggregate)
             continue;
-        const double seconds = run.real_accumulated_time / static_cast<double>(run.iterations);
-        const auto [place, isNew] = best_.try_emplace(run.run_name.function_name, seconds);
-        place->second = std::min(place->second, seconds);
+        if (run.error_occurred) {
+            std::fprintf(stderr, "%s: %s\n", run.benchmark_name().c_str(), run.error_message.c_str());
+            continue;
+        }
+        const auto iterations = static_cast<double>(run.iterations);
+        const Best one{run.real_accumulated_time / iterations, run.cpu_accumulated_time / iterations};
+        const auto [place, isNew] = best_.try_emplace(run.run_name.function_name, one);
+        place->second.clock = std::min(place->second.clock, one.clock);
+        place->second.processor = std::min(place->second.processor, one.processor);
     }
 }
 
 void RatioTable::Finalize() {
-    std::printf("%-20s %7s %11s %12s %14s\n", "operation", "files", "best ms", "us per file",
-                "to plain read");
+    std::printf("%-20s %7s %11s %12s %14s %13s %14s\n", "operation", "files", "best ms", "us per file",
+                "to plain read", "CPU us / file", "to plain read");
     for (const char* operation : {PlainStock, LoadFull, LoadQuick})
         for (const int files : StockCounts)
             printRow(operation, PlainStock, files);
@@ -33,25 +40,27 @@ void RatioTable::Finalize() {
         printGrowth(operation);
 }
 
-double RatioTable::secondsOf(const std::string& operation, int files) const {
+RatioTable::Best RatioTable::bestOf(const std::string& operation, int files) const {
     const auto found = best_.find(benchmarkName(operation, files));
-    return found == best_.end() ? 0 : found->second;
+    return found == best_.end() ? Best{} : found->second;
 }
 
 void RatioTable::printRow(const std::string& operation, const std::string& baseLine, int files) const {
-    const double seconds = secondsOf(operation, files);
-    const double base = secondsOf(baseLine, files);
-    if (seconds > 0 && base > 0)
-        std::printf("%-20s %7d %11.1f %12.2f %14.2f\n", operation.c_str(), files, seconds * 1e3,
-                    seconds * 1e6 / files, seconds / base);
+    const Best best = bestOf(operation, files);
+    const Best base = bestOf(baseLine, files);
+    if (best.clock > 0 && base.clock > 0)
+        std::printf("%-20s %7d %11.1f %12.2f %14.2f %13.2f %14.2f\n", operation.c_str(), files,
+                    best.clock * 1e3, best.clock * 1e6 / files, best.clock / base.clock,
+                    best.processor * 1e6 / files, best.processor / base.processor);
 }
 
 void RatioTable::printGrowth(const std::string& operation) const {
     const int fewest = StockCounts[0], most = StockCounts[std::size(StockCounts) - 1];
-    const double few = secondsOf(operation, fewest) / fewest;
-    const double many = secondsOf(operation, most) / most;
-    if (few > 0 && many > 0)
-        std::printf("%s: time per file at %d / at %d: %.2f\n", operation.c_str(), most, fewest, many / few);
+    const Best few = bestOf(operation, fewest), many = bestOf(operation, most);
+    const double files = static_cast<double>(most) / fewest;
+    if (few.clock > 0 && many.clock > 0)
+        std::printf("%s: time per file at %d / at %d: %.2f (processor %.2f)\n", operation.c_str(), most,
+                    fewest, many.clock / few.clock / files, many.processor / few.processor / files);
 }
 
 } // namespace zandor::bench

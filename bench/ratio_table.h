@@ -25,11 +25,16 @@ class RatioTable final : public benchmark::BenchmarkReporter {
     void Finalize() override;
 
   private:
+    // Seconds of the fastest repetition on the clock, and of the one that took least of the processor: the
+    // latter stays steady while the machine has other work to do.
+    struct Best {
+        double clock = 0, processor = 0; // 0: wasn't run
+    };
     void printRow(const std::string& operation, const std::string& baseLine, int files) const;
     void printGrowth(const std::string& operation) const;
-    double secondsOf(const std::string& operation, int files) const; // 0: wasn't run
+    Best bestOf(const std::string& operation, int files) const;
 
-    std::map<std::string, double> best_; // seconds of the fastest repetition, by benchmark
+    std::map<std::string, Best> best_; // by benchmark
 };
 
 } // namespace zandor::bench

