@@ -9,21 +9,29 @@ namespace {
 
 enum class Block { Other, TrainCfg, Engine, Wagon, EngineVariables };
 
-Block blockOf(std::string_view path) {
-    const std::string block = StripOccurrence(path);
-    if (equalIgnoringCase(block, "Train\\TrainCfg"))
-        return Block::TrainCfg;
-    if (equalIgnoringCase(block, "Train\\TrainCfg\\Engine"))
+// Which block a path is. `train` keeps the spelling of Train\TrainCfg from call to call: every vehicle's path
+// begins with it.
+Block blockOf(std::string_view path, std::string_view& train) {
+    if (train.empty() || !path.starts_with(train) || path.size() == train.size()) {
+        if (pathIs(path, "Train\\TrainCfg")) {
+            train = path;
+            return Block::TrainCfg;
+        }
+        if (train.empty() || !path.starts_with(train))
+            return Block::Other;
+    }
+    if (path[train.size()] != '\\')
+        return Block::Other;
+    const std::string_view vehicle = path.substr(train.size() + 1);
+    if (pathIs(vehicle, "Engine"))
         return Block::Engine;
-    if (equalIgnoringCase(block, "Train\\TrainCfg\\Wagon"))
+    if (pathIs(vehicle, "Wagon"))
         return Block::Wagon;
-    if (equalIgnoringCase(block, "Train\\TrainCfg\\Engine\\EngineVariables"))
-        return Block::EngineVariables;
-    return Block::Other;
+    return pathIs(vehicle, "Engine\\EngineVariables") ? Block::EngineVariables : Block::Other;
 }
 
 void takeTrainKey(const SimKey& key, Rame& rame) {
-    const auto is = [&key](std::string_view name) { return equalIgnoringCase(key.Key, name); };
+    const auto is = [&key](std::string_view name) { return nameIs(key.Key, name); };
     if (key.Key.empty())
         rame.CfgName = StripQuotes(key.Value);
     else if (is("Name"))
@@ -53,7 +61,7 @@ void takeVariables(std::string_view name, std::string_view value, RameItem& item
 }
 
 void takeVehicleKey(const SimKey& key, bool inEngine, std::vector<RameItem>& items) {
-    const auto is = [&key](std::string_view name) { return equalIgnoringCase(key.Key, name); };
+    const auto is = [&key](std::string_view name) { return nameIs(key.Key, name); };
     if (key.Key.empty())
         beginVehicle(items, inEngine);
     else if (is("Flip"))
@@ -128,13 +136,14 @@ std::optional<SimError> ReadConsistFile(SimReader& reader, Rame& rame, std::vect
     rame.FileName = GetFileName(path);
     reader.ReadSimFile(path, "", "", 1, false, false);
 
+    std::string_view train;
     int lastPath = -1;
     Block block = Block::Other;
     for (const SimKey& key : reader.SimKeys) {
         if (key.Path.empty())
             continue;
         if (key.pathId != lastPath) {
-            block = blockOf(key.Path);
+            block = blockOf(key.Path, train);
             lastPath = key.pathId;
         }
         if (block == Block::TrainCfg)

@@ -1,6 +1,7 @@
 #include "simfiles/stock_reader.h"
 
 #include "simfiles/coupling_fields.h"
+#include "simfiles/sim_keys.h"
 #include "text/decode.h"
 #include "text/lines.h"
 #include "text/text.h"
@@ -19,7 +20,7 @@ std::string_view withoutEnds(std::string_view line) {
 
 // True when the line begins with the key (lower case) and its bracket.
 bool beginsWithKey(std::string_view line, std::string_view key) {
-    if (line.size() <= key.size() || !beginsWithIgnoringCase(line, key))
+    if (line.size() <= key.size() || !nameIs(line.substr(0, key.size()), key))
         return false;
     const std::size_t bracket = line.find_first_not_of(" \t", key.size());
     return bracket != std::string_view::npos && line[bracket] == '(';
@@ -51,7 +52,19 @@ class QuickReader {
   private:
     // The first letters of all keys below.
     static bool mayBeKey(char c) {
-        return std::string_view("wntsmcbe").find(static_cast<char>(c | 0x20)) != npos;
+        switch (c | 0x20) {
+        case 'w':
+        case 'n':
+        case 't':
+        case 's':
+        case 'm':
+        case 'c':
+        case 'b':
+        case 'e':
+            return true;
+        default:
+            return false;
+        }
     }
 
     // The value of a line that begins with the key; false when it doesn't.

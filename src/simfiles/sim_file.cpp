@@ -33,7 +33,8 @@ constexpr std::array<KindRow, 9> Kinds{{
 const KindRow* rowOf(std::string_view path) {
     const KindRow* found = nullptr;
     for (const KindRow& row : Kinds)
-        if (endsWithIgnoringCase(path, row.extension))
+        if (path.size() >= row.extension.size() &&
+            nameIs(path.substr(path.size() - row.extension.size()), row.extension))
             found = &row;
     return found;
 }

@@ -45,6 +45,23 @@ std::string StripOccurrence(std::string_view path) {
     }
 }
 
+bool pathIs(std::string_view path, std::string_view wanted) {
+    for (;;) {
+        const std::size_t slash = path.find('\\');
+        const std::size_t wantedSlash = wanted.find('\\');
+        if ((slash == std::string_view::npos) != (wantedSlash == std::string_view::npos))
+            return false;
+        std::string_view component = path.substr(0, slash);
+        component = component.substr(0, component.find(OccurrenceMarker));
+        if (!nameIs(component, wanted.substr(0, wantedSlash)))
+            return false;
+        if (slash == std::string_view::npos)
+            return true;
+        path.remove_prefix(slash + 1);
+        wanted.remove_prefix(wantedSlash + 1);
+    }
+}
+
 bool commentRuleApplies(std::string_view path, std::string_view key) {
     return !key.empty() && isOneOf(path, CommentedBlocks) && !isOneOf(key, UncommentedKeys);
 }

@@ -13,24 +13,12 @@ namespace {
 
 enum class Block { Other, Wagon, Coupling, Engine };
 
-// One component of a path, without its occurrence marker.
-std::string_view withoutMarker(std::string_view component) {
-    return component.substr(0, component.find(OccurrenceMarker));
-}
-
-bool isName(std::string_view text, std::string_view name) {
-    return text.size() == name.size() && equalIgnoringCase(text, name);
-}
-
 Block blockOf(std::string_view path) {
-    const std::size_t slash = path.find('\\');
-    const std::string_view top = withoutMarker(path.substr(0, slash));
-    if (slash == std::string_view::npos)
-        return isName(top, "wagon") ? Block::Wagon : isName(top, "engine") ? Block::Engine : Block::Other;
-    const std::string_view below = path.substr(slash + 1);
-    if (!isName(top, "wagon") || below.find('\\') != std::string_view::npos)
-        return Block::Other;
-    return isName(withoutMarker(below), "coupling") ? Block::Coupling : Block::Other;
+    if (pathIs(path, "wagon"))
+        return Block::Wagon;
+    if (pathIs(path, "engine"))
+        return Block::Engine;
+    return pathIs(path, "wagon\\coupling") ? Block::Coupling : Block::Other;
 }
 
 using Field = std::string Materiel::*;
@@ -57,15 +45,15 @@ constexpr std::array<Field, 11> ReadFields{
     &Materiel::Coupling,   &Materiel::CouplingUnique, &Materiel::BrakeSystem};
 
 void takeCouplingKey(const SimKey& key, Materiel& materiel) {
-    if (equalIgnoringCase(key.Key, "type"))
+    if (nameIs(key.Key, "type"))
         addCouplingType(materiel, StripQuotes(key.Value));
-    else if (equalIgnoringCase(key.Key, "couplinguniquetype"))
+    else if (nameIs(key.Key, "couplinguniquetype"))
         setCouplingUnique(materiel, StripQuotes(key.Value));
 }
 
 void takeKey(const SimKey& key, Block block, Materiel& materiel) {
     for (const FieldRow& row : Fields) {
-        if (row.block != block || !isName(key.Key, row.key))
+        if (row.block != block || !nameIs(key.Key, row.key))
             continue;
         const bool comment = commentRuleApplies(block == Block::Engine ? "engine" : "wagon", key.Key);
         materiel.*row.field = StripQuotes(comment ? cutComment(key.Value) : key.Value);
@@ -160,9 +148,9 @@ StockReading ReadStockFile(SimReader& reader, std::string_view path, Materiel& m
         takeKey(key, block, materiel);
         if (!isWagonFile || block != Block::Wagon)
             continue;
-        if (equalIgnoringCase(key.Key, "name"))
+        if (nameIs(key.Key, "name"))
             reading.wagonNames.push_back({key.Line, std::string(StripQuotes(key.Value))});
-        else if (equalIgnoringCase(key.Key, "wagonshape"))
+        else if (nameIs(key.Key, "wagonshape"))
             shapeLine = key.Line;
     }
     reading.error = findMissingKey(reader, path, materiel);

@@ -44,9 +44,14 @@ bool endsInPlus(std::string_view text) {
 // A value that begins with the misspelt default marker counts from behind it.
 std::string_view withoutDefault(std::string_view value) {
     constexpr std::string_view marker = "defaut";
-    if (value.empty() || (value[0] | 0x20) != 'd' || !beginsWithIgnoringCase(value, marker))
+    if (!nameIs(value.substr(0, marker.size()), marker))
         return value;
     return value.size() > marker.size() + 2 ? trim(value.substr(marker.size() + 2)) : std::string_view();
+}
+
+bool isVehicleData(std::string_view line) {
+    constexpr std::string_view engine = "EngineData", wagon = "WagonData";
+    return nameIs(line.substr(0, engine.size()), engine) || nameIs(line.substr(0, wagon.size()), wagon);
 }
 
 // Position behind the first run of two blanks in `text`, or npos.
@@ -86,9 +91,7 @@ Tokeniser::Outcome Tokeniser::run(const std::vector<SimLine>& lines, const Searc
         if (waiting && !beginsWithIgnoringCase(line.text, "engine"))
             continue;
         waiting = false;
-        if (isConsist && (line.firstOpen < 0 || line.firstClose < 0) &&
-            (beginsWithIgnoringCase(line.text, "EngineData") ||
-             beginsWithIgnoringCase(line.text, "WagonData"))) {
+        if (isConsist && (line.firstOpen < 0 || line.firstClose < 0) && isVehicleData(line.text)) {
             settleValue();
             outcome.badLine = static_cast<int>(lineNumber_);
             outcome.closeMissing = line.firstOpen >= 0;
@@ -214,7 +217,7 @@ bool Tokeniser::openWithRest(std::string_view& line, const Brackets& at) {
     std::string_view value;
     std::size_t nextName = at.open + 1;
     const std::size_t textStart = between.find_first_not_of(' ');
-    if (equalIgnoringCase(name, "comment")) {
+    if (nameIs(name, "comment")) {
         value = upToClosing(line.substr(at.open + 1));
     } else if (textStart != npos && between[textStart] == '"' && between.find('"', textStart + 1) != npos) {
         const std::size_t end = between.find('"', textStart + 1) + 1;
@@ -379,7 +382,7 @@ bool Tokeniser::bareWord(std::string_view line) {
 
 SimKey& Tokeniser::addRecord(int path, std::string_view key, std::string_view value, std::string_view tail) {
     settleValue();
-    if (key.size() == 4 && (key[0] | 0x20) == 's' && equalIgnoringCase(key, "skip")) {
+    if (nameIs(key, "skip")) {
         const std::string_view owner = keys_.back().Key;
         const std::string_view block = paths_[static_cast<std::size_t>(path)].text;
         path = internPath(arena_.join(block, block.empty() ? "" : "\\", owner));
@@ -440,11 +443,9 @@ bool Tokeniser::matchLast() {
 bool Tokeniser::matchStockKey() {
     constexpr unsigned all = (1u << StockKeys.size()) - 1;
     const SimKey& last = keys_.back();
-    const std::string stripped = hasMarker(last.Path) ? StripOccurrence(last.Path) : std::string();
-    const std::string_view path = stripped.empty() ? last.Path : std::string_view(stripped);
     for (std::size_t i = 0; i < StockKeys.size(); ++i) {
         const StockKey& wanted = StockKeys[i];
-        if (!equalIgnoringCase(last.Key, wanted.key) || !equalIgnoringCase(path, wanted.path))
+        if (!nameIs(last.Key, wanted.key) || !pathIs(last.Path, wanted.path))
             continue;
         const bool seen = stockSeen_ & (1u << i);
         if (seen && i != CouplingTypeKey)
@@ -516,9 +517,7 @@ void Tokeniser::popPath() {
 bool Tokeniser::isWanted(int path) {
     PathEntry& entry = paths_[static_cast<std::size_t>(path)];
     if (entry.wanted < 0)
-        entry.wanted = hasMarker(entry.text)
-                           ? equalIgnoringCase(StripOccurrence(entry.text), request_.section)
-                           : equalIgnoringCase(entry.text, request_.section);
+        entry.wanted = equalIgnoringCase(StripOccurrence(entry.text), request_.section);
     return entry.wanted == 1;
 }
 
