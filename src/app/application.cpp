@@ -97,6 +97,12 @@ bool Application::chooseRoots() {
     if (options_.root.isEmpty())
         return findRoots(frame_);
     state_.RootMSTS = state_.RootPrimary = pathFromQt(QDir(options_.root).absolutePath());
+    if (!FolderExists(*files_, state_.RootPrimary)) {
+        frame_.show(
+            frame_.text(Message::SimulatorNotFound, {{"|1", "Microsoft Train Simulator"}, {"|2", "\n"}}),
+            style::Exclamation);
+        return false;
+    }
     state_.RootTStore.clear();
     state_.RootSecondary.clear();
     return true;

@@ -152,7 +152,7 @@ int RealFileSystem::openForReading(std::string_view path) {
     return resolve(path).isFile() ? openFile(place_.real, O_RDONLY) : -1;
 }
 
-// A read that comes short has reached the end of a plain file. Reading at an offset fails for a pipe or
+// A file is read until nothing comes: over a network a read may come short before the end. Reading at an offset fails for a pipe or
 // terminal, and for a folder; what else isn't a plain file reads as nothing or without an end, and is asked
 // what it is.
 bool RealFileSystem::readOpened(int file, std::string& bytes) {
@@ -160,7 +160,9 @@ bool RealFileSystem::readOpened(int file, std::string& bytes) {
     if (count < 0)
         return false;
     bytes.assign(buffer_.get(), std::size_t(count));
-    return (count > 0 && std::size_t(count) < kReadBuffer) || readRest(file, bytes);
+    if (count > 0 && std::size_t(count) < kReadBuffer && readAt(file, buffer_.get(), bytes.size()) == 0)
+        return true;
+    return readRest(file, bytes);
 }
 
 bool RealFileSystem::readRest(int file, std::string& bytes) {

@@ -133,7 +133,6 @@ class QuickReader {
             fillEmpty(materiel_.EngineName);
     }
 
-    static constexpr std::size_t npos = std::string_view::npos;
     Materiel& materiel_;
     std::string normal_;
     std::string_view value_; // of normal_, behind the bracket

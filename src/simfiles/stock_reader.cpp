@@ -90,11 +90,34 @@ WagonNameLine nameThatStays(const std::vector<WagonNameLine>& names, int shapeLi
     return stays;
 }
 
-bool isSurplus(const std::vector<WagonNameLine>& names, int line, int stays) {
-    for (const WagonNameLine& name : names)
-        if (name.line == line && line != stays)
-            return true;
-    return false;
+// True when the line is one Name key and nothing else: only such a line can be left out without loss.
+bool isNameLine(std::string_view line) {
+    std::string plain(line);
+    NormalizeLine(plain);
+    const std::size_t open = plain.find('(');
+    const std::size_t close = plain.find(')', open == std::string::npos ? 0 : open);
+    return open != std::string::npos && close == plain.size() - 1 &&
+           plain.find('(', open + 1) == std::string::npos &&
+           nameIs(trim(std::string_view(plain).substr(0, open)), "name");
+}
+
+// The file's text without the names that don't stay; nothing when one of them isn't alone on its line.
+std::optional<std::string> textWithOneName(std::string_view text, const std::vector<WagonNameLine>& names,
+                                           int stays) {
+    std::string result;
+    bool alone = true;
+    int number = 0;
+    auto next = names.begin(); // in the order of the file
+    forEachLine(text, [&](std::string_view line) {
+        ++number;
+        bool surplus = false;
+        for (; next != names.end() && next->line <= number; ++next)
+            surplus = next->line == number && number != stays;
+        alone = alone && (!surplus || isNameLine(line));
+        if (!surplus)
+            result.append(number == 1 ? ConsistSignature : line).append("\r\n");
+    });
+    return alone ? std::optional(std::move(result)) : std::nullopt;
 }
 
 bool rewriteNames(FileSystem& files, std::string_view path, const std::vector<WagonNameLine>& names,
@@ -103,18 +126,13 @@ bool rewriteNames(FileSystem& files, std::string_view path, const std::vector<Wa
     if (!files.readFile(path, bytes))
         return false;
     decodeSimulatorText(bytes, text);
-    std::string result;
-    int number = 0;
-    forEachLine(text, [&](std::string_view line) {
-        ++number;
-        if (isSurplus(names, number, stays))
-            return;
-        result.append(number == 1 ? ConsistSignature : line).append("\r\n");
-    });
+    const std::optional<std::string> result = textWithOneName(text, names, stays);
+    if (!result)
+        return false;
     const FileAttributes attributes = files.attributes(path);
     if (attributes.readOnly)
         files.setAttributes(path, {});
-    const bool written = replaceFile(files, path, encodeText(result, TextEncoding::Utf16));
+    const bool written = replaceFile(files, path, encodeText(*result, TextEncoding::Utf16));
     if (attributes.readOnly)
         files.setAttributes(path, attributes);
     return written;

@@ -27,7 +27,8 @@ struct StockReading {
 };
 
 // Fills the fields of `materiel`; a file whose signature doesn't fit leaves it as it was. With Allowed, a
-// .wag with several Name keys is rewritten on the spot with the one that stays; its attributes are kept.
+// .wag with several Name keys, each alone on its line, is rewritten on the spot with the one that stays; its
+// attributes are kept.
 StockReading ReadStockFile(SimReader& reader, std::string_view path, Materiel& materiel,
                            NameRepair repair = NameRepair::Allowed);
 

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <utility>
 
 namespace zandor {
 
@@ -25,7 +26,7 @@ inline std::string_view trimmed(std::string_view text) {
 
 // No real file comes near it; a file of garbage that opens a block on every line must not grow with the
 // square.
-constexpr std::size_t MaxPathLength = 1024;
+constexpr std::size_t MaxPathLength = 512;
 
 std::string_view lastComponent(std::string_view path) {
     const std::size_t slash = path.rfind('\\');
@@ -86,7 +87,7 @@ Tokeniser::Outcome Tokeniser::run(const std::vector<SimLine>& lines, const Searc
     Outcome outcome;
     for (lineNumber_ = 1; lineNumber_ < lines.size(); ++lineNumber_) {
         const SimLine& line = lines[lineNumber_];
-        if (line.text.empty() || lineNumber_ == skipLine_)
+        if (line.text.empty() || lineNumber_ <= skipLine_)
             continue;
         if (waiting && !beginsWithIgnoringCase(line.text, "engine"))
             continue;
@@ -130,14 +131,19 @@ bool Tokeniser::plainLine(const SimLine& line) {
 bool Tokeniser::workLine(std::string_view line) {
     closingKnown_ = false;
     for (line = trim(line); !line.empty(); line = trim(line)) {
-        if (line.front() == '"')
-            return continueQuoted(line);
+        if (line.front() == '"') {
+            const std::string_view rest = cutBehindClosing(line);
+            if (continueQuoted(line))
+                return true;
+            line = rest;
+            continue;
+        }
         const Brackets at = findBrackets(line);
         bool stop = false;
         if (at.earlyClose != npos) {
             stop = close(line, at.earlyClose);
         } else if (at.open == npos) {
-            return bareWord(line);
+            stop = bareWord(line);
         } else if (at.close != npos || at.nextOpen == npos) {
             if (at.close == npos)
                 return at.open > 0 &&
@@ -181,6 +187,10 @@ bool Tokeniser::simpleKey(std::string_view& line, const Brackets& at) {
     // A line that ends in "+" goes on with the next one, unless another key follows the bracket.
     const bool goesOn = endsInPlus(line) && at.nextOpen == npos;
     const bool textRemains = !rest.empty() && !goesOn;
+    if (trim(line.substr(0, at.open)).empty()) { // brackets without a name are nobody's value
+        line = rest;
+        return false;
+    }
     addRecord(currentPath(), trim(line.substr(0, at.open)),
               trim(line.substr(at.open + 1, at.close - at.open - 1)),
               textRemains ? line.substr(0, at.close + 1) : line);
@@ -279,6 +289,28 @@ bool Tokeniser::close(std::string_view& line, std::size_t at) {
     return stop;
 }
 
+// Ends a quoted line at the bracket behind its text; returns what follows that.
+std::string_view Tokeniser::cutBehindClosing(std::string_view& line) {
+    const std::size_t partner = line.find('"', 1);
+    if (partner == npos)
+        return {};
+    const std::size_t closing = line.find_first_not_of(' ', partner + 1);
+    if (closing == npos || line[closing] != ')')
+        return {};
+    const std::string_view rest = trim(line.substr(closing + 1));
+    if (rest == "+")
+        return {};
+    line = line.substr(0, closing + 1);
+    return rest;
+}
+
+// A closing bracket at the end of a line of text that isn't taken.
+bool Tokeniser::leaveQuoted(std::string_view line) {
+    if (line.back() == ')' && quotedIn_ >= 0 && currentPath() == quotedIn_)
+        quotedIn_ = -1;
+    return false;
+}
+
 bool Tokeniser::continueQuoted(std::string_view line) {
     SimKey& last = keys_.back();
     if (!last.Key.empty())
@@ -315,16 +347,13 @@ bool Tokeniser::continueQuoted(std::string_view line) {
 
 bool Tokeniser::appendQuoted(std::string_view line) {
     if (!joining_) {
-        if (!endsInPlus(keys_.back().Value)) {
-            if (line.back() == ')' && quotedIn_ >= 0 && currentPath() == quotedIn_)
-                quotedIn_ = -1;
-            return false;
-        }
+        if (!endsInPlus(keys_.back().Value))
+            return leaveQuoted(line);
         const std::string_view value = keys_.back().Value;
         joined_ = StripQuotes(value.substr(0, value.size() - 1));
         joining_ = true;
     } else if (!endsInPlus(joined_)) {
-        return false;
+        return leaveQuoted(line);
     } else {
         joined_.pop_back();
         if (!joined_.empty() && joined_.back() == '"')
@@ -350,8 +379,9 @@ bool Tokeniser::appendQuoted(std::string_view line) {
 }
 
 // A line of neither brackets nor quote: the next line that isn't blank tells what it is.
-bool Tokeniser::bareWord(std::string_view line) {
-    std::size_t next = lineNumber_ + 1;
+bool Tokeniser::bareWord(std::string_view& rest) {
+    const std::string_view line = std::exchange(rest, {});
+    std::size_t next = std::max(lineNumber_, skipLine_) + 1;
     while (next < lines_->size() && (*lines_)[next].text.empty())
         ++next;
     if (next >= lines_->size())
@@ -361,7 +391,8 @@ bool Tokeniser::bareWord(std::string_view line) {
         if (following.text.size() == 1)
             return openBlock(line, line, line);
         skipLine_ = next;
-        return workLine(arena_.join(line, " ", following.text));
+        rest = arena_.join(line, " ", following.text);
+        return false;
     }
     SimKey& last = keys_.back();
     if (following.firstOpen < 0) {
@@ -371,7 +402,7 @@ bool Tokeniser::bareWord(std::string_view line) {
             last.Line = static_cast<int>(lineNumber_);
         }
         appendToValue(line);
-    } else {
+    } else if (last.Key.empty()) { // the name of a block, below its bracket; behind a key it is a remark
         joining_ = false;
         last.Value = line;
         last.Tail = line;

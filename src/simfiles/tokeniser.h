@@ -38,9 +38,8 @@ class Tokeniser {
         int records = 0;         // how many of the keys carry it now
         signed char wanted = -1; // is it the section asked for? -1: not looked at yet
     };
-    // Of a line: the first "(", then the first ")" or "(" behind it, and a ")" before it. With a ")",
-    // nextOpen is the
-    // "(" behind that.
+    // Of a line: the first opening, then the first closing or opening behind it, and a closing before it.
+    // With a closing, nextOpen is the opening behind that.
     struct Brackets {
         std::size_t open = npos, nextOpen = npos, close = npos, earlyClose = npos;
     };
@@ -54,9 +53,11 @@ class Tokeniser {
     std::string_view upToClosing(std::string_view text);
     bool openWithRest(std::string_view& line, const Brackets& at);
     bool close(std::string_view& line, std::size_t at);
+    static std::string_view cutBehindClosing(std::string_view& line);
+    bool leaveQuoted(std::string_view line);
     bool continueQuoted(std::string_view line);
     bool appendQuoted(std::string_view line);
-    bool bareWord(std::string_view line);
+    bool bareWord(std::string_view& rest);
 
     bool matchLast();
     bool matchStockKey();

@@ -117,6 +117,19 @@ TEST_F(SimFixture, SeveralNamesAreRepairedInAWagonFileOnly) {
     }
 }
 
+TEST_F(SimFixture, NamesThatShareTheirLinesAreLeftAlone) {
+    for (const char* names :
+         {"Name ( one )\nName ( two ) NumWheels ( 4 )\n", "Name ( one )\nName (\n\"two\" )\n",
+          "Name ( one )\nName ( \"two\" +\n\"three\" )\n"}) {
+        const std::string before = utf16(signed_(wagonBody(names)));
+        files.put("\\a.wag", before);
+        Materiel materiel;
+        const StockReading reading = ReadStockFile(reader, "\\a.wag", materiel);
+        EXPECT_TRUE(reading.needsRepair && !reading.repaired) << names;
+        EXPECT_EQ(files.get("\\a.wag"), before);
+    }
+}
+
 TEST_F(SimFixture, ARepairThatFailsLosesNothing) {
     const std::string before = utf16(signed_(wagonBody("Name ( one )\nName ( two )\n")));
     Materiel materiel;

@@ -55,6 +55,9 @@ INSTANTIATE_TEST_SUITE_P(
                   "W (\nLights\n\n(\nX ( 1 )\n)\nY ( 2 )\n)",
                   {"W|||2", "W\\Lights||Lights|3", "W\\Lights|X|1|6", "W|Y|2|8"}},
         ParseCase{"ValueBelowName", "W (\nMass\n( 30t )\nY ( 2 )\n)", {"W|||2", "W|Mass|30t|3", "W|Y|2|5"}},
+        ParseCase{"WordBehindAValueBelowItsName",
+                  "W (\nMass\n( 30t ) word\nType ( Engine )\nY ( 2 )\n)",
+                  {"W|||2", "W|Mass|30t|3", "W|Type|Engine|5", "W|Y|2|6"}},
         ParseCase{"NumbersBelow",
                   "W (\nLights ( 10\n1 2\n3 4\n)\nY ( 2 )\n)",
                   {"W|||2", "W\\Lights||10 1 2 3 4|5", "W|Y|2|7"}},
@@ -72,6 +75,18 @@ INSTANTIATE_TEST_SUITE_P(
         ParseCase{"TwoTextsWithoutPlus",
                   "E (\nDescription (\n\"one\"\n\"two\" )\nX ( 1 )\n)",
                   {"E|||2", "E|Description|\"one\"|4", "E|X|1|6"}},
+        ParseCase{"TextAfterTheEndOfAText",
+                  "E (\nDescription (\n\"a\" +\n\"b\"\n\"c\" )\nX ( 1 )\n)",
+                  {"E|||2", "E|Description|ab|4", "E|X|1|7"}},
+        ParseCase{"DescriptionAndItsBlockCloseTogether",
+                  "W (\nD ( \"a\" +\n\"b\" ))\nV (\nX ( 1 )\n)",
+                  {"W|||2", "W|D|ab|3", "V|||5", "V|X|1|6"}},
+        ParseCase{"KeyBehindADescription",
+                  "W (\nD ( \"a\" +\n\"b\" ) Mass ( 3t )\n)",
+                  {"W|||2", "W|D|ab|3", "W|Mass|3t|4"}},
+        ParseCase{
+            "RemarkBehindAKey", "W (\nMass ( 31t ) heavy\nX ( 1 )\n)", {"W|||2", "W|Mass|31t|3", "W|X|1|4"}},
+        ParseCase{"BracketsWithoutName", "W ( A\n( 12 )\nX ( 1 )\n)", {"W||A|2", "W|X|1|4"}},
         ParseCase{"ClosingBeforeKey",
                   "W (\nC (\nT ( 1 )\n) Mass ( 3t )\n)",
                   {"W|||2", "W\\C|||3", "W\\C|T|1|4", "W|Mass|3t|5"}},
@@ -196,17 +211,18 @@ TEST_F(SimFixture, AVehicleLineOfAConsistNeedsItsBrackets) {
 
 TEST_F(SimFixture, GarbageEndsQuickly) {
     const std::string open = "a(\n", close = ")\n", quoted = "\"x\" +\n", word = "word\n";
-    std::string nested = "W ( ", comments = "W (\n", deep = "W (\n", joined = "D ( \"x\" +\n",
-                words = "W ( 1\n";
+    std::string joins = "W (\nw\n", nested = "W ( ", comments = "W (\n", deep = "W (\n",
+                joined = "D ( \"x\" +\n", words = "W ( 1\n";
     for (int i = 0; i < 200000; ++i) {
         deep += open;
         nested += "a ( ";
         comments += "comment ( ";
         joined += quoted;
         words += word;
+        joins += "( a ) w\n";
     }
     for (const std::string& body :
-         {deep, nested, comments, comments + ")", "W (\n" + joined, words, std::string(3000000, '('),
+         {deep, nested, joins, comments, comments + ")", "W (\n" + joined, words, std::string(3000000, '('),
           std::string(3000000, '"'), std::string(3000000, ')'), std::string("\0\0(\0)\n", 6)})
         reader.readBytes("x.wag", signed_(body), "", "", 1, false, false);
     EXPECT_EQ(keysOf("W (\nX ( 1 )\n)"), (Rows{"W|||2", "W|X|1|3"})) << "the reader is as new afterwards";
