@@ -1,5 +1,5 @@
-// The consist under edit: its strip of vehicles, the names, the drag in hand, and the state of the controls that show
-// it. Windows call the operations and show what stands here; they hold no state of their own.
+// The consist under edit: its strip of vehicles, the names, the drag in hand, and the state of the controls
+// that show it. Windows call the operations and show what stands here; they hold no state of their own.
 #pragma once
 
 #include "catalogue/catalogue.h"
@@ -28,21 +28,21 @@ struct Vehicule {
     std::string Mass;
     std::string Size;
     std::string Spare;
-    std::string EngineVariables;   // kept from the file
+    std::string EngineVariables;    // kept from the file
     std::optional<RameItem> origin; // of a vehicle read from a file; what a Missing one is written back from
 };
 
 // What the main window's controls show besides the strip. Operations write it, the window reads it.
 struct EditorControls {
-    std::string shortName;         // tbNAME
-    bool shortNameEnabled = true;  // false for a consist that has a file
-    bool shortNameRed = false;     // it shows the double name
-    std::string fullName;          // tbFULL_NAME
-    int durability = 1000;         // Slider1: 1000 for 1.00000
-    bool saveEnabled = false;      // cmdSAVE
-    bool deleteEnabled = false;    // cmdDELETE
-    bool numberEnabled = false;    // cmdNUMEROTATION
-    int scrollValue = 0;           // HScrollRAME, pixels
+    std::string shortName;        // tbNAME
+    bool shortNameEnabled = true; // false for a consist that has a file
+    bool shortNameRed = false;    // it shows the double name
+    std::string fullName;         // tbFULL_NAME
+    int durability = 1000;        // Slider1: 1000 for 1.00000
+    bool saveEnabled = false;     // cmdSAVE
+    bool deleteEnabled = false;   // cmdDELETE
+    bool numberEnabled = false;   // cmdNUMEROTATION
+    int scrollValue = 0;          // HScrollRAME, pixels
     int scrollMaximum = 0;
     bool scrollEnabled = false;
     int viewWidth = 800; // inner size of PicRAME in pixels; the window keeps it up to date
@@ -94,8 +94,8 @@ bool isEngine(const Editor& editor, const Vehicule& vehicule);
 
 StripHit HitTestStrip(const ConsistDocument& document, int x, int y);
 
-// Adds a vehicle at the drag's target or at the end: entry `index` of Materiels, of the simulator snapshot, or with
-// neither a Missing one made from `origin`.
+// Adds a vehicle at the drag's target or at the end: entry `index` of Materiels, of the simulator snapshot,
+// or with neither a Missing one made from `origin`.
 void InsertVehicule(Editor& editor, int index, bool fromMateriels, bool fromSimulator,
                     const RameItem* origin = nullptr);
 // False: refused for its couplings, nothing changed.
@@ -104,7 +104,8 @@ void RemoveVehicule(Editor& editor); // the one at DragSource
 void RenumberVehicles(Editor& editor);
 void numberButtonPressed(Editor& editor); // cmdNUMEROTATION
 
-// A drag from the stock list: over the strip at x, y; dropped there; double click (to the end). False: refused.
+// A drag from the stock list: over the strip at x, y; dropped there; double click (to the end). False:
+// refused.
 void dragOverStrip(Editor& editor, int x, int y);
 bool dropStock(Editor& editor, int materielIndex);
 bool appendStock(Editor& editor, int materielIndex);
@@ -114,8 +115,8 @@ void clearDrag(ConsistDocument& document);
 void pressStrip(Editor& editor, int x, int y);
 void moveOnStrip(Editor& editor, int x, int y); // left button down
 enum class ReleaseZone { Preview, Strip, Elsewhere };
-// Left button up. Returns the Materiels index to select in the list after a release on the preview, -1 when the panel
-// is to be emptied, nothing otherwise.
+// Left button up. Returns the Materiels index to select in the list after a release on the preview, -1 when
+// the panel is to be emptied, nothing otherwise.
 std::optional<int> releaseStrip(Editor& editor, ReleaseZone zone);
 void flipVehicule(Editor& editor, int x, int y); // right button up
 std::string stripToolTip(const ConsistDocument& document, int x, int y);
@@ -141,7 +142,8 @@ void initialiseDocument(Editor& editor); // the defaults of a new consist at sta
 bool newConsist(Editor& editor);
 bool closeEditor(Editor& editor); // the question on close, then the closing settings. False: stay open.
 
-// After a change of roots: empties the editor, then takes the snapshot or loads. False: the user ended the load.
+// After a change of roots: empties the editor, then takes the snapshot or loads. False: the user ended the
+// load.
 bool ReloadAfterOptions(Editor& editor);
 
 } // namespace zandor

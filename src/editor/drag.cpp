@@ -38,8 +38,14 @@ bool insertStock(Editor& editor, int pos, int index) {
         showStripFull(editor);
         return false;
     }
+    // The alert lets the interface live: the place of the drop is the one from before it.
+    const bool active = document.DragActive, atEnd = document.DragAtEnd;
+    const int target = document.DragTarget;
     if (!fitsBeside(editor, pos, index) && !reactToBadCoupling(editor))
         return false;
+    document.DragActive = active;
+    document.DragAtEnd = atEnd;
+    document.DragTarget = target;
     const int scrollBefore = document.controls.scrollValue;
     document.PictureWidth = PlainPictureWidth;
     InsertVehicule(editor, index, true, false);

@@ -2,6 +2,9 @@
 
 #include <array>
 
+#include <algorithm>
+#include <iterator>
+
 namespace zandor {
 
 namespace {
@@ -47,7 +50,9 @@ void changeFullName(Editor& editor, std::string_view text) {
     EditorControls& controls = editor.document.controls;
     if (text == controls.fullName)
         return;
-    controls.fullName = text;
+    controls.fullName.clear();
+    std::copy_if(text.begin(), text.end(), std::back_inserter(controls.fullName),
+                 [](char c) { return static_cast<unsigned char>(c) >= 0x20; }); // a file has it on one line
     if (controls.shortNameEnabled)
         changeShortName(editor, text);
     setModified(editor, hasVehicles(editor.document));

@@ -120,7 +120,9 @@ void showNames(ConsistDocument& document) {
     controls.shortNameEnabled = false;
 }
 
-int sliderValue(std::string_view durability) {
+// A file written under another system's number format may hold a comma.
+int sliderValue(std::string durability) {
+    std::replace(durability.begin(), durability.end(), ',', '.');
     return static_cast<int>(std::nearbyint(std::clamp(numericValue(durability) * 1000.0, 0.0, 1e9)));
 }
 

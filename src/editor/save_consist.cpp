@@ -177,17 +177,23 @@ bool ensureFolder(FileSystem& files, std::string_view path) {
            files.createFolder(path);
 }
 
-// Copies the file that is about to be replaced. Returns the copy's path, or an empty text when there is none.
-std::string keepBackup(Editor& editor, const std::string& folder, const std::string& file) {
+// The copy of the file that is about to be replaced.
+struct Backup {
+    std::string path;    // empty: there is none
+    bool failed = false; // one was wanted and could not be made
+};
+
+Backup keepBackup(Editor& editor, const std::string& folder, const std::string& file) {
     Frame& frame = editor.frame;
     const AppState& state = frame.state;
-    if (!state.HasFile || state.BackupDir.empty() ||
-        !readNumericFlag(frame.profiles, "BakFile", state.IniPath) || !FileExists(frame.files, folder + file))
+    if (!state.HasFile || !readNumericFlag(frame.profiles, "BakFile", state.IniPath) ||
+        !FileExists(frame.files, folder + file))
         return {};
     const std::string keptIn = AddBackslash(state.BackupDir) + std::string(BackupFolder);
     const std::string copy = keptIn + file + ".old";
-    const bool kept = ensureFolder(frame.files, keptIn) && CopyFileOver(frame.files, folder + file, copy);
-    return kept ? copy : std::string();
+    const bool kept = !state.BackupDir.empty() && ensureFolder(frame.files, keptIn) &&
+                      CopyFileOver(frame.files, folder + file, copy);
+    return kept ? Backup{copy, false} : Backup{{}, true};
 }
 
 bool writeConsist(Editor& editor, const std::string& folder, const Rame& rame, const VehicleList& list) {
@@ -196,15 +202,6 @@ bool writeConsist(Editor& editor, const std::string& folder, const Rame& rame, c
     if (!state.HasFile && FolderExists(files, state.RootPrimary))
         ensureFolder(files, folder);
     return replaceFile(files, folder + rame.FileName, encodeConsist(buildConsistText(rame, list.lines)));
-}
-
-bool sameFolder(std::string_view a, std::string_view b) {
-    const auto plain = [](std::string_view path) {
-        std::string text(path);
-        std::replace(text.begin(), text.end(), '/', '\\');
-        return lowerCase(AddBackslash(text));
-    };
-    return plain(a) == plain(b);
 }
 
 // The lists that mirror the CONSISTS folder of the root in use.
@@ -227,12 +224,16 @@ void listSavedFile(Catalogue& catalogue, const std::string& file, bool complete)
     known->ThirdText.clear();
 }
 
-void reportSaved(Editor& editor, bool hadFile, const std::string& backup, bool hasMissing) {
+void reportSaved(Editor& editor, bool hadFile, const Backup& backup, bool hasMissing) {
     Frame& frame = editor.frame;
     std::string text = frame.text(Message::ConsistSaved);
-    if (!backup.empty()) {
-        const std::string native = frame.files.nativePath(backup);
+    if (!backup.path.empty()) {
+        const std::string native = frame.files.nativePath(backup.path);
         text += frame.text(Message::BackupKept, {{"|1", LineBreak}, {"|2", native}});
+    } else if (backup.failed) {
+        const std::string native = frame.files.nativePath(frame.state.BackupDir);
+        text +=
+            std::string(LineBreak) + frame.text(Message::BackupFailed, {{"|1", native}, {"|2", LineBreak}});
     }
     if (hadFile && hasMissing)
         text += std::string(LineBreak) + frame.text(Message::StockMissing);
@@ -281,7 +282,7 @@ void SaveFileRame(Editor& editor) {
     const bool hasMissing = list.hasMissing;
     Rame rame = rameToWrite(editor, *names, list.hasEngine);
 
-    const std::string backup = keepBackup(editor, folder, names->file);
+    const Backup backup = keepBackup(editor, folder, names->file);
     if (!writeConsist(editor, folder, rame, list)) {
         reportFailure(editor, folder + names->file);
         return;

@@ -3,6 +3,8 @@
 
 #include <unordered_set>
 
+#include <algorithm>
+
 namespace zandor {
 
 namespace {
@@ -58,12 +60,21 @@ void countDifference(Catalogue& catalogue, const std::vector<StockPair>& before,
 ConsistEntry& entryOf(Catalogue& catalogue, const std::string& fileName, const std::string& folder) {
     std::vector<ConsistEntry>& index = catalogue.ConsistIndex;
     for (ConsistEntry& entry : index)
-        if (equalIgnoringCase(entry.FileName, fileName) && equalIgnoringCase(entry.FolderPath, folder))
+        if (equalIgnoringCase(entry.FileName, fileName) && sameFolder(entry.FolderPath, folder))
             return entry;
     return addToArray(index, !index.empty() && index.back().FileName.empty(), ConsistEntry());
 }
 
 } // namespace
+
+bool sameFolder(std::string_view a, std::string_view b) {
+    const auto plain = [](std::string_view path) {
+        std::string text(path);
+        std::replace(text.begin(), text.end(), '/', '\\');
+        return lowerCase(AddBackslash(text));
+    };
+    return plain(a) == plain(b);
+}
 
 void UpdateStockUse(Editor& editor, bool hadFile, const std::string& fullName, const std::string& fileName,
                     const std::string& folder) {

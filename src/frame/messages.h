@@ -34,6 +34,7 @@ enum class Message : int {
     OpenFailed = 31,   // |1 the file, |2 a line break
     ConsistFilter = 32, // "Consists"
     AboutText = 33,    // |1 the title, |2 a line break
+    BackupFailed = 34, // |1 the backup folder, |2 a line break
 
     HelpButton = 145,
     ExecutableFilter = 198, // |1 "(*.exe)|*.exe"

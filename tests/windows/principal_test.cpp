@@ -312,6 +312,8 @@ TEST_F(WindowTest, TypedNamesKeepWhatAFileNameCanHold) {
     shortName.setCursorPosition(1);
     QTest::keyClicks(&shortName, ":X"); // a dropped key leaves the caret alone
     EXPECT_EQ(shortName.text(), "aXbc");
+    QTest::keyClick(&shortName, Qt::Key_Backspace);
+    EXPECT_EQ(shortName.text(), "abc");
     QTest::keyClicks(&get<QLineEdit>("tbFULL_NAME"), "Paris: <Lyon>");
     EXPECT_EQ(get<QLineEdit>("tbFULL_NAME").text(), "Paris: <Lyon>");
     EXPECT_EQ(shortName.text(), "Paris Lyon");

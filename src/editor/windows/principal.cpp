@@ -138,7 +138,10 @@ void frmPrincipal::connectStrip() {
         // A message of the drop must not stand in the middle of the system's drag: it waits for the drag's
         // end.
         droppedStock_ = index;
-        QTimer::singleShot(0, this, &frmPrincipal::finishStockDrag);
+        QTimer::singleShot(0, this, [this] {
+            if (droppedStock_) // otherwise the drag's end has taken it, and may still be asking
+                finishStockDrag();
+        });
     });
     connect(c.HScrollRAME, &QScrollBar::valueChanged, this, [this](int value) {
         editor_.document.controls.scrollValue = value;
@@ -179,17 +182,17 @@ void frmPrincipal::applyListColours() {
 
 void frmPrincipal::newPressed() {
     newConsist(editor_);
+    updateUnusedStock(); // the question may have led to a save
     refresh();
 }
 
 void frmPrincipal::openPressed() {
     Frame& frame = editor_.frame;
-    if (AskSaveChanges(frame, editor_.document.rame.Name)) {
-        SaveFileRame(editor_);
-        refresh();
-        if (frame.state.Modified)
-            return;
-    }
+    const bool goOn = offerToSave(editor_);
+    updateUnusedStock();
+    refresh();
+    if (!goOn)
+        return;
     const std::string filter = frame.text(Message::ConsistFilter) + "|*.con";
     const auto path = frame.dialogs.askOpenFile(fromQt(controls_.cmdOPEN->text().remove(u'&')), filter,
                                                 consistsPath(frame.state.RootPrimary), {});
@@ -355,8 +358,9 @@ void frmPrincipal::changeEvent(QEvent* event) {
 
 bool frmPrincipal::eventFilter(QObject* watched, QEvent* event) {
     if (watched == controls_.tbNAME && event->type() == QEvent::KeyPress) {
-        const std::string typed = fromQt(static_cast<QKeyEvent*>(event)->text());
-        if (!typed.empty() && filterShortName(typed) != typed)
+        // Backspace, Tab and the shortcuts come as control characters; they are no text.
+        const QString typed = static_cast<QKeyEvent*>(event)->text();
+        if (!typed.isEmpty() && typed[0].isPrint() && filterShortName(fromQt(typed)) != fromQt(typed))
             return true;
     }
     return QWidget::eventFilter(watched, event);
