@@ -187,18 +187,16 @@ bool Tokeniser::simpleKey(std::string_view& line, const Brackets& at) {
     // A line that ends in "+" goes on with the next one, unless another key follows the bracket.
     const bool goesOn = endsInPlus(line) && at.nextOpen == npos;
     const bool textRemains = !rest.empty() && !goesOn;
-    if (trim(line.substr(0, at.open)).empty()) { // brackets without a name are nobody's value
+    const std::string_view name = trim(line.substr(0, at.open));
+    if (name.empty()) { // brackets without a name are nobody's value
         line = rest;
         return false;
     }
-    addRecord(currentPath(), trim(line.substr(0, at.open)),
-              trim(line.substr(at.open + 1, at.close - at.open - 1)),
+    addRecord(currentPath(), name, trim(line.substr(at.open + 1, at.close - at.open - 1)),
               textRemains ? line.substr(0, at.close + 1) : line);
     const bool stop = matchLast();
-    if (goesOn && !endsInPlus(keys_.back().Value)) {
-        settleValue();
+    if (goesOn && !endsInPlus(keys_.back().Value))
         keys_.back().Value = arena_.join(keys_.back().Value, "+");
-    }
     line = textRemains ? rest : std::string_view();
     return stop;
 }
