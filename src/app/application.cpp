@@ -34,9 +34,10 @@ std::unique_ptr<Dialogs> makeDialogs(bool quiet, AppState& state, ProfileFiles& 
 
 Application::Application(LaunchOptions options)
     : options_(std::move(options)), files_(makeRealFileSystem(winePrefixFolder())),
-      registry_(makeSystemRegistry(winePrefixFolder())), profiles_(*files_),
-      dialogs_(makeDialogs(!options_.picture.isEmpty(), state_, profiles_)),
-      frame_{state_, *files_, profiles_, *registry_, *dialogs_, progress_, Language(profiles_, state_)},
+      registry_(makeSystemRegistry(winePrefixFolder())), processes_(makeSystemProcesses()),
+      profiles_(*files_), dialogs_(makeDialogs(!options_.picture.isEmpty(), state_, profiles_)),
+      frame_{state_,      *files_,   profiles_, *registry_,
+             *processes_, *dialogs_, progress_, Language(profiles_, state_)},
       folders_(findProgramFolders()), editor_{frame_, catalogue_, document_} {}
 
 Application::~Application() = default;

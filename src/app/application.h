@@ -42,6 +42,7 @@ class Application {
     LaunchOptions options_;
     std::unique_ptr<FileSystem> files_;
     std::unique_ptr<Registry> registry_;
+    std::unique_ptr<Processes> processes_;
     AppState state_;
     ProfileFiles profiles_;
     std::unique_ptr<Dialogs> dialogs_;

@@ -2,6 +2,7 @@
 // hold one free slot (empty key text) when logically empty; every walk skips such a slot.
 #pragma once
 
+#include "catalogue/stock_use_index.h"
 #include "frame/frame.h"
 #include "simfiles/consist_file.h"
 #include "simfiles/materiel.h"
@@ -36,7 +37,6 @@ struct StockUse {
     std::string Folder;
     std::string FileName; // with extension
     int Count = 0;
-    int NextSameName = -1; // the next record that differs from this one in case alone, or -1
 };
 
 // One row of the open-consist dialog.
@@ -66,10 +66,7 @@ struct Catalogue {
     CatalogueSnapshot snapshots[2]; // the simulator's, the Train Store's
     bool complete = true;           // false: the user ended the last load, so it is no good as a snapshot
 
-    // Beside StockUsage: the record of a folder and file, case included, and of the same in lower case (the
-    // first).
-    std::unordered_map<std::string, int, TextHash, std::equal_to<>> usageByExactName;
-    std::unordered_map<std::string, int, TextHash, std::equal_to<>> usageByFoldedName;
+    StockUseIndex stockUseIndex; // of StockUsage
 };
 
 struct LoadOptions {
@@ -95,7 +92,9 @@ void dropSnapshot(const AppState& state, Catalogue& catalogue, bool simulatorRoo
 // load.
 bool reloadCatalogue(Frame& frame, Catalogue& catalogue);
 
-// The record of StockUsage, folder and file compared with case ignored; nullptr when there is none.
+// The record of StockUsage, folder and file compared with case ignored, nullptr when there is none. Consists
+// may spell one stock in several cases, each with a record of its own: one that counts comes before one that
+// doesn't.
 StockUse* findStockUse(Catalogue& catalogue, std::string_view folder, std::string_view file);
 const StockUse* findStockUse(const Catalogue& catalogue, std::string_view folder, std::string_view file);
 StockUse& appendStockUse(Catalogue& catalogue, std::string_view folder, std::string_view file, int count);

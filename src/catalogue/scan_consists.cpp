@@ -1,5 +1,4 @@
 #include "catalogue/catalogue.h"
-#include "catalogue/name_key.h"
 
 #include <utility>
 
@@ -12,15 +11,14 @@ struct ConsistScratch {
     SimReader reader;
     Rame rame;
     std::vector<RameItem> items;
-    std::string key;
+    std::vector<int> known; // positions in StockUsage
 };
 
 void forgetConsists(Catalogue& catalogue) {
     catalogue.ConsistFiles.assign(1, {});
     catalogue.ConsistIndex.assign(1, {});
     catalogue.StockUsage.assign(1, {});
-    catalogue.usageByExactName.clear();
-    catalogue.usageByFoldedName.clear();
+    catalogue.stockUseIndex.clear();
 }
 
 void indexConsists(Frame& frame, Catalogue& catalogue, std::string_view root) {
@@ -42,24 +40,24 @@ void copyConsistFiles(Catalogue& catalogue) {
         catalogue.ConsistFiles.push_back(entry.FileName);
 }
 
-void countUse(Catalogue& catalogue, std::string_view folder, std::string_view file, std::string& key) {
-    makeNameKey(folder, file, key);
-    const auto known = catalogue.usageByExactName.find(std::string_view(key));
-    if (known == catalogue.usageByExactName.end())
-        appendStockUse(catalogue, folder, file, 1);
+void countUse(Catalogue& catalogue, const StockPair& used, int known) {
+    if (known < 0) // or new since the positions were looked up, earlier in this consist
+        known = catalogue.stockUseIndex.findExact(catalogue.StockUsage, used.Folder, used.FileName);
+    if (known < 0)
+        appendStockUse(catalogue, used.Folder, used.FileName, 1);
     else
-        ++catalogue.StockUsage[known->second].Count;
+        ++catalogue.StockUsage[static_cast<std::size_t>(known)].Count;
 }
 
-void takeItems(Catalogue& catalogue, ConsistEntry& entry, const std::vector<RameItem>& items,
-               std::string& key) {
-    entry.Items.reserve(items.size());
-    for (const RameItem& item : items) {
-        if (item.Name.empty())
-            continue;
-        const StockPair& added = entry.Items.emplace_back(StockPair{stockFileOf(item), item.Folder});
-        countUse(catalogue, added.Folder, added.FileName, key);
-    }
+void takeItems(Catalogue& catalogue, ConsistEntry& entry, ConsistScratch& scratch) {
+    entry.Items.reserve(scratch.items.size());
+    for (RameItem& item : scratch.items)
+        if (!item.Name.empty())
+            entry.Items.push_back({stockFileOf(item), std::move(item.Folder)});
+    catalogue.stockUseIndex.findExact(catalogue.StockUsage, entry.Items, scratch.known);
+    std::size_t next = 0;
+    for (const StockPair& used : entry.Items)
+        countUse(catalogue, used, scratch.known[next++]);
 }
 
 // A consist without vehicles keeps an empty name and one free slot.
@@ -67,28 +65,11 @@ void readEntry(Catalogue& catalogue, ConsistEntry& entry, ConsistScratch& scratc
     // What the reader objects to is the verifier's business; the vehicles read until then count. The
     // durability isn't looked at.
     ReadConsistFile(scratch.reader, scratch.rame, scratch.items, entry.FolderPath + entry.FileName);
-    takeItems(catalogue, entry, scratch.items, scratch.key);
+    takeItems(catalogue, entry, scratch);
     if (entry.Items.empty())
         entry.Items.emplace_back();
     else
         entry.DisplayName = scratch.rame.Name.empty() ? scratch.rame.CfgName : scratch.rame.Name;
-}
-
-template <typename AnyCatalogue>
-auto findUse(AnyCatalogue& catalogue, std::string_view folder, std::string_view file) {
-    const auto found = catalogue.usageByFoldedName.find(foldedNameKey(folder, file));
-    return found == catalogue.usageByFoldedName.end() ? nullptr : &catalogue.StockUsage[found->second];
-}
-
-// The first record of a name stays in front of its chain; the order of the others doesn't matter.
-void linkSameName(Catalogue& catalogue, int index) {
-    StockUse& added = catalogue.StockUsage[index];
-    const auto [first, isNew] =
-        catalogue.usageByFoldedName.try_emplace(foldedNameKey(added.Folder, added.FileName), index);
-    if (isNew)
-        return;
-    StockUse& head = catalogue.StockUsage[first->second];
-    added.NextSameName = std::exchange(head.NextSameName, index);
 }
 
 } // namespace
@@ -111,11 +92,12 @@ bool ScanConsists(Frame& frame, Catalogue& catalogue) {
 }
 
 StockUse* findStockUse(Catalogue& catalogue, std::string_view folder, std::string_view file) {
-    return findUse(catalogue, folder, file);
+    return const_cast<StockUse*>(findStockUse(std::as_const(catalogue), folder, file));
 }
 
 const StockUse* findStockUse(const Catalogue& catalogue, std::string_view folder, std::string_view file) {
-    return findUse(catalogue, folder, file);
+    const int found = catalogue.stockUseIndex.findAnyCase(catalogue.StockUsage, folder, file);
+    return found < 0 ? nullptr : &catalogue.StockUsage[static_cast<std::size_t>(found)];
 }
 
 StockUse& appendStockUse(Catalogue& catalogue, std::string_view folder, std::string_view file, int count) {
@@ -123,11 +105,7 @@ StockUse& appendStockUse(Catalogue& catalogue, std::string_view folder, std::str
     if (usage.empty() || !usage.back().FileName.empty())
         usage.emplace_back();
     usage.back() = StockUse{std::string(folder), std::string(file), count};
-    const int index = static_cast<int>(usage.size()) - 1;
-    std::string key;
-    makeNameKey(folder, file, key);
-    catalogue.usageByExactName.try_emplace(std::move(key), index);
-    linkSameName(catalogue, index);
+    catalogue.stockUseIndex.addLast(usage);
     return usage.back();
 }
 

@@ -77,8 +77,6 @@ bool isShownUnused(const AppState& state, const Catalogue& catalogue, std::strin
     if (!state.PrintGreen)
         return false;
     const StockUse* use = findStockUse(catalogue, folder, file);
-    while (use && use->Count <= 0 && use->NextSameName >= 0)
-        use = &catalogue.StockUsage[use->NextSameName];
     return !use || use->Count <= 0;
 }
 

@@ -85,7 +85,7 @@ class CatalogueCommand final : public Command {
         Catalogue catalogue;
         LoadCatalogue(session.frame, catalogue, {NameRepair::Never});
         print(session, catalogue);
-        return exitcode::Done;
+        return session.dialogs.alerts > 0 ? exitcode::Faults : exitcode::Done;
     }
 
   private:

@@ -124,7 +124,8 @@ int runCommandLine(const std::vector<std::string>& args, std::ostream& out, std:
     const std::string winePrefix = winePrefixFolder();
     const std::unique_ptr<FileSystem> files = makeRealFileSystem(winePrefix);
     const std::unique_ptr<Registry> registry = makeSystemRegistry(winePrefix);
-    return runCommandLine(args, Surroundings{*files, *registry, findProgramFolders()}, out, err);
+    const std::unique_ptr<Processes> processes = makeSystemProcesses();
+    return runCommandLine(args, Surroundings{*files, *registry, *processes, findProgramFolders()}, out, err);
 }
 
 } // namespace zandor

@@ -1,6 +1,7 @@
 // The command line as one call, so that a test can run it in its own process.
 #pragma once
 
+#include "platform/processes.h"
 #include "platform/registry.h"
 #include "platform/system.h"
 
@@ -14,6 +15,7 @@ namespace zandor {
 struct Surroundings {
     FileSystem& files;
     Registry& registry;
+    Processes& processes;
     ProgramFolders folders;
 };
 
@@ -21,7 +23,7 @@ struct Surroundings {
 // Returns the exit code: 0 done, 1 faults found, 2 could not run.
 int runCommandLine(const std::vector<std::string>& args, const Surroundings& surroundings, std::ostream& out,
                    std::ostream& err);
-// The same on this system's disk and registry.
+// The same on this system.
 int runCommandLine(const std::vector<std::string>& args, std::ostream& out, std::ostream& err);
 
 } // namespace zandor

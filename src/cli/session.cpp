@@ -2,38 +2,9 @@
 
 #include "frame/startup.h"
 
-#include <array>
-
 namespace zandor {
 
 namespace {
-
-struct FlagRow {
-    const char* key;
-    bool AppState::*flag;
-    bool numeric; // read by its number, not by its exact text
-};
-constexpr std::array<FlagRow, 7> Flags{{
-    {"PrintName", &AppState::PrintName, true},
-    {"NoAlertCoupling", &AppState::NoAlertCoupling, true},
-    {"PassIsBadCoupling", &AppState::PassIsBadCoupling, false},
-    {"Optimize", &AppState::Optimize, false},
-    {"PrintGreen", &AppState::PrintGreen, false},
-    {"sfCanvas", &AppState::UseCanvas, false},
-    {"PrintNumber", &AppState::PrintNumber, false},
-}};
-
-constexpr std::string_view SimulatorKey = "SOFTWARE\\Microsoft\\Microsoft Games\\Train Simulator\\1.0";
-
-std::string withoutTrailingSeparators(std::string path) {
-    while (!path.empty() && (path.back() == '\\' || path.back() == '/'))
-        path.pop_back();
-    return path;
-}
-
-std::string existingFolder(FileSystem& files, const std::string& path) {
-    return FolderExists(files, path) ? withoutTrailingSeparators(path) : std::string();
-}
 
 std::string settingsPath(const ProgramFolders& folders, const CommonOptions& options) {
     return options.settings.empty() ? folders.program + "\\Zandor.ini" : ExpandLongPath(options.settings);
@@ -51,6 +22,7 @@ Session::Session(const Surroundings& surroundings, const CommonOptions& options,
                                          ? diskProfiles_
                                          : defaultProfiles_,
                                      surroundings.registry,
+                                     surroundings.processes,
                                      dialogs,
                                      progress_,
                                      Language(diskProfiles_, state)} {
@@ -64,7 +36,7 @@ Session::Session(const Surroundings& surroundings, const CommonOptions& options,
 bool Session::prepare(bool withRoots) {
     if (!options_.settings.empty() && !FileExists(frame.files, state.IniPath))
         return refuse("There is no settings file " + shown(state.IniPath));
-    readFlags();
+    readSettings(frame);
     return prepareLanguage() && (!withRoots || prepareRoots());
 }
 
@@ -83,23 +55,13 @@ bool Session::refuse(std::string_view text) {
     return false;
 }
 
-void Session::readFlags() {
-    for (const FlagRow& row : Flags)
-        state.*row.flag = row.numeric ? readNumericFlag(frame.profiles, row.key, state.IniPath)
-                                      : readExactFlag(frame.profiles, row.key, state.IniPath);
-    const std::string backup = frame.profiles.ReadIniValue(GeneralSection, "Backup", state.IniPath);
-    state.BackupDir = AddBackslash(backup.empty() ? folders_.program + "\\Backup\\" : backup);
-}
-
 bool Session::prepareLanguage() {
     for (const std::string& folder : {folders_.executable, folders_.program})
         if (const std::string path = folder + "\\Langues.lng"; FileExists(frame.files, path))
             state.LanguagePath = path;
     if (state.LanguagePath.empty())
         return refuse(LanguageFileMissing);
-    state.Language = frame.profiles.ReadIniValue(GeneralSection, "Langage", state.IniPath);
-    if (state.Language.empty())
-        state.Language = "Français";
+    readLanguage(frame);
     if (options_.language.empty())
         return true;
 
@@ -119,16 +81,18 @@ bool Session::prepareRoots() {
         !takeGivenFolder("--tstore", options_.tstore, state.RootTStore))
         return false;
     takeRootsOfSettings();
-    const bool simulator = simulatorIsPrimary();
-    state.RootPrimary = simulator ? state.RootMSTS : state.RootTStore;
-    state.RootSecondary = simulator ? state.RootTStore : state.RootMSTS;
+    if (options_.primary.empty() && options_.root.empty())
+        assignRoots(frame);
+    else
+        assignRoots(state, !equalIgnoringCase(options_.primary, "tstore"));
     if (!state.RootPrimary.empty())
         return FolderExists(frame.files, state.RootPrimary + "\\TRAINS") ||
                refuse("There is no TRAINS folder in " + shown(state.RootPrimary));
-    return refuse(std::string(simulator
+    const bool simulatorWanted = state.RootMSTS.empty() && !equalIgnoringCase(options_.primary, "tstore");
+    return refuse(std::string(simulatorWanted
                                   ? "No simulator folder is known: give it with --root DIR or as InstallDir"
                                   : "No Train Store folder is known: give it with --tstore DIR or as "
-                                    "TStoreDir") +
+                                    "TStoreDir, or put the simulator first with InitialiseMSTS=1") +
                   " in " + shown(state.IniPath));
 }
 
@@ -143,23 +107,9 @@ bool Session::takeGivenFolder(std::string_view option, const std::string& given,
 void Session::takeRootsOfSettings() {
     if (!options_.root.empty())
         return;
-    const auto folderOf = [this](std::string_view key) {
-        return existingFolder(frame.files, frame.profiles.ReadIniValue(GeneralSection, key, state.IniPath));
-    };
-    state.RootMSTS = folderOf("InstallDir");
-    if (state.RootMSTS.empty())
-        state.RootMSTS =
-            existingFolder(frame.files, ReadRegistryString(frame.registry, RegistryHive::LocalMachine,
-                                                           SimulatorKey, "Path"));
+    state.RootMSTS = knownSimulator(frame);
     if (state.RootTStore.empty())
-        state.RootTStore = folderOf("TStoreDir");
-}
-
-bool Session::simulatorIsPrimary() {
-    if (!options_.primary.empty())
-        return equalIgnoringCase(options_.primary, "msts");
-    const std::string setting = frame.profiles.ReadIniValue(GeneralSection, "InitialiseMSTS", state.IniPath);
-    return !options_.root.empty() || setting.empty() || numericValue(setting) == 1;
+        state.RootTStore = knownTrainStore(frame);
 }
 
 int readWholeFile(Session& session, SimReader& reader, const std::string& path) {

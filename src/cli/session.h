@@ -47,12 +47,10 @@ class Session {
     AppState state;
 
   private:
-    void readFlags();
     bool prepareLanguage();
     bool prepareRoots();
     bool takeGivenFolder(std::string_view option, const std::string& given, std::string& root);
     void takeRootsOfSettings();
-    bool simulatorIsPrimary();
     bool refuse(std::string_view text); // false, once the user was told
 
     const CommonOptions& options_;

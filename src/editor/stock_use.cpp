@@ -35,12 +35,8 @@ void raiseCount(Catalogue& catalogue, const StockPair& pair) {
         ++use->Count;
 }
 
-// Consists may spell one stock in several cases, each with a record of its own: the first that counts is
-// lowered.
 void lowerCount(Catalogue& catalogue, const StockPair& pair) {
     StockUse* use = findStockUse(catalogue, pair.Folder, pair.FileName);
-    while (use && use->Count <= 0 && use->NextSameName >= 0)
-        use = &catalogue.StockUsage[static_cast<std::size_t>(use->NextSameName)];
     if (use && use->Count > 0)
         --use->Count;
 }

@@ -8,6 +8,7 @@
 #include "frame/progress.h"
 #include "frame/settings.h"
 #include "platform/file_system.h"
+#include "platform/processes.h"
 #include "platform/registry.h"
 
 namespace zandor {
@@ -17,6 +18,7 @@ struct Frame {
     FileSystem& files;
     ProfileFiles& profiles;
     Registry& registry;
+    Processes& processes;
     Dialogs& dialogs;
     Progress& progress;
     Language language;

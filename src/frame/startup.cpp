@@ -3,6 +3,8 @@
 #include "text/decode.h"
 #include "text/lines.h"
 
+#include <algorithm>
+
 namespace zandor {
 
 namespace {
@@ -28,8 +30,9 @@ std::string inProgramFolder(const Frame& frame, std::string_view name) {
     return frame.state.ProgramFolder + "\\" + std::string(name);
 }
 
+// The root of a disk keeps its one separator.
 std::string_view withoutTrailingSeparators(std::string_view path) {
-    return path.substr(0, path.find_last_not_of("\\/") + 1);
+    return path.substr(0, std::max<std::size_t>(path.find_last_not_of("\\/") + 1, 1));
 }
 
 void setHelpFile(Frame& frame) {
@@ -70,43 +73,13 @@ void cleanUpAfterInstallation(Frame& frame) {
     writeSetting(frame, "Inst", "0");
 }
 
-void readFlags(Frame& frame) {
-    struct ExactFlag {
-        bool AppState::*flag;
-        std::string_view key;
-    };
-    constexpr ExactFlag flags[] = {{&AppState::PassIsBadCoupling, "PassIsBadCoupling"},
-                                   {&AppState::Optimize, "Optimize"},
-                                   {&AppState::PrintGreen, "PrintGreen"},
-                                   {&AppState::UseCanvas, "sfCanvas"},
-                                   {&AppState::PrintNumber, "PrintNumber"}};
-    for (const ExactFlag& row : flags)
-        frame.state.*row.flag = readExactFlag(frame.profiles, row.key, frame.state.IniPath);
-    // makes the key in the settings of an older release
-    writeSetting(frame, "PassIsBadCoupling", frame.state.PassIsBadCoupling ? "1" : "0");
-}
-
-void setBackupFolder(Frame& frame) {
-    const std::string kept = setting(frame, "Backup");
-    if (!kept.empty()) {
-        frame.state.BackupDir = AddBackslash(withoutTrailingSeparators(kept));
-        return;
-    }
-    frame.state.BackupDir = inProgramFolder(frame, "Backup\\");
-    if (!FolderExists(frame.files, frame.state.BackupDir))
+void makeBackupFolder(Frame& frame) {
+    if (setting(frame, "Backup").empty() && !FolderExists(frame.files, frame.state.BackupDir))
         frame.files.createFolder(frame.state.BackupDir);
 }
 
-// A folder of the settings; empty when it is no longer there.
 std::string folderSetting(const Frame& frame, std::string_view key) {
-    const std::string value = setting(frame, key);
-    return FolderExists(frame.files, value) ? std::string(withoutTrailingSeparators(value)) : std::string();
-}
-
-std::string simulatorOfRegistry(Frame& frame) {
-    const std::string path =
-        ReadRegistryString(frame.registry, RegistryHive::LocalMachine, SimulatorKey, "Path");
-    return FolderExists(frame.files, path) ? std::string(withoutTrailingSeparators(path)) : std::string();
+    return existingFolder(frame.files, setting(frame, key));
 }
 
 // The folder of the train.exe that the user shows; empty when the user cancelled.
@@ -131,6 +104,32 @@ std::string makeTitle() {
            std::to_string(VersionRevision);
 }
 
+std::string existingFolder(FileSystem& files, std::string_view path) {
+    return FolderExists(files, path) ? std::string(withoutTrailingSeparators(path)) : std::string();
+}
+
+void readSettings(Frame& frame) {
+    struct Flag {
+        bool AppState::*flag;
+        std::string_view key;
+        bool numeric; // read by its number, not by its exact text
+    };
+    constexpr Flag flags[] = {{&AppState::PrintName, "PrintName", true},
+                              {&AppState::NoAlertCoupling, "NoAlertCoupling", true},
+                              {&AppState::PassIsBadCoupling, "PassIsBadCoupling", false},
+                              {&AppState::Optimize, "Optimize", false},
+                              {&AppState::PrintGreen, "PrintGreen", false},
+                              {&AppState::UseCanvas, "sfCanvas", false},
+                              {&AppState::PrintNumber, "PrintNumber", false}};
+    AppState& state = frame.state;
+    for (const Flag& row : flags)
+        state.*row.flag = row.numeric ? readNumericFlag(frame.profiles, row.key, state.IniPath)
+                                      : readExactFlag(frame.profiles, row.key, state.IniPath);
+    const std::string backup = setting(frame, "Backup");
+    state.BackupDir = AddBackslash(backup.empty() ? inProgramFolder(frame, "Backup")
+                                                  : std::string(withoutTrailingSeparators(backup)));
+}
+
 bool prepareStart(Frame& frame, const ProgramFolders& folders) {
     AppState& state = frame.state;
     state.Title = makeTitle();
@@ -139,34 +138,46 @@ bool prepareStart(Frame& frame, const ProgramFolders& folders) {
     if (!provideShippedFile(frame.files, folders, "Langues.lng"))
         return false;
     state.LanguagePath = inProgramFolder(frame, "Langues.lng");
-    const std::string language = setting(frame, "Langage");
-    state.Language = language.empty() ? "Français" : language;
+    readLanguage(frame);
     return true;
+}
+
+void readLanguage(Frame& frame) {
+    const std::string language = setting(frame, "Langage");
+    frame.state.Language = language.empty() ? "Français" : language;
 }
 
 void loadSettings(Frame& frame, const ProgramFolders& folders) {
     AppState& state = frame.state;
-    state.PassIsBadCoupling = false;
     state.ExePath = inProgramFolder(frame, folders.executableName) + ".exe";
     setHelpFile(frame);
     state.MainReady = false;
-    state.PrintName = false;
     provideSettings(frame);
-    state.PrintName = readNumericFlag(frame.profiles, "PrintName", state.IniPath);
-    state.NoAlertCoupling = readNumericFlag(frame.profiles, "NoAlertCoupling", state.IniPath);
     cleanUpAfterInstallation(frame);
-    readFlags(frame);
-    setBackupFolder(frame);
+    readSettings(frame);
+    // makes the key in the settings of an older release
+    writeSetting(frame, "PassIsBadCoupling", state.PassIsBadCoupling ? "1" : "0");
+    makeBackupFolder(frame);
     state.HasFile = false;
+}
+
+std::string knownSimulator(Frame& frame) {
+    const std::string kept = folderSetting(frame, "InstallDir");
+    return kept.empty()
+               ? existingFolder(frame.files, ReadRegistryString(frame.registry, RegistryHive::LocalMachine,
+                                                                SimulatorKey, "Path"))
+               : kept;
+}
+
+std::string knownTrainStore(Frame& frame) {
+    return folderSetting(frame, "TStoreDir");
 }
 
 bool findRoots(Frame& frame) {
     AppState& state = frame.state;
     state.ProgramFilesDir =
         ReadRegistryString(frame.registry, RegistryHive::LocalMachine, WindowsKey, "ProgramFilesDir");
-    state.RootMSTS = folderSetting(frame, "InstallDir");
-    if (state.RootMSTS.empty())
-        state.RootMSTS = simulatorOfRegistry(frame);
+    state.RootMSTS = knownSimulator(frame);
     if (state.RootMSTS.empty())
         state.RootMSTS = askForSimulator(frame);
     if (state.RootMSTS.empty()) {
@@ -174,20 +185,22 @@ bool findRoots(Frame& frame) {
                    style::Exclamation);
         return false;
     }
-    state.RootTStore = folderSetting(frame, "TStoreDir");
+    state.RootTStore = knownTrainStore(frame);
     assignRoots(frame);
     return true;
 }
 
 void assignRoots(Frame& frame) {
-    AppState& state = frame.state;
-    const bool simulatorFirst = readNumericFlag(frame.profiles, "InitialiseMSTS", state.IniPath);
+    assignRoots(frame.state, readNumericFlag(frame.profiles, "InitialiseMSTS", frame.state.IniPath));
+}
+
+void assignRoots(AppState& state, bool simulatorFirst) {
     state.RootPrimary = simulatorFirst ? state.RootMSTS : state.RootTStore;
     state.RootSecondary = simulatorFirst ? state.RootTStore : state.RootMSTS;
 }
 
 std::string consistFromCommandLine(Frame& frame, std::string_view argument) {
-    const std::string cleaned = CleanValue(argument);
+    const std::string cleaned(CleanValue(argument));
     if (cleaned.empty())
         return {};
     const std::string path = ExpandLongPath(cleaned);

@@ -15,18 +15,28 @@ std::string makeTitle(); // "Zandor 1.00": major, ".", minor and revision withou
 inline constexpr std::string_view LanguageFileMissing =
     "L'application ne peut démarrer car le fichier de langues n'a pas été trouvé !";
 
-// Title, settings path, language file and language. False: the language file is missing and the process must end.
+// Title, settings path, language file and language. False: the language file is missing and the process must
+// end.
 bool prepareStart(Frame& frame, const ProgramFolders& folders);
 
-// Reads or writes the settings that are copied to AppState, cleans up after an installation, sets the backup folder.
-// The first steps of the main window's load, in their order.
+// What the settings say, without a write: the flags, the backup folder, the language.
+void readSettings(Frame& frame);
+void readLanguage(Frame& frame);
+// The settings made complete and read, what an installation left cleaned up, the backup folder made: the
+// first steps of the main window's load, in their order.
 void loadSettings(Frame& frame, const ProgramFolders& folders);
 
-// Finds both root folders: settings, then the registry, then the user. False: the user cancelled, and was told that
-// the system does not run without the simulator's folder.
+// The folders of the settings, the simulator's else of the registry; empty when there is none.
+std::string knownSimulator(Frame& frame);
+std::string knownTrainStore(Frame& frame);
+// Without a trailing separator; empty when there is no such folder.
+std::string existingFolder(FileSystem& files, std::string_view path);
+// Finds both root folders: settings, then the registry, then the user. False: the user cancelled, and was
+// told that the system does not run without the simulator's folder.
 bool findRoots(Frame& frame);
 // RootPrimary and RootSecondary from RootMSTS, RootTStore and the setting InitialiseMSTS.
 void assignRoots(Frame& frame);
+void assignRoots(AppState& state, bool simulatorFirst);
 
 // The `.con` of the command line, cleaned and made absolute; empty when it isn't an existing consist file.
 std::string consistFromCommandLine(Frame& frame, std::string_view argument);

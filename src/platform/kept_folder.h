@@ -36,20 +36,20 @@ class KeptFolder {
     // The bytes of the name on the disk: as asked when they exist, else differing in case. Costs one stat
     // call and, after a change of the folder, a reading of it.
     NameSearch search(std::string_view name, std::string& bytes);
-    // All names by lessIgnoringCase(); empty when the folder can't be read.
-    std::vector<KeptName> names();
+    // All names by lessIgnoringCase(); empty when the folder can't be read. Valid until the next call.
+    const std::vector<KeptName>& names();
     // To be called at each change that this process makes in the folder.
     void forget();
 
   private:
     enum class State { Kept, Changed, Gone };
     State check();
-    int readNames(std::vector<KeptName>& names) const;
+    int readNames();
     NameSearch scan(std::string_view name, std::string& bytes) const;
     const KeptName* find(std::string_view name) const;
 
     std::string path_;
-    bool kept_ = false;
+    bool kept_ = false; // names_ may be looked up as long as the folder's time stands
     timespec stamp_{};     // the folder's own time at the reading of the kept names
     bool settled_ = false; // the folder's time, as last seen, is old enough to tell a later change by it
     std::vector<KeptName> names_; // by lessIgnoringCase()

@@ -217,12 +217,10 @@ std::vector<FolderEntry> RealFileSystem::listFolder(std::string_view path) {
     KeptFolder* folder = resolver_.resolveFolder(path);
     if (!folder)
         return entries;
-    std::vector<KeptName> names = folder->names();
+    const std::vector<KeptName>& names = folder->names();
     entries.reserve(names.size());
-    for (KeptName& name : names) {
-        const bool below = isFolder(*folder, name);
-        entries.push_back({std::move(name.shown), below});
-    }
+    for (const KeptName& name : names)
+        entries.push_back({name.shown, isFolder(*folder, name)});
     return entries;
 }
 

@@ -52,7 +52,8 @@ void takeTrainKey(const SimKey& key, Rame& rame) {
 void beginVehicle(std::vector<RameItem>& items, bool isEngine) {
     if (!items.back().Name.empty())
         items.emplace_back();
-    items.back() = RameItem();
+    else
+        items.back() = RameItem();
     items.back().IsEngine = isEngine;
 }
 

@@ -47,18 +47,19 @@ std::string StripOccurrence(std::string_view path) {
 
 bool pathIs(std::string_view path, std::string_view wanted) {
     for (;;) {
-        const std::size_t slash = path.find('\\');
-        const std::size_t wantedSlash = wanted.find('\\');
-        if ((slash == std::string_view::npos) != (wantedSlash == std::string_view::npos))
+        const std::size_t length = std::min(wanted.find('\\'), wanted.size());
+        if (path.size() < length || !nameIs(path.substr(0, length), wanted.substr(0, length)))
             return false;
-        std::string_view component = path.substr(0, slash);
-        component = component.substr(0, component.find(OccurrenceMarker));
-        if (!nameIs(component, wanted.substr(0, wantedSlash)))
+        path.remove_prefix(length);
+        wanted.remove_prefix(length);
+        if (path.starts_with(OccurrenceMarker))
+            path.remove_prefix(std::min(path.find('\\'), path.size()));
+        if (path.empty() || wanted.empty())
+            return path.empty() && wanted.empty();
+        if (path.front() != '\\')
             return false;
-        if (slash == std::string_view::npos)
-            return true;
-        path.remove_prefix(slash + 1);
-        wanted.remove_prefix(wantedSlash + 1);
+        path.remove_prefix(1);
+        wanted.remove_prefix(1);
     }
 }
 

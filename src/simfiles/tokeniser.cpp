@@ -2,6 +2,7 @@
 
 #include "simfiles/stock_keys.h"
 #include "text/text.h"
+#include "text/text_hash.h"
 
 #include <algorithm>
 #include <charconv>
@@ -13,15 +14,6 @@ namespace {
 
 bool hasMarker(std::string_view path) {
     return path.find(OccurrenceMarker) != std::string_view::npos;
-}
-
-// The same as trim(), where the compiler can see it: the hot path.
-inline std::string_view trimmed(std::string_view text) {
-    while (!text.empty() && text.front() == ' ')
-        text.remove_prefix(1);
-    while (!text.empty() && text.back() == ' ')
-        text.remove_suffix(1);
-    return text;
 }
 
 // No real file comes near it; a file of garbage that opens a block on every line must not grow with the
@@ -116,14 +108,19 @@ Tokeniser::Outcome Tokeniser::run(const std::vector<SimLine>& lines, const Searc
 bool Tokeniser::plainLine(const SimLine& line) {
     if (!line.hasQuote && !line.severalOpen && !line.severalClose && line.firstOpen > 0) {
         const auto open = static_cast<std::size_t>(line.firstOpen);
-        const std::string_view name = trimmed(line.text.substr(0, open));
+        const std::string_view name = trim(line.text.substr(0, open));
         if (line.firstClose < 0)
-            return openBlock(name, trimmed(line.text.substr(open + 1)), line.text);
+            return openBlock(name, trim(line.text.substr(open + 1)), line.text);
         const auto close = static_cast<std::size_t>(line.firstClose);
         if (close > open && close + 1 == line.text.size()) {
-            addRecord(currentPath(), name, trimmed(line.text.substr(open + 1, close - open - 1)), line.text);
+            addRecord(currentPath(), name, trim(line.text.substr(open + 1, close - open - 1)), line.text);
             return matchLast();
         }
+    }
+    if (line.text.size() == 1 && line.firstClose == 0 && quotedIn_ < 0) {
+        const bool stop = matchLast();
+        popPath();
+        return stop;
     }
     return workLine(line.text);
 }
@@ -551,7 +548,9 @@ bool Tokeniser::isWanted(int path) {
 }
 
 int Tokeniser::internPath(std::string_view text) {
-    const std::size_t hash = std::hash<std::string_view>{}(text);
+    TextHasher hasher;
+    hasher.add(text);
+    const std::size_t hash = hasher.value;
     std::size_t mask = table_.size() - 1;
     std::size_t slot = hash & mask;
     for (; table_[slot] >= 0; slot = (slot + 1) & mask) {

@@ -38,11 +38,13 @@ std::size_t numberEnd(std::string_view text) {
     return exponentEnd > exponent ? exponentEnd : end;
 }
 
-std::string_view dropEnds(std::string_view text, std::string_view characters) {
-    const std::size_t first = text.find_first_not_of(characters);
-    if (first == std::string_view::npos)
-        return {};
-    return text.substr(first, text.find_last_not_of(characters) - first + 1);
+std::string_view dropTabsAndBlanks(std::string_view text) {
+    const auto isDropped = [](char c) { return c == ' ' || c == '\t'; };
+    while (!text.empty() && isDropped(text.front()))
+        text.remove_prefix(1);
+    while (!text.empty() && isDropped(text.back()))
+        text.remove_suffix(1);
+    return text;
 }
 
 bool beginsWithQuote(std::string_view text) {
@@ -71,14 +73,6 @@ void shortenStretches(std::string& line, std::size_t length) {
 
 } // namespace
 
-std::string_view trim(std::string_view text) {
-    while (!text.empty() && text.front() == ' ')
-        text.remove_prefix(1);
-    while (!text.empty() && text.back() == ' ')
-        text.remove_suffix(1);
-    return text;
-}
-
 std::string_view firstCharacters(std::string_view text, std::size_t count) {
     if (text.size() <= count)
         return text;
@@ -106,6 +100,10 @@ double numericValue(std::string_view text) {
 }
 
 int numericInt16(std::string_view text) {
+    short whole = 0; // as nearly every number is
+    const char* const end = text.data() + text.size();
+    if (const auto read = std::from_chars(text.data(), end, whole); read.ec == std::errc() && read.ptr == end)
+        return whole;
     const double rounded = std::nearbyint(numericValue(text));
     return rounded >= -32768 && rounded <= 32767 ? static_cast<int>(rounded) : 0;
 }
@@ -133,14 +131,14 @@ bool QuotesBalanced(std::string_view text) {
     return beginsWithQuote(text) == endsWithQuote(text);
 }
 
-std::string CleanValue(std::string_view text) {
-    text = dropEnds(text, " \t");
+std::string_view CleanValue(std::string_view text) {
+    text = dropTabsAndBlanks(text);
     if (!text.empty() && text.front() == '(')
         text.remove_prefix(1);
     if (!text.empty() && text.back() == ')')
         text.remove_suffix(1);
     text = trim(text);
-    return std::string(QuotesBalanced(text) ? StripQuotes(text) : text);
+    return QuotesBalanced(text) ? StripQuotes(text) : text;
 }
 
 void NormalizeLine(std::string& line) {

@@ -9,7 +9,14 @@
 
 namespace zandor {
 
-std::string_view trim(std::string_view text); // blanks only, both ends
+// Blanks only, both ends. Inline: the parser trims every line and value.
+inline std::string_view trim(std::string_view text) {
+    while (!text.empty() && text.front() == ' ')
+        text.remove_prefix(1);
+    while (!text.empty() && text.back() == ' ')
+        text.remove_suffix(1);
+    return text;
+}
 
 // First `count` characters (not bytes), never cutting one in two.
 std::string_view firstCharacters(std::string_view text, std::size_t count);
@@ -27,7 +34,7 @@ std::string_view StripQuotes(std::string_view text);
 // False when exactly one end of the trimmed text is a double quote.
 bool QuotesBalanced(std::string_view text);
 // Drops tabs and blanks at the ends, one "(" in front, one ")" behind, trims, then balanced quotes.
-std::string CleanValue(std::string_view text);
+std::string_view CleanValue(std::string_view text);
 // A raw line for the quick readers: tabs become blanks, ends trimmed, and the blanks between a key and its bracket
 // become one.
 void NormalizeLine(std::string& line);

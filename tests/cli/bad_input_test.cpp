@@ -76,12 +76,12 @@ TEST_F(BadInput, HelpComesAtEveryLevelAndNeedsNoLanguageFile) {
          {Args{"--help"}, Args{"keys", "--help"}, Args{"stock", "-h"}, Args{"consist", "--help"},
           Args{"catalogue", "--help"}, Args{"compose", "--help"}, Args{"open", "--help"}}) {
         out.str({});
-        EXPECT_EQ(runCommandLine(args, {*files, registry, nowhere}, out, err), 0);
+        EXPECT_EQ(runCommandLine(args, {*files, registry, processes, nowhere}, out, err), 0);
         EXPECT_THAT(out.str(), HasSubstr(args.size() > 1 ? args[0] : "compose"));
     }
     EXPECT_EQ(err.str(), "");
 
-    EXPECT_EQ(runCommandLine({"keys", "x.wag"}, {*files, registry, nowhere}, out, err), 2);
+    EXPECT_EQ(runCommandLine({"keys", "x.wag"}, {*files, registry, processes, nowhere}, out, err), 2);
     EXPECT_THAT(err.str(), HasSubstr(std::string(LanguageFileMissing)));
 }
 
@@ -89,7 +89,8 @@ TEST_F(BadInput, OutputThatCannotBeWrittenIsNoSuccess) {
     std::ostringstream out, err;
     out.setstate(std::ios::badbit);
     const ProgramFolders folders{at("home"), ZANDOR_SOURCE_DIR "/src/frame", "zandor-cli"};
-    EXPECT_EQ(runCommandLine({"consist", consistPath("local.con")}, {*files, registry, folders}, out, err),
+    EXPECT_EQ(runCommandLine({"consist", consistPath("local.con")}, {*files, registry, processes, folders},
+                             out, err),
               2);
     EXPECT_TRUE(isOneLine(err.str())) << err.str();
 }

@@ -41,7 +41,7 @@ class CliTest : public testing::Test {
     Ran run(const Args& args) {
         std::ostringstream out, err;
         const ProgramFolders folders{(top / "home").string(), ZANDOR_SOURCE_DIR "/src/frame", "zandor-cli"};
-        const int exitCode = runCommandLine(args, {*files, registry, folders}, out, err);
+        const int exitCode = runCommandLine(args, {*files, registry, processes, folders}, out, err);
         return {exitCode, out.str(), err.str()};
     }
     // With the tree's root behind the arguments.
@@ -89,6 +89,7 @@ class CliTest : public testing::Test {
     std::filesystem::path top;
     std::unique_ptr<FileSystem> files = makeRealFileSystem("");
     FakeRegistry registry;
+    FakeProcesses processes;
 
   private:
     void putTree() {

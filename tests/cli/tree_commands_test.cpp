@@ -60,12 +60,13 @@ TEST_F(TreeCommands, RootsComeFromTheOptionsTheSettingsOrTheRegistry) {
     const std::string both = "InstallDir=" + root() + "\r\nTStoreDir=" + at("store") + "\r\nInitialiseMSTS=";
     const Case cases[] = {
         {"", false, {}, 0},
-        {"", true, {}, 3},
+        {"InitialiseMSTS=1", true, {}, 3},
+        {both, false, {}, 1},
         {both + "1", false, {}, 3},
         {both + "0", false, {}, 1},
         {both + "0", false, {"--primary", "msts"}, 3},
         {both + "0", false, {"--root", root()}, 3},
-        {"InstallDir=" + at("gone"), true, {}, 3},
+        {"InstallDir=" + at("gone") + "\r\nInitialiseMSTS=1", true, {}, 3},
         {"", false, {"--root", root(), "--tstore", at("store"), "--primary", "tstore"}, 1},
         {"", false, {"--root", root(), "--primary", "tstore"}, 0},
         {"", false, {"--root", at("home")}, 0},

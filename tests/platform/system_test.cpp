@@ -1,12 +1,15 @@
 #include "platform/memory_file_system.h"
+#include "platform/processes.h"
 #include "platform/system.h"
 
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <fstream>
 #include <map>
 #include <optional>
 #include <stdlib.h>
+#include <thread>
 
 namespace zandor {
 namespace {
@@ -34,6 +37,30 @@ class SystemTest : public testing::Test {
     std::string root;
     std::map<std::string, std::optional<std::string>> old;
 };
+
+TEST_F(SystemTest, AProgramGetsItsArgumentsAsTheyAreAndTellsHowItEnded) {
+    const std::unique_ptr<Processes> processes = makeSystemProcesses();
+    const std::string script = "test \"$1\" = 'a \"b\" $c' && exit 7";
+    const std::unique_ptr<Process> process = processes->start("sh", {"-c", script, "sh", "a \"b\" $c"});
+    ASSERT_TRUE(process);
+    std::optional<int> code;
+    while (!code)
+        code = process->exitCode();
+    EXPECT_EQ(code, 7);
+    EXPECT_EQ(process->exitCode(), 7) << "asked again";
+    EXPECT_FALSE(processes->start(root + "/no such program", {}));
+}
+
+TEST_F(SystemTest, AFileIsHandedToTheSystemsOpener) {
+    const std::unique_ptr<Processes> processes = makeSystemProcesses();
+    set("PATH", root);
+    EXPECT_FALSE(processes->openFile("/a.chm")) << "there is none";
+    std::ofstream(root + "/xdg-open") << "#!/bin/sh\n: > \"$1\"\n";
+    disk::permissions(root + "/xdg-open", disk::perms::owner_all);
+    ASSERT_TRUE(processes->openFile(root + "/a b.chm"));
+    while (!disk::exists(root + "/a b.chm"))
+        std::this_thread::yield();
+}
 
 TEST_F(SystemTest, WinePrefixIsTheNamedOneElseTheUsualOne) {
     set("HOME", root);

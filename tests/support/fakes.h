@@ -89,6 +89,30 @@ class FakeRegistry final : public Registry {
     std::map<std::string, std::string> values_;
 };
 
+// Records what is started; nothing runs.
+class FakeProcesses final : public Processes {
+  public:
+    std::vector<std::vector<std::string>> started; // program and arguments
+    std::vector<std::string> opened;
+    bool works = true;
+
+    std::unique_ptr<Process> start(const std::string& program,
+                                   const std::vector<std::string>& arguments) override {
+        started.push_back({program});
+        started.back().insert(started.back().end(), arguments.begin(), arguments.end());
+        return works ? std::make_unique<Ended>() : nullptr;
+    }
+    bool openFile(const std::string& path) override {
+        opened.push_back(path);
+        return works;
+    }
+
+  private:
+    struct Ended final : Process {
+        std::optional<int> exitCode() override { return 0; }
+    };
+};
+
 // A file of the source tree, such as "src/frame/Langues.lng"; empty when it isn't there.
 inline std::string readSourceFile(const std::string& name) {
     std::ifstream file(std::string(ZANDOR_SOURCE_DIR) + "/" + name, std::ios::binary);
@@ -102,9 +126,10 @@ struct TestFrame {
     AppState state;
     ProfileFiles profiles{files};
     FakeRegistry registry;
+    FakeProcesses processes;
     FakeDialogs dialogs;
     FakeProgress progress;
-    Frame frame{state, files, profiles, registry, dialogs, progress, Language(profiles, state)};
+    Frame frame{state, files, profiles, registry, processes, dialogs, progress, Language(profiles, state)};
 
     TestFrame() {
         static const std::string texts = readSourceFile("src/frame/Langues.lng");
