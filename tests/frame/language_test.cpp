@@ -1,13 +1,8 @@
 #include "frame/language.h"
 
 #include "support/fakes.h"
-#include "text/lines.h"
-#include "text/text.h"
 
 #include <gtest/gtest.h>
-
-#include <set>
-#include <vector>
 
 namespace zandor {
 namespace {
@@ -70,84 +65,6 @@ TEST_F(Texts, TheListOfLanguagesEndsAtTheFirstGap) {
     EXPECT_EQ(choices[1].image, 12);
     EXPECT_EQ(choices[2].name, "Deutsch"); // a value without a number is all name
     EXPECT_EQ(choices[2].image, 0);
-}
-
-// ---- the file that ships
-
-struct Constant {
-    std::string name;
-    Message id;
-};
-
-// The rows "Name = number," of the header.
-std::vector<Constant> allMessages() {
-    std::vector<Constant> constants;
-    const std::string source = readSourceFile("src/frame/messages.h");
-    forEachLine(source, [&](std::string_view line) {
-        line = trim(line.substr(0, line.find("//")));
-        const std::size_t sign = line.find(" = ");
-        if (sign != std::string_view::npos && line.ends_with(','))
-            constants.push_back(
-                {std::string(line.substr(0, sign)), Message{numericInt16(line.substr(sign + 3))}});
-    });
-    return constants;
-}
-
-std::set<int> placeholdersOf(const std::string& text) {
-    std::set<int> numbers;
-    for (std::size_t at = text.find('|'); at != std::string::npos; at = text.find('|', at + 1))
-        numbers.insert(numericInt16(text.substr(at + 1)));
-    return numbers;
-}
-
-TEST_F(Texts, EveryMessageHasATextWithTheSamePlaceholdersInEveryLanguage) {
-    const auto languages = frame.language.ListLanguages();
-    ASSERT_EQ(languages.size(), 3u);
-    ASSERT_GT(allMessages().size(), 60u) << "the constants were not found";
-    for (const Constant& message : allMessages()) {
-        state.Language = "Français";
-        const auto expected = placeholdersOf(frame.text(message.id));
-        for (const LanguageChoice& language : languages) {
-            state.Language = language.name;
-            const std::string text = frame.text(message.id);
-            EXPECT_FALSE(text.empty()) << language.name << ' ' << message.name;
-            EXPECT_EQ(placeholdersOf(text), expected) << language.name << ' ' << message.name;
-            EXPECT_TRUE(expected.empty() || *expected.rbegin() < 10) << "|10 would be taken for |1";
-        }
-    }
-}
-
-TEST_F(Texts, NoTextStandsUnderANumberThatNothingShows) {
-    std::set<std::string> known;
-    for (const Constant& message : allMessages())
-        known.insert(std::to_string(static_cast<int>(message.id)));
-    bool texts = false;
-    const std::string file = readSourceFile("src/frame/Langues.lng");
-    forEachLine(file, [&](std::string_view line) {
-        EXPECT_LT(line.size(), 1024u) << line;
-        const std::size_t sign = line.find('=');
-        if (line.starts_with('['))
-            texts = line != "[Langues]";
-        else if (texts && sign != std::string_view::npos &&
-                 !known.contains(std::string(line.substr(0, sign))))
-            ADD_FAILURE() << line;
-    });
-}
-
-// The buttons and labels that stand in the main window together.
-TEST_F(Texts, NoLetterReachesTwoThingsOfTheMainWindow) {
-    for (const LanguageChoice& language : frame.language.ListLanguages()) {
-        state.Language = language.name;
-        std::set<std::string> letters;
-        for (int id = static_cast<int>(Message::CaptionNew);
-             id <= static_cast<int>(Message::CaptionStockClass); ++id) {
-            const std::string text = frame.text(Message{id});
-            const std::size_t mark = text.find('&');
-            ASSERT_NE(mark, std::string::npos) << text;
-            EXPECT_TRUE(letters.insert(lowerCase(text.substr(mark + 1, 1))).second)
-                << language.name << ": " << text;
-        }
-    }
 }
 
 } // namespace

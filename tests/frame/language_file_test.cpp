@@ -1,0 +1,262 @@
+// The language file that ships, held against the constants and against the places that use them.
+#include "frame/language.h"
+
+#include "support/fakes.h"
+#include "text/lines.h"
+#include "text/text.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cctype>
+#include <filesystem>
+#include <map>
+#include <set>
+#include <vector>
+
+namespace zandor {
+namespace {
+
+constexpr const char* French = "Français";
+constexpr std::size_t TextLimit = 1024;
+
+struct LanguageFile : ::testing::Test, TestFrame {
+    std::string textIn(const std::string& language, Message id) {
+        state.Language = language;
+        return frame.text(id);
+    }
+};
+
+// The rows "Name = number," of the header.
+std::multimap<std::string, int> constants() {
+    std::multimap<std::string, int> rows;
+    const std::string source = readSourceFile("src/frame/messages.h");
+    forEachLine(source, [&](std::string_view line) {
+        line = trim(line.substr(0, line.find("//")));
+        const std::size_t sign = line.find(" = ");
+        if (sign != std::string_view::npos && line.ends_with(','))
+            rows.emplace(line.substr(0, sign), numericInt16(line.substr(sign + 3)));
+    });
+    return rows;
+}
+
+struct Entry {
+    std::string language, text;
+    int number = 0;
+};
+
+// The file's entries in their order, as raw as they stand.
+std::vector<Entry> entries() {
+    std::vector<Entry> found;
+    std::string section;
+    const std::string file = readSourceFile("src/frame/Langues.lng");
+    forEachLine(file, [&](std::string_view line) {
+        const std::size_t sign = line.find('=');
+        if (line.starts_with('['))
+            section = line.substr(1, line.find(']') - 1);
+        else if (!section.empty() && section != "Langues" && sign != std::string_view::npos)
+            found.push_back(
+                {section, std::string(line.substr(sign + 1)), numericInt16(line.substr(0, sign))});
+    });
+    return found;
+}
+
+std::set<int> placeholdersOf(const std::string& text) {
+    std::set<int> numbers;
+    for (std::size_t at = text.find('|'); at != std::string::npos; at = text.find('|', at + 1))
+        numbers.insert(numericInt16(text.substr(at + 1)));
+    return numbers;
+}
+
+TEST_F(LanguageFile, TheSixLanguagesAreListedWithTheirFlags) {
+    const char* const names[] = {French, "English", "Deutsch", "Italiano", "Español", "Nederlands"};
+    const auto languages = frame.language.ListLanguages();
+    ASSERT_EQ(languages.size(), std::size(names));
+    for (std::size_t i = 0; i < languages.size(); ++i) {
+        EXPECT_EQ(languages[i].name, names[i]);
+        EXPECT_EQ(languages[i].image, static_cast<int>(i) + 1);
+    }
+}
+
+TEST_F(LanguageFile, NoTwoConstantsHaveTheSameNameOrNumber) {
+    std::set<std::string> names;
+    std::set<int> numbers;
+    for (const auto& [name, number] : constants()) {
+        EXPECT_TRUE(names.insert(name).second) << name;
+        EXPECT_TRUE(numbers.insert(number).second) << name << " = " << number;
+        EXPECT_GT(number, 0) << name;
+    }
+    EXPECT_GT(numbers.size(), 400u) << "the constants were not found";
+}
+
+TEST_F(LanguageFile, EveryMessageHasATextWithTheSamePlaceholdersInEveryLanguage) {
+    const auto languages = frame.language.ListLanguages();
+    for (const auto& [name, number] : constants()) {
+        const auto expected = placeholdersOf(textIn(French, Message{number}));
+        EXPECT_LT(expected.size(), 10u) << name << ": |10 would be taken for |1";
+        if (!expected.empty()) {
+            EXPECT_EQ(*expected.begin(), 1) << name;
+            EXPECT_EQ(*expected.rbegin(), static_cast<int>(expected.size())) << name << " leaves one out";
+        }
+        for (const LanguageChoice& language : languages) {
+            const std::string text = textIn(language.name, Message{number});
+            EXPECT_FALSE(text.empty()) << language.name << ' ' << name << " = " << number;
+            EXPECT_EQ(placeholdersOf(text), expected) << language.name << ' ' << name;
+        }
+    }
+}
+
+TEST_F(LanguageFile, EveryTextStandsOnceAndUnderAConstant) {
+    std::set<int> known;
+    for (const auto& [name, number] : constants())
+        known.insert(number);
+    std::set<std::pair<std::string, int>> seen;
+    for (const Entry& entry : entries()) {
+        EXPECT_TRUE(known.contains(entry.number)) << entry.language << ' ' << entry.number;
+        EXPECT_TRUE(seen.emplace(entry.language, entry.number).second)
+            << entry.language << ' ' << entry.number << " stands twice";
+    }
+    EXPECT_GT(seen.size(), 6 * 400u) << "the texts were not found";
+}
+
+// What the profile reader would cut from a text, and what a button would swallow.
+TEST_F(LanguageFile, EveryTextIsReadAsItStands) {
+    for (const Entry& entry : entries()) {
+        EXPECT_EQ(textIn(entry.language, Message{entry.number}), entry.text) << entry.language;
+        EXPECT_EQ(firstCharacters(entry.text, TextLimit), entry.text) << entry.language;
+        const std::size_t mark = entry.text.find('&');
+        EXPECT_EQ(mark, entry.text.rfind('&')) << entry.text;
+        EXPECT_TRUE(mark == std::string::npos ||
+                    std::isalpha(static_cast<unsigned char>(entry.text[mark + 1])))
+            << entry.text;
+    }
+}
+
+TEST_F(LanguageFile, EveryMessageThatTheSourcesNameHasItsText) {
+    const auto known = constants();
+    std::set<std::string> used;
+    const std::string_view mark = "Message::";
+    for (const auto& file : std::filesystem::recursive_directory_iterator(ZANDOR_SOURCE_DIR "/src")) {
+        if (file.path().extension() != ".cpp" && file.path().extension() != ".h")
+            continue;
+        const std::string source =
+            readSourceFile(std::filesystem::relative(file.path(), ZANDOR_SOURCE_DIR).generic_string());
+        for (std::size_t at = source.find(mark); at != std::string::npos; at = source.find(mark, at + 1)) {
+            const auto first = source.begin() + static_cast<std::ptrdiff_t>(at + mark.size());
+            used.emplace(first, std::find_if_not(first, source.end(),
+                                                 [](unsigned char c) { return std::isalnum(c) != 0; }));
+        }
+    }
+    EXPECT_GT(used.size(), 60u) << "the places were not found";
+    for (const std::string& name : used) {
+        const auto row = known.find(name);
+        ASSERT_NE(row, known.end()) << name;
+        for (const LanguageChoice& language : frame.language.ListLanguages())
+            EXPECT_FALSE(textIn(language.name, Message{row->second}).empty()) << language.name << ' ' << name;
+    }
+}
+
+TEST_F(LanguageFile, TheWordBetweenEnginesAndWagonsKeepsItsBlanks) {
+    const std::string blank = "\u00A0";
+    for (const LanguageChoice& language : frame.language.ListLanguages()) {
+        const std::string joint = textIn(language.name, Message::CompositionJoint);
+        EXPECT_TRUE(joint.starts_with(blank) && joint.ends_with(blank)) << language.name;
+    }
+}
+
+TEST_F(LanguageFile, TheTwoCaptionsOfTheVerifyButtonDiffer) {
+    for (const LanguageChoice& language : frame.language.ListLanguages())
+        EXPECT_NE(textIn(language.name, Message::VerifyButton), textIn(language.name, Message::VerifyStop))
+            << language.name;
+}
+
+// ---- the letters that reach a button
+
+constexpr Message MarkedByTheWindow[] = {Message::Cancel, Message::Yes, Message::No, Message::HelpButton};
+
+// Empty when the text has no letter that reaches it.
+std::string letterOf(const std::string& text, Message id) {
+    const std::size_t mark = text.find('&');
+    if (mark != std::string::npos)
+        return lowerCase(text.substr(mark + 1, 1));
+    return std::ranges::find(MarkedByTheWindow, id) != std::end(MarkedByTheWindow)
+               ? lowerCase(text.substr(0, 1))
+               : std::string();
+}
+
+struct Window {
+    const char* name;
+    std::vector<Message> buttons;
+};
+
+const Window Windows[] = {
+    {"main window",
+     {Message::CaptionNew, Message::CaptionOpen, Message::CaptionSave, Message::CaptionDelete,
+      Message::CaptionOptions, Message::CaptionHelp, Message::CaptionAbout, Message::CaptionQuit,
+      Message::CaptionNumber, Message::CaptionShortName, Message::CaptionFullName, Message::CaptionDurability,
+      Message::CaptionStockClass}},
+    {"replace a thumbnail",
+     {Message::ReplaceThis, Message::KeepThis, Message::ReplaceAll, Message::KeepAll, Message::ButtonOk}},
+    {"folders", {Message::FolderDrives, Message::FolderFolders, Message::ButtonOk, Message::Cancel}},
+    {"open a consist", {Message::OpenFilter, Message::OpenVerb, Message::Cancel}},
+    {"help", {Message::HelpBack, Message::HelpForward, Message::HelpContents, Message::Close}},
+    {"menu of the strip",
+     {Message::MenuInsertEnd, Message::MenuInsertBefore, Message::MenuMoveLeft, Message::MenuMoveRight,
+      Message::MenuFlip, Message::MenuRemove, Message::MenuFindInList, Message::MenuRenumber}},
+    {"menu of the stock",
+     {Message::MenuStockAddEnd, Message::MenuStockInsertBefore, Message::MenuStockClass}},
+    {"verify",
+     {Message::VerifyButton, Message::VerifyStop, Message::TextEditorButton, Message::StockListButton,
+      Message::CaptionHelp, Message::Close}},
+    {"results of verifying",
+     {Message::MoveFileButton, Message::DeleteFileButton, Message::SaveReportButton, Message::StockListButton,
+      Message::CaptionHelp, Message::Close}},
+    {"services",
+     {Message::OpenConsistFileButton, Message::ReplaceConsistButton, Message::StockListButton,
+      Message::CaptionHelp, Message::Close}},
+    {"activities",
+     {Message::ReplaceVehicleButton, Message::StockListButton, Message::CaptionHelp, Message::Close}},
+    {"stock list", {Message::SaveStockList, Message::Close}},
+    {"properties", {Message::ApplyButton, Message::Cancel}},
+    {"description",
+     {Message::PreviousStock, Message::NextStock, Message::CreatePicture, Message::CanvasAbout,
+      Message::Close}},
+};
+
+const Window Alerts[] = {
+    {"OK, Cancel", {Message::ButtonOk, Message::Cancel}},
+    {"Abort, Retry, Ignore", {Message::ButtonAbort, Message::ButtonRetry, Message::ButtonIgnore}},
+    {"Yes, No, Cancel", {Message::Yes, Message::No, Message::Cancel}},
+    {"Retry, Cancel", {Message::ButtonRetry, Message::Cancel}},
+};
+
+struct Letters : LanguageFile {
+    void expectEachItsOwn(const Window& window, const std::string& language) {
+        std::set<std::string> letters;
+        for (const Message id : window.buttons) {
+            const std::string text = textIn(language, id);
+            const std::string letter = letterOf(text, id);
+            EXPECT_FALSE(letter.empty()) << language << ", " << window.name << ": " << text;
+            EXPECT_TRUE(letters.insert(letter).second) << language << ", " << window.name << ": " << text;
+        }
+    }
+};
+
+TEST_F(Letters, NoLetterReachesTwoThingsOfAWindow) {
+    for (const LanguageChoice& language : frame.language.ListLanguages())
+        for (const Window& window : Windows)
+            expectEachItsOwn(window, language.name);
+}
+
+// In French Help shares its letter with answers whose captions are fixed.
+TEST_F(Letters, NoLetterReachesTwoAnswersOfAMessage) {
+    for (const LanguageChoice& language : frame.language.ListLanguages())
+        for (Window alert : Alerts) {
+            if (language.name != French)
+                alert.buttons.push_back(Message::HelpButton);
+            expectEachItsOwn(alert, language.name);
+        }
+}
+
+} // namespace
+} // namespace zandor
