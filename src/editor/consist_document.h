@@ -68,6 +68,7 @@ struct ConsistDocument {
     bool DragAtEnd = false;
     bool StripPressed = false;
     bool openedFromOptions = false;
+    bool faultyFile = false; // a part of the opened file could not be read
     MaterielFinder finder;
 };
 

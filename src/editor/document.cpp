@@ -36,7 +36,7 @@ void ResetEditor(Editor& editor) {
     document.Vehicules.assign(1, {});
     document.RameStockOld.clear();
     document.RameStockNew.clear();
-    document.Loading = false;
+    document.Loading = document.faultyFile = false;
     document.NextNumber = document.PictureWidth = document.StripWidth = 0;
     clearDrag(document);
     editor.frame.state.HasFile = false;

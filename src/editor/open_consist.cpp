@@ -185,6 +185,15 @@ bool isConsist(SimReader& reader, std::string_view path) {
             (reader.error && reader.error->number == MalformedConsist));
 }
 
+// A save over the file would lose what wasn't read.
+void tellFault(Editor& editor, std::string_view path, const SimError& error) {
+    Frame& frame = editor.frame;
+    editor.document.faultyFile = true;
+    const std::string native = frame.files.nativePath(path);
+    frame.show(frame.text(Message::OpenedFaulty, {{"|1", native}, {"|2", LineBreak}, {"|3", error.text}}),
+               style::Exclamation);
+}
+
 std::string folderOf(std::string_view path) {
     const std::size_t end = path.find_last_of("\\/");
     return end == std::string_view::npos ? ".\\" : std::string(path.substr(0, end + 1));
@@ -215,8 +224,8 @@ bool openConsist(Editor& editor, std::string_view path) {
     frame.state.HasFile = true;
     frame.state.ConsistFolder = folderOf(path);
     OpenFileRame(editor);
-    if (reading.error && !reading.error->text.empty())
-        frame.show(reading.error->text, style::Exclamation);
+    if (reading.error)
+        tellFault(editor, path, *reading.error);
     return true;
 }
 

@@ -167,6 +167,17 @@ Rame rameToWrite(const Editor& editor, const SaveNames& names, bool hasEngine) {
     return rame;
 }
 
+// Asks before vehicles are lost that the file holds and the strip doesn't.
+bool mayReplaceFaulty(Editor& editor, const std::string& file) {
+    const ConsistDocument& document = editor.document;
+    Frame& frame = editor.frame;
+    if (!document.faultyFile || !equalIgnoringCase(file, document.rame.FileName))
+        return true;
+    const std::string question =
+        frame.text(Message::AskSaveFaulty, {{"|1", document.rame.Name}, {"|2", LineBreak}});
+    return frame.show(question, style::YesNo + style::Exclamation) == answer::Yes;
+}
+
 bool ensureFolder(FileSystem& files, std::string_view path) {
     while (!path.empty() && (path.back() == '\\' || path.back() == '/'))
         path.remove_suffix(1);
@@ -186,8 +197,9 @@ struct Backup {
 Backup keepBackup(Editor& editor, const std::string& folder, const std::string& file) {
     Frame& frame = editor.frame;
     const AppState& state = frame.state;
-    if (!state.HasFile || !readNumericFlag(frame.profiles, "BakFile", state.IniPath) ||
-        !FileExists(frame.files, folder + file))
+    const bool wanted =
+        editor.document.faultyFile || readNumericFlag(frame.profiles, "BakFile", state.IniPath);
+    if (!state.HasFile || !wanted || !FileExists(frame.files, folder + file))
         return {};
     const std::string keptIn = AddBackslash(state.BackupDir) + std::string(BackupFolder);
     const std::string copy = keptIn + file + ".old";
@@ -265,6 +277,7 @@ void takeSaved(Editor& editor, const std::string& folder, Rame rame, VehicleList
 void showSaved(Editor& editor) {
     editor.frame.state.HasFile = true;
     setModified(editor, false);
+    editor.document.faultyFile = false;
     editor.document.controls.deleteEnabled = true;
     editor.document.controls.shortNameEnabled = false;
 }
@@ -273,7 +286,7 @@ void showSaved(Editor& editor) {
 
 void SaveFileRame(Editor& editor) {
     const std::optional<SaveNames> names = checkNames(editor);
-    if (!names)
+    if (!names || !mayReplaceFaulty(editor, names->file))
         return;
     Frame& frame = editor.frame;
     const bool hadFile = frame.state.HasFile;

@@ -99,6 +99,7 @@ enum class Message : int {
     NameOfStockList = 81,
     NameOfPreview = 82,
     NameOfStripScroll = 83,
+    VehicleMisplaced = 84, // |1 the line's number, |2 a line break, |3 the line
     StatusVehicle = 86,        // |1 its place, |2 how many there are, |3 its name, |4 its number
     StatusVehicleFlipped = 87, // as 86
     StatusVehicleMissing = 88, // as 86
@@ -106,7 +107,7 @@ enum class Message : int {
     VehicleNotInList = 90, // |1 the vehicle's name
 
     // warnings about files
-    AskOpenFaulty = 91,         // |1 the file, |2 a line break, |3 the text of 391 or 392
+    OpenedFaulty = 91,          // |1 the file, |2 a line break, |3 the text of 84, 391 or 392
     AskSaveFaulty = 92,         // |1 the consist's name, |2 a line break
     ThumbnailFolderFailed = 93, // |1 the folder, |2 a line break
     PictureUnreadable = 94,     // |1 the file, |2 a line break

@@ -61,6 +61,19 @@ void takeVariables(std::string_view name, std::string_view value, RameItem& item
     item.EngineVariables = std::string(name) + "(" + (value.empty() ? " " : std::string(value)) + ")";
 }
 
+// Behind a bracket that is missing or too many, vehicles stand in another block; they would be lost without a
+// word.
+bool isVehicleData(const SimKey& key) {
+    return nameIs(key.Key, "EngineData") || nameIs(key.Key, "WagonData");
+}
+
+SimError misplacedVehicle(const SimReader& reader, std::string_view path, const SimKey& key) {
+    const std::string line = std::to_string(key.Line);
+    return {MisplacedVehicle, std::string(path),
+            reader.language().GetLangText(Message::VehicleMisplaced,
+                                          {{"|1", line}, {"|2", "\r\n"}, {"|3", key.Tail}})};
+}
+
 void takeVehicleKey(const SimKey& key, bool inEngine, std::vector<RameItem>& items) {
     const auto is = [&key](std::string_view name) { return nameIs(key.Key, name); };
     if (key.Key.empty())
@@ -153,6 +166,8 @@ std::optional<SimError> ReadConsistFile(SimReader& reader, Rame& rame, std::vect
             takeVehicleKey(key, block == Block::Engine, items);
         else if (block == Block::EngineVariables && key.Key.empty()) // its numbers stand on several lines
             takeVariables("EngineVariables", key.Value, items.back());
+        else if (block == Block::Other && !reader.error && isVehicleData(key))
+            reader.error = misplacedVehicle(reader, path, key);
     }
     if (rame.Name.empty())
         rame.Name = rame.CfgName;

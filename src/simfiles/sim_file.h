@@ -23,6 +23,7 @@ struct SimError {
 inline constexpr int MalformedConsist = 321;
 inline constexpr int EmptyFile = 62; // a file that ends before its signature line
 inline constexpr int MissingStockKeyError = 10001;
+inline constexpr int MisplacedVehicle = 10002; // of a consist, in a block where none belongs
 
 enum class FileKind {
     Unknown,

@@ -1,6 +1,5 @@
 #include "editor_fixture.h"
 
-
 namespace zandor {
 namespace {
 
@@ -138,12 +137,39 @@ TEST_F(OpenTest, AFailingDiskNeverPassesForAnEmptyConsist) {
 }
 
 TEST_F(OpenTest, AMalformedConsistIsToldAndOpenedAsFarAsItGoes) {
-    files.put(state.LanguagePath, "[English]\r\n391=no bracket in line |1\r\n");
+    files.put(state.LanguagePath, "[English]\r\n91=|1: |3\r\n391=no bracket in line |1\r\n");
     putConsist("bad.con", "Train (\r\nTrainCfg ( bad\r\nWagon (\r\nWagonData ( Wag1 Folder1 )\r\n)\r\n"
                           "Wagon (\r\nWagonData Wag1 Folder1 )\r\n)\r\n)\r\n)\r\n");
     ASSERT_TRUE(open("bad.con"));
     EXPECT_EQ(order(), "Wag1");
-    EXPECT_EQ(shown(), Shown{"48 no bracket in line 9"});
+    EXPECT_EQ(shown(), Shown{"48 " + files.nativePath(consistPath("bad.con")) + ": no bracket in line 9"});
+}
+
+TEST_F(OpenTest, VehiclesBehindAStrayBracketAreToldAndNotLostUnasked) {
+    for (const char* stray : {")\r\n", "Wagon (\r\n"}) {
+        putConsist(
+            "bad.con",
+            "Train (\r\nTrainCfg ( bad\r\nName ( bad )\r\nWagon (\r\nWagonData ( Wag1 Folder1 )\r\n)\r\n" +
+                std::string(stray) + "Wagon (\r\nWagonData ( Wag2 Folder1 )\r\n)\r\n)\r\n)\r\n");
+        const std::string before = *files.get(consistPath("bad.con"));
+        settings("0", "0");
+        ASSERT_TRUE(open("bad.con"));
+        EXPECT_EQ(order(), "Wag1") << stray;
+        EXPECT_EQ(dialogs.shown.size(), 1u) << stray;
+
+        dialogs.answers = {answer::No};
+        SaveFileRame(editor);
+        EXPECT_EQ(*files.get(consistPath("bad.con")), before) << stray;
+        dialogs.answers = {answer::Yes};
+        SaveFileRame(editor);
+        EXPECT_NE(*files.get(consistPath("bad.con")), before) << stray;
+        EXPECT_EQ(*files.get(state.BackupDir + "Sauvegarde des fichiers de rames\\bad.con.old"), before)
+            << "kept though the settings don't ask for it";
+        dialogs.shown.clear();
+        SaveFileRame(editor);
+        EXPECT_EQ(dialogs.shown.size(), 1u) << "the report alone";
+        dialogs.shown.clear();
+    }
 }
 
 TEST_F(OpenTest, AConsistWithoutVehiclesOpensEmpty) {
