@@ -67,6 +67,7 @@ struct ConsistDocument {
     bool DragAtFront = false;
     bool DragAtEnd = false;
     bool StripPressed = false;
+    int selected = -1; // position of the vehicle that the keyboard works on; -1: none
     bool openedFromOptions = false;
     bool faultyFile = false; // a part of the opened file could not be read
     MaterielFinder finder;
@@ -120,6 +121,9 @@ enum class ReleaseZone { Preview, Strip, Elsewhere };
 // the panel is to be emptied, nothing otherwise.
 std::optional<int> releaseStrip(Editor& editor, ReleaseZone zone);
 void flipVehicule(Editor& editor, int x, int y); // right button up
+void flipVehiculeAt(Editor& editor, int position);
+// The Materiels index of a vehicle, -1 when the catalogue has none for it; nothing for a Missing one.
+std::optional<int> lookUpVehicule(const ConsistDocument& document, int position);
 std::string stripToolTip(const ConsistDocument& document, int x, int y);
 
 // Where the drop mark stands, in pixels of the visible strip; nothing when the vehicle wouldn't move.

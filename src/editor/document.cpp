@@ -37,6 +37,7 @@ void ResetEditor(Editor& editor) {
     document.RameStockOld.clear();
     document.RameStockNew.clear();
     document.Loading = document.faultyFile = false;
+    document.selected = -1;
     document.NextNumber = document.PictureWidth = document.StripWidth = 0;
     clearDrag(document);
     editor.frame.state.HasFile = false;

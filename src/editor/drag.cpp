@@ -53,17 +53,16 @@ bool insertStock(Editor& editor, int pos, int index) {
     return true;
 }
 
-// The vehicle at DragSource, looked up in the list of stock.
-std::optional<int> lookUpSource(const ConsistDocument& document) {
-    if (!isPosition(document, document.DragSource))
+} // namespace
+
+std::optional<int> lookUpVehicule(const ConsistDocument& document, int position) {
+    if (!isPosition(document, position))
         return std::nullopt;
-    const Vehicule& vehicule = document.Vehicules[static_cast<std::size_t>(document.DragSource)];
+    const Vehicule& vehicule = document.Vehicules[static_cast<std::size_t>(position)];
     if (vehicule.Missing)
         return std::nullopt;
     return vehicule.FromSimulator ? -1 : vehicule.MaterielIndex;
 }
-
-} // namespace
 
 void clearDrag(ConsistDocument& document) {
     document.DragActive = document.DragAtFront = document.DragAtEnd = document.StripPressed = false;
@@ -106,7 +105,7 @@ void pressStrip(Editor& editor, int x, int y) {
     const StripHit hit = HitTestStrip(document, x, y);
     if (!hit.hit)
         return;
-    document.DragSource = document.DragTarget = hit.index;
+    document.DragSource = document.DragTarget = document.selected = hit.index;
     document.DragActive = true;
     document.DragAtFront = hit.atFront;
     document.DragAtEnd = hit.atEnd;
@@ -131,7 +130,7 @@ std::optional<int> releaseStrip(Editor& editor, ReleaseZone zone) {
     std::optional<int> found;
     if (document.DragActive) {
         if (zone == ReleaseZone::Preview)
-            found = lookUpSource(document);
+            found = lookUpVehicule(document, document.DragSource);
         else if (document.StripPressed && zone == ReleaseZone::Strip)
             MoveVehicule(editor, document.DragSource, document.DragTarget);
         else if (document.StripPressed)

@@ -67,12 +67,27 @@ void relocate(std::vector<Vehicule>& vehicules, int from, int dest) {
         std::rotate(begin + dest, begin + from, begin + from + 1);
 }
 
+// Where the vehicle at `position` stands once another, or itself, has moved.
+int positionAfterMove(int position, int from, int dest) {
+    if (position == from)
+        return dest;
+    if (position > from && position <= dest)
+        return position - 1;
+    return position < from && position >= dest ? position + 1 : position;
+}
+
 bool acceptsMove(Editor& editor, int from, int to, bool atEnd) {
     const int last = lastPosition(editor.document);
     const int left = std::clamp(atEnd ? to : to - 1, 0, last);
     const bool fits =
         CheckCoupling(editor, left, from, true) && (from >= last || CheckCoupling(editor, from, to, true));
     return fits || reactToBadCoupling(editor);
+}
+
+void insertAt(ConsistDocument& document, int position, Vehicule vehicule) {
+    document.Vehicules.insert(document.Vehicules.begin() + position, std::move(vehicule));
+    if (document.selected >= position)
+        ++document.selected;
 }
 
 } // namespace
@@ -92,7 +107,7 @@ void InsertVehicule(Editor& editor, int index, bool fromMateriels, bool fromSimu
     if (!hasVehicles(document))
         vehicules.assign(1, std::move(vehicule));
     else if (document.DragActive && !document.DragAtEnd && isPosition(document, document.DragTarget))
-        vehicules.insert(vehicules.begin() + document.DragTarget, std::move(vehicule));
+        insertAt(document, document.DragTarget, std::move(vehicule));
     else
         vehicules.push_back(std::move(vehicule));
 
@@ -111,7 +126,9 @@ bool MoveVehicule(Editor& editor, int from, int to) {
         return true;
     if (!acceptsMove(editor, from, to, atEnd))
         return false;
-    relocate(document.Vehicules, from, destination(from, to, atEnd));
+    const int dest = destination(from, to, atEnd);
+    relocate(document.Vehicules, from, dest);
+    document.selected = positionAfterMove(document.selected, from, dest);
     setModified(editor, true);
     clearDrag(document);
     updateStrip(editor);
@@ -128,6 +145,9 @@ void RemoveVehicule(Editor& editor) {
     vehicules.erase(removed);
     if (vehicules.empty())
         vehicules.emplace_back();
+    if (document.selected > document.DragSource)
+        --document.selected;
+    document.selected = std::min(document.selected, vehicleCount(document) - 1);
     setModified(editor, hasVehicles(document));
     updateStrip(editor);
 }
@@ -160,15 +180,18 @@ void numberButtonPressed(Editor& editor) {
 
 void flipVehicule(Editor& editor, int x, int y) {
     const StripHit hit = HitTestStrip(editor.document, x, y);
-    if (hit.hit) {
-        Vehicule& vehicule = editor.document.Vehicules[static_cast<std::size_t>(hit.index)];
-        if (!vehicule.Missing) {
-            vehicule.Flipped = !vehicule.Flipped;
-            setModified(editor, true);
-            updateStrip(editor);
-        }
-    }
+    if (hit.hit)
+        flipVehiculeAt(editor, hit.index);
     clearDrag(editor.document);
+}
+
+void flipVehiculeAt(Editor& editor, int position) {
+    Vehicule& vehicule = editor.document.Vehicules[static_cast<std::size_t>(position)];
+    if (vehicule.Missing)
+        return;
+    vehicule.Flipped = !vehicule.Flipped;
+    setModified(editor, true);
+    updateStrip(editor);
 }
 
 void showStripFull(Editor& editor) {

@@ -1,0 +1,106 @@
+#include "editor/strip_selection.h"
+
+#include "editor/editor_parts.h"
+
+#include <algorithm>
+
+namespace zandor {
+
+namespace {
+
+Vehicule& at(ConsistDocument& document, int position) {
+    return document.Vehicules[static_cast<std::size_t>(position)];
+}
+
+void scrollTo(ConsistDocument& document, int position) {
+    EditorControls& controls = document.controls;
+    int left = 0;
+    for (int i = 0; i < position; ++i)
+        left += at(document, i).Width;
+    const int right = left + at(document, position).Width;
+    int value = controls.scrollValue;
+    value = std::max(value, right - controls.viewWidth);
+    value = std::min(value, left);
+    controls.scrollValue = std::clamp(value, 0, controls.scrollMaximum);
+}
+
+Message statusOf(const Vehicule& vehicule) {
+    if (vehicule.Missing)
+        return Message::StatusVehicleMissing;
+    return vehicule.Flipped ? Message::StatusVehicleFlipped : Message::StatusVehicle;
+}
+
+} // namespace
+
+bool hasSelection(const ConsistDocument& document) {
+    return isPosition(document, document.selected);
+}
+
+void selectVehicule(ConsistDocument& document, int position) {
+    document.selected = hasVehicles(document) ? std::clamp(position, 0, lastPosition(document)) : -1;
+    if (hasSelection(document))
+        scrollTo(document, document.selected);
+}
+
+bool insertBeforeSelected(Editor& editor, int materielIndex) {
+    ConsistDocument& document = editor.document;
+    const int position = document.selected;
+    if (!hasSelection(document))
+        return appendStock(editor, materielIndex);
+    clearDrag(document);
+    document.DragActive = true;
+    document.DragTarget = position;
+    document.DragSource = std::max(0, position - 1);
+    document.DragAtFront = position == 0;
+    const bool inserted = dropStock(editor, materielIndex);
+    if (inserted)
+        selectVehicule(document,
+                       position + 1); // the same one still: what follows stands in the order it came
+    return inserted;
+}
+
+bool moveSelected(Editor& editor, int step) {
+    ConsistDocument& document = editor.document;
+    const int from = document.selected, to = from + step;
+    if (!hasSelection(document) || !isPosition(document, to))
+        return true;
+    clearDrag(document);
+    document.DragAtEnd = to == lastPosition(document) && step > 0;
+    const bool moved = MoveVehicule(editor, from, step > 0 && !document.DragAtEnd ? to + 1 : to);
+    clearDrag(document);
+    selectVehicule(document, moved ? to : from);
+    return moved;
+}
+
+void flipSelected(Editor& editor) {
+    if (hasSelection(editor.document))
+        flipVehiculeAt(editor, editor.document.selected);
+}
+
+void removeSelected(Editor& editor) {
+    ConsistDocument& document = editor.document;
+    if (!hasSelection(document))
+        return;
+    clearDrag(document);
+    document.DragSource = document.selected;
+    RemoveVehicule(editor);
+    clearDrag(document);
+    selectVehicule(document, document.selected);
+}
+
+std::optional<int> lookUpSelected(const ConsistDocument& document) {
+    return lookUpVehicule(document, document.selected);
+}
+
+std::string describeSelected(const Editor& editor) {
+    const ConsistDocument& document = editor.document;
+    if (!hasSelection(document))
+        return editor.frame.text(Message::StatusNoVehicle);
+    const Vehicule& vehicule = document.Vehicules[static_cast<std::size_t>(document.selected)];
+    return editor.frame.text(statusOf(vehicule), {{"|1", std::to_string(document.selected + 1)},
+                                                  {"|2", std::to_string(vehicleCount(document))},
+                                                  {"|3", vehicule.Name},
+                                                  {"|4", std::to_string(vehicule.Number)}});
+}
+
+} // namespace zandor
