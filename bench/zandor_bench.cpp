@@ -69,7 +69,7 @@ void measureLoad(benchmark::State& state, const Tree& tree, bool full) {
         Session& session = run.emplace(tree.root);
         session.state.Optimize = full;
         state.ResumeTiming();
-        if (!LoadCatalogue(session.frame, session.catalogue) ||
+        if (!LoadCatalogue(session.frame, session.catalogue, ReadOnlyLoad) ||
             session.catalogue.Materiels.size() != tree.stockFiles.size())
             state.SkipWithError("the load isn't complete");
     }

@@ -1,6 +1,7 @@
 #include "app/application.h"
 
 #include "app/quiet_dialogs.h"
+#include "app/single_instance.h"
 #include "editor/windows/principal.h"
 #include "frame/windows/qt_dialogs.h"
 #include "frame/windows/qt_text.h"
@@ -21,13 +22,14 @@ namespace {
 
 // The splash shows it on two lines.
 constexpr std::string_view LegalLine = "Copyright © Zandor - Microsoft Train Simulator";
-constexpr QSize PictureSize{1024, 700};
-constexpr int PictureAfter = 300; // ms: the window has been laid out and painted
+constexpr QSize SavedPicture{1024, 700};
+constexpr int AskAgainAfter = 200; // ms
+constexpr int PictureAfter = 300;  // ms: the window has been laid out and painted
 
-std::unique_ptr<Dialogs> makeDialogs(bool quiet, AppState& state, ProfileFiles& profiles) {
+std::unique_ptr<Dialogs> makeDialogs(bool quiet, AppState& state, ProfileFiles& profiles, CHelp& help) {
     if (quiet)
         return std::make_unique<QuietDialogs>();
-    return std::make_unique<QtDialogs>(state, profiles);
+    return std::make_unique<QtDialogs>(state, profiles, &help);
 }
 
 } // namespace
@@ -35,7 +37,9 @@ std::unique_ptr<Dialogs> makeDialogs(bool quiet, AppState& state, ProfileFiles& 
 Application::Application(LaunchOptions options)
     : options_(std::move(options)), files_(makeRealFileSystem(winePrefixFolder())),
       registry_(makeSystemRegistry(winePrefixFolder())), processes_(makeSystemProcesses()),
-      profiles_(*files_), dialogs_(makeDialogs(!options_.picture.isEmpty(), state_, profiles_)),
+      association_(makeSystemAssociation(*files_, *processes_)), profiles_(*files_),
+      help_(state_, profiles_, *processes_),
+      dialogs_(makeDialogs(!options_.picture.isEmpty(), state_, profiles_, help_)),
       frame_{state_,      *files_,   profiles_, *registry_,
              *processes_, *dialogs_, progress_, Language(profiles_, state_)},
       folders_(findProgramFolders()), editor_{frame_, catalogue_, document_} {}
@@ -47,12 +51,36 @@ int Application::run() {
         reportMissingLanguages();
         return 1;
     }
+    if (handedOver())
+        return 0;
     rememberRoots();
     showSplash();
     splash_->whenPainted([this] { loadThenShow(); });
     const int result = QApplication::exec();
     putRootsBack();
     return result;
+}
+
+// A consist goes to the program that runs already on the same settings and root.
+bool Application::handedOver() {
+    if (!options_.picture.isEmpty())
+        return false;
+    instance_ = std::make_unique<SingleInstance>(toQt(folders_.program) + u'\n' + options_.root);
+    QObject::connect(instance_.get(), &SingleInstance::fileGiven, instance_.get(),
+                     [this](const QString& path) { takeFile(path); });
+    const std::string path = consistFromCommandLine(frame_, fromQt(options_.consist));
+    return !path.empty() && instance_->handOver(toQt(files_->nativePath(path)));
+}
+
+// A message that is open is answered first.
+void Application::takeFile(const QString& path) {
+    window_->setWindowState(window_->windowState() & ~Qt::WindowMinimized);
+    window_->raise();
+    window_->activateWindow();
+    if (QApplication::activeModalWidget() || QApplication::activePopupWidget())
+        QTimer::singleShot(AskAgainAfter, window_.get(), [this, path] { takeFile(path); });
+    else
+        window_->offerFile(pathFromQt(path));
 }
 
 void Application::reportMissingLanguages() {
@@ -82,9 +110,15 @@ void Application::loadThenShow() {
 
 Application::End Application::load() {
     loadSettings(frame_, folders_);
+    applyAssociation(frame_, *association_, folders_);
+    help_.serveF1();
     initialiseDocument(editor_);
     window_ = std::make_unique<frmPrincipal>(editor_);
     window_->applyListColours();
+    QObject::connect(window_.get(), &frmPrincipal::helpAsked, &help_,
+                     [this] { help_.Show(helpContext::Main); });
+    QObject::connect(window_.get(), &frmPrincipal::languageChosen, &help_, &CHelp::applyLanguage);
+    QObject::connect(window_.get(), &frmPrincipal::closeAsked, &help_, &CHelp::CloseWindow);
     if (!chooseRoots())
         return splash_->ended() ? End::UserEnded : End::Failed;
     if (splash_->ended() || !LoadCatalogue(frame_, catalogue_) || splash_->ended())
@@ -122,12 +156,14 @@ void Application::showMainWindow() {
     state_.SplashUp = false;
     splash_->hide();
     QApplication::setQuitOnLastWindowClosed(true);
+    if (instance_)
+        instance_->listen();
     if (!options_.picture.isEmpty())
         savePicture();
 }
 
 void Application::savePicture() {
-    window_->resize(PictureSize);
+    window_->resize(SavedPicture);
     QTimer::singleShot(PictureAfter, window_.get(), [this] {
         const bool saved = window_->grab().save(options_.picture, "PNG");
         QApplication::exit(saved ? 0 : 1);

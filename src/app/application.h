@@ -4,7 +4,9 @@
 
 #include "app/launch_options.h"
 #include "editor/consist_document.h"
+#include "frame/association.h"
 #include "frame/startup.h"
+#include "frame/windows/help.h"
 #include "frame/windows/qt_progress.h"
 
 #include <memory>
@@ -13,6 +15,7 @@ namespace zandor {
 
 class frmPrincipal;
 class frmSplash;
+class SingleInstance;
 
 class Application {
   public:
@@ -28,6 +31,8 @@ class Application {
   private:
     enum class End { GoOn, UserEnded, Failed };
 
+    bool handedOver();
+    void takeFile(const QString& path);
     void reportMissingLanguages();
     void showSplash();
     void loadThenShow();
@@ -43,8 +48,10 @@ class Application {
     std::unique_ptr<FileSystem> files_;
     std::unique_ptr<Registry> registry_;
     std::unique_ptr<Processes> processes_;
+    std::unique_ptr<FileAssociation> association_;
     AppState state_;
     ProfileFiles profiles_;
+    CHelp help_;
     std::unique_ptr<Dialogs> dialogs_;
     QtProgress progress_;
     Frame frame_;
@@ -54,6 +61,7 @@ class Application {
     Editor editor_;
     std::unique_ptr<frmSplash> splash_;
     std::unique_ptr<frmPrincipal> window_;
+    std::unique_ptr<SingleInstance> instance_;   // none in a run that saves a picture
     std::string keptInstallDir_, keptTStoreDir_; // of the settings, in a run with a root of its own
 };
 

@@ -2,6 +2,7 @@
 // hold one free slot (empty key text) when logically empty; every walk skips such a slot.
 #pragma once
 
+#include "catalogue/pictures.h"
 #include "catalogue/stock_use_index.h"
 #include "frame/frame.h"
 #include "simfiles/consist_file.h"
@@ -41,10 +42,14 @@ struct StockUse {
 
 // One row of the open-consist dialog.
 struct ConsistSummary {
-    std::string FileName;
-    bool Complete = true; // all stock is there
-    std::string ThirdText;
+    std::string FullName;
+    std::string FileName;    // the .con name; empty marks a free slot
+    std::string Composition; // "2 engines and 5 wagons" in the user's language
+    std::string RouteMark;   // RouteMarkYes or RouteMarkNo
+    bool Complete = true;    // all stock is there
+    int Engines = 0, Wagons = 0;
 };
+inline constexpr std::string_view RouteMarkYes = "ROUTE_YES", RouteMarkNo = "ROUTE_NO"; // a service's consist
 
 // Copies of the arrays of one root, so that going back to it reads no file.
 struct CatalogueSnapshot {
@@ -52,7 +57,9 @@ struct CatalogueSnapshot {
     std::string root;
     std::vector<std::string> ConsistFiles;
     std::vector<Materiel> Materiels;
+    std::vector<std::string> RamesEnService;
     std::vector<ConsistSummary> ConsistSummaries;
+    bool summariesRead = false;
 };
 
 struct Catalogue {
@@ -60,18 +67,25 @@ struct Catalogue {
         1}; // engines first, then wagons, in folder and directory order; never sorted
     std::vector<std::string> ConsistFiles{1};
     std::vector<std::string> StockFolders{1};
+    std::vector<std::string> BitmapPrefixes{1}; // the lines of Bitmaps.ini
     std::vector<ConsistEntry> ConsistIndex{1};
     std::vector<StockUse> StockUsage{1};
+    std::vector<std::string> RamesEnService{1}; // the consist files that services name
     std::vector<ConsistSummary> ConsistSummaries{1};
+    bool summariesRead = false; // ConsistSummaries has a row for every consist
     CatalogueSnapshot snapshots[2]; // the simulator's, the Train Store's
     bool complete = true;           // false: the user ended the last load, so it is no good as a snapshot
 
     StockUseIndex stockUseIndex; // of StockUsage
+    PictureSizes pictureSizes;   // of the thumbnails loaded so far
+    PictureFolders pictureFolders = PictureFolders::MadeAsNeeded;
 };
 
 struct LoadOptions {
-    NameRepair repair = NameRepair::Allowed; // Never: the load writes no file
+    NameRepair repair = NameRepair::Allowed;
+    PictureFolders pictureFolders = PictureFolders::MadeAsNeeded; // LeftAlone: no thumbnail is moved either
 };
+inline constexpr LoadOptions ReadOnlyLoad{NameRepair::Never, PictureFolders::LeftAlone}; // writes no file
 
 // The whole loading sequence for RootPrimary. False: the user ended it, and what was loaded so far stands.
 bool LoadCatalogue(Frame& frame, Catalogue& catalogue, LoadOptions options = {});
@@ -85,6 +99,8 @@ bool readAllStock(Frame& frame, Catalogue& catalogue, LoadOptions options = {});
 
 void SaveCatalogueSnapshot(const AppState& state, Catalogue& catalogue, std::string_view root);
 bool RestoreCatalogueSnapshot(Catalogue& catalogue, std::string_view root);
+// The rows of the open-consist dialog no longer count: its next opening reads the consists.
+void forgetSummaries(Catalogue& catalogue);
 // A root has got another path: its snapshot no longer counts.
 void dropSnapshot(const AppState& state, Catalogue& catalogue, bool simulatorRoot);
 

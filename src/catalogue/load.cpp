@@ -1,4 +1,5 @@
 #include "catalogue/catalogue.h"
+#include "catalogue/thumbnails.h"
 
 namespace zandor {
 
@@ -32,15 +33,28 @@ bool loadConsists(Frame& frame, Catalogue& catalogue, const std::string& stepDon
     return true;
 }
 
+// At the start alone, for those who want their thumbnails kept in order.
+bool wantsThumbnailControl(Frame& frame, const Catalogue& catalogue) {
+    return !frame.state.MainReady && catalogue.pictureFolders == PictureFolders::MadeAsNeeded &&
+           readNumericFlag(frame.profiles, "ControlThumbnails", frame.state.IniPath);
+}
+
 bool loadSteps(Frame& frame, Catalogue& catalogue, LoadOptions options) {
     const std::string stepDone = frame.text(Message::StepDone);
     const auto markStep = [&] { frame.progress.ShowProgress(0, 255, 0, stepDone); };
+    ReadBitmapList(frame, catalogue);
+    markStep();
     if (!loadConsists(frame, catalogue, stepDone))
         return false;
     ListStockFolders(frame, catalogue, trainsetPath(frame.state.RootPrimary), true);
     markStep();
     ScanStockFiles(frame, catalogue);
     markStep();
+    if (wantsThumbnailControl(frame, catalogue)) {
+        if (!ControlThumbnails(frame, catalogue))
+            return false;
+        markStep();
+    }
     if (!readAllStock(frame, catalogue, options))
         return false;
     markStep();
@@ -58,6 +72,8 @@ std::string consistsPath(std::string_view root) {
 }
 
 bool LoadCatalogue(Frame& frame, Catalogue& catalogue, LoadOptions options) {
+    catalogue.pictureFolders = options.pictureFolders;
+    forgetSummaries(catalogue);
     catalogue.complete = loadSteps(frame, catalogue, options);
     frame.state.Busy = false;
     return catalogue.complete;
@@ -86,7 +102,8 @@ bool readAllStock(Frame& frame, Catalogue& catalogue, LoadOptions options) {
 }
 
 bool reloadCatalogue(Frame& frame, Catalogue& catalogue) {
-    catalogue.ConsistSummaries.assign(1, {});
+    catalogue.RamesEnService.assign(1, {});
+    forgetSummaries(catalogue);
     if (RestoreCatalogueSnapshot(catalogue, frame.state.RootPrimary)) {
         frame.state.Busy = false;
         return true;

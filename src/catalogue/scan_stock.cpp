@@ -1,4 +1,5 @@
 #include "catalogue/catalogue.h"
+#include "catalogue/stock_files.h"
 
 namespace zandor {
 
@@ -6,12 +7,6 @@ namespace {
 
 constexpr std::string_view UncataloguedWagon =
     "default.wag"; // in this case alone; Default.wag is a wagon like any
-
-struct StockPass {
-    std::string_view extension;
-    Message listing;
-};
-constexpr StockPass StockPasses[] = {{".eng", Message::ListingEngines}, {".wag", Message::ListingWagons}};
 
 void showLimit(Frame& frame, std::string_view path) {
     const std::string shownPath = frame.files.nativePath(path);
@@ -43,9 +38,7 @@ void addMateriel(std::vector<Materiel>& materiels, const std::string& basePath, 
 // False: the array is full.
 bool scanFolder(Frame& frame, Catalogue& catalogue, const std::string& basePath, const std::string& folder,
                 std::string_view extension) {
-    for (const std::string& file : listFiles(frame.files, basePath + folder + "\\", extension)) {
-        if (file == UncataloguedWagon)
-            continue;
+    for (const std::string& file : listStockFiles(frame.files, basePath + folder + "\\", extension)) {
         if (isFull(catalogue.Materiels)) {
             showLimit(frame, basePath);
             return false;
@@ -69,6 +62,13 @@ void scanPass(Frame& frame, Catalogue& catalogue, const std::string& basePath, c
 }
 
 } // namespace
+
+std::vector<std::string> listStockFiles(FileSystem& files, std::string_view folder,
+                                        std::string_view extension) {
+    std::vector<std::string> names = listFiles(files, folder, extension);
+    std::erase(names, UncataloguedWagon);
+    return names;
+}
 
 void ListConsistFiles(Frame& frame, Catalogue& catalogue, std::string_view root) {
     catalogue.ConsistFiles.assign(1, {});

@@ -19,8 +19,13 @@ void SaveCatalogueSnapshot(const AppState& state, Catalogue& catalogue, std::str
     if (!slot)
         return;
     if (catalogue.complete)
-        *slot = {true, std::string(root), catalogue.ConsistFiles, catalogue.Materiels,
-                 catalogue.ConsistSummaries};
+        *slot = {true,
+                 std::string(root),
+                 catalogue.ConsistFiles,
+                 catalogue.Materiels,
+                 catalogue.RamesEnService,
+                 catalogue.ConsistSummaries,
+                 catalogue.summariesRead};
     else
         *slot = {};
 }
@@ -31,11 +36,18 @@ bool RestoreCatalogueSnapshot(Catalogue& catalogue, std::string_view root) {
             continue;
         catalogue.ConsistFiles = slot.ConsistFiles;
         catalogue.Materiels = slot.Materiels;
+        catalogue.RamesEnService = slot.RamesEnService;
         catalogue.ConsistSummaries = slot.ConsistSummaries;
+        catalogue.summariesRead = slot.summariesRead;
         catalogue.complete = true;
         return true;
     }
     return false;
+}
+
+void forgetSummaries(Catalogue& catalogue) {
+    catalogue.ConsistSummaries.assign(1, {});
+    catalogue.summariesRead = false;
 }
 
 void dropSnapshot(const AppState& state, Catalogue& catalogue, bool simulatorRoot) {

@@ -13,13 +13,21 @@ inline constexpr int StockClassCount = 6;
 int stockClassOf(const Materiel& materiel);
 Message stockClassMessage(int classIndex);
 
+// Steam engines and carriages show no coupling.
+bool listsCouplings(int classIndex);
+
+// Numbers of the icons of brakes and couplings; 0: none. Text in any case; 0 also for any other text.
+int brakeIcon(std::string_view brakeSystem);
+int couplingIcon(std::string_view coupling);
+inline constexpr int CabIcon = 20, NoCabIcon = 21;
+
 struct StockListRow {
-    std::string key;         // "KEY_" and the index in Materiels
-    std::string text;        // the shown name, or the file name
-    std::string brakeSystem; // lower case
-    std::string coupling;    // lower case
-    bool hasCab = false;
-    bool unused = false; // shown in green
+    std::string key;  // "KEY_" and the index in Materiels
+    std::string text; // the shown name, or the file name
+    int icon = NoCabIcon;
+    int brakeIcon = 0;    // an unknown brake repeats the icon of the stock before it
+    int couplingIcon = 0; // likewise; always 0 in a class that lists no couplings
+    bool unused = false;  // shown in green
 };
 
 // The rows of a class in catalogue order; the list control sorts.

@@ -83,7 +83,7 @@ class CatalogueCommand final : public Command {
         AppState& state = session.state;
         state.PrintGreen = state.PrintGreen || list_;
         Catalogue catalogue;
-        LoadCatalogue(session.frame, catalogue, {NameRepair::Never});
+        LoadCatalogue(session.frame, catalogue, ReadOnlyLoad);
         print(session, catalogue);
         return session.dialogs.alerts > 0 ? exitcode::Faults : exitcode::Done;
     }

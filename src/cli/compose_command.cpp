@@ -74,7 +74,7 @@ class ComposeCommand final : public Command {
             return session.cannotRun("The full name must be a single line");
         session.state.PrintGreen = false; // who uses what isn't asked for
         Catalogue catalogue;
-        LoadCatalogue(session.frame, catalogue, {NameRepair::Never});
+        LoadCatalogue(session.frame, catalogue, ReadOnlyLoad);
         ConsistDocument document;
         Editor editor{session.frame, catalogue, document};
         std::vector<WantedVehicle> wanted;

@@ -54,6 +54,8 @@ class OpenCommand final : public Command {
         // The catalogue stays empty: opening reads the stock that the consist names, and no other is asked
         // for.
         Catalogue catalogue;
+        catalogue.pictureFolders = PictureFolders::LeftAlone;
+        ReadBitmapList(session.frame, catalogue);
         ConsistDocument document;
         Editor editor{session.frame, catalogue, document};
         initialiseDocument(editor);

@@ -56,9 +56,7 @@ bool Session::refuse(std::string_view text) {
 }
 
 bool Session::prepareLanguage() {
-    for (const std::string& folder : {folders_.executable, folders_.program})
-        if (const std::string path = folder + "\\Langues.lng"; FileExists(frame.files, path))
-            state.LanguagePath = path;
+    state.LanguagePath = findShippedFile(frame.files, folders_, "Langues.lng");
     if (state.LanguagePath.empty())
         return refuse(LanguageFileMissing);
     readLanguage(frame);

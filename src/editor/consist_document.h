@@ -3,6 +3,7 @@
 #pragma once
 
 #include "catalogue/catalogue.h"
+#include "catalogue/pictures.h"
 #include "simfiles/rame.h"
 
 #include <optional>
@@ -32,6 +33,10 @@ struct Vehicule {
     std::optional<RameItem> origin; // of a vehicle read from a file; what a Missing one is written back from
 };
 
+// Height of the strip in pixels: the pictures' 96, and under them the room of the brake bars, the highest of
+// which lies 27 above the bottom. A name, whose foot is 30 above it, ends where the pictures do.
+inline constexpr int StripHeight = 126;
+
 // What the main window's controls show besides the strip. Operations write it, the window reads it.
 struct EditorControls {
     std::string shortName;        // tbNAME
@@ -46,7 +51,7 @@ struct EditorControls {
     int scrollMaximum = 0;
     bool scrollEnabled = false;
     int viewWidth = 800; // inner size of PicRAME in pixels; the window keeps it up to date
-    int viewHeight = 116;
+    int viewHeight = StripHeight;
     std::string totals;     // lblLongueurNewRame
     std::string resistance; // lblRESISTANCE
 };
@@ -67,6 +72,7 @@ struct ConsistDocument {
     bool DragAtFront = false;
     bool DragAtEnd = false;
     bool StripPressed = false;
+    unsigned stripChanges = 0; // grows when the picture of the strip has to be drawn anew
     int selected = -1; // position of the vehicle that the keyboard works on; -1: none
     bool openedFromOptions = false;
     bool faultyFile = false; // a part of the opened file could not be read
@@ -79,8 +85,6 @@ struct Editor {
     Catalogue& catalogue;
     ConsistDocument& document;
 };
-
-inline constexpr int PlainPictureWidth = 121; // pixels: the width of the type images
 
 struct StripHit {
     bool hit = false;
@@ -130,7 +134,10 @@ std::string stripToolTip(const ConsistDocument& document, int x, int y);
 std::optional<int> dropMarkPosition(const ConsistDocument& document);
 void AutoScrollStrip(ConsistDocument& document, int x, int y);
 
-// The layout part of a redraw: numbers, totals, scroll range.
+// The width of the strip's picture in pixels.
+int stripPictureWidth(const ConsistDocument& document);
+
+// What a redraw brings besides the drawing: numbers, totals, scroll range. Asks for the drawing.
 void updateStrip(Editor& editor);
 void ShowTotals(Editor& editor);
 void updateResistance(Editor& editor);

@@ -29,7 +29,11 @@ struct MaterielInfo {
     std::string coupling; // lblATTELAGE
     std::string length;   // lblLONGUEUR
     std::string mass;     // lblPOIDS
+    PictureRef picture;   // picPREVIEW
 };
+// Of an entry of Materiels. Nothing for an index that is no stock's.
+MaterielInfo ShowMaterielInfo(Editor& editor, int index);
+// The texts alone.
 MaterielInfo ShowMaterielInfo(const Frame& frame, const Materiel& materiel);
 
 } // namespace zandor

@@ -34,6 +34,7 @@ bool isEngine(const Editor& editor, const Vehicule& vehicule) {
 void ResetEditor(Editor& editor) {
     ConsistDocument& document = editor.document;
     document.Vehicules.assign(1, {});
+    ++document.stripChanges;
     document.RameStockOld.clear();
     document.RameStockNew.clear();
     document.Loading = document.faultyFile = false;

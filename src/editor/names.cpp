@@ -19,6 +19,18 @@ std::string_view forbiddenAt(std::string_view text) {
     return {};
 }
 
+// Bytes: what a file system takes is 255, of which ".con" and the mark of a file not yet complete need their share.
+constexpr std::size_t LongestShortName = 240;
+
+std::string_view withinFileName(std::string_view name) {
+    if (name.size() <= LongestShortName)
+        return name;
+    std::size_t end = LongestShortName;
+    while ((static_cast<unsigned char>(name[end]) & 0xC0) == 0x80) // inside a character
+        --end;
+    return name.substr(0, end);
+}
+
 bool isControl(char c) {
     return static_cast<unsigned char>(c) < 0x20;
 }
@@ -38,7 +50,8 @@ std::string filterShortName(std::string_view text) {
 
 void changeShortName(Editor& editor, std::string_view text) {
     EditorControls& controls = editor.document.controls;
-    std::string filtered = filterShortName(text);
+    const std::string allowed = filterShortName(text);
+    std::string filtered(withinFileName(allowed));
     if (filtered == controls.shortName)
         return;
     controls.shortName = std::move(filtered);

@@ -126,7 +126,17 @@ int sliderValue(std::string durability) {
     return static_cast<int>(std::nearbyint(std::clamp(numericValue(durability) * 1000.0, 0.0, 1e9)));
 }
 
+PictureRef loadPicture(Editor& editor, StockPlace place) {
+    Catalogue& catalogue = editor.catalogue;
+    if (place.kind == StockPlace::Missing)
+        return shippedPicture(MissingPicture);
+    std::vector<Materiel>& materiels =
+        place.kind == StockPlace::Primary ? catalogue.Materiels : catalogue.snapshots[0].Materiels;
+    return LoadMaterielPicture(editor.frame, catalogue, materiels[static_cast<std::size_t>(place.index)]);
+}
+
 void insertItem(Editor& editor, const RameItem& item, StockPlace place) {
+    editor.document.PictureWidth = loadPicture(editor, place).width;
     InsertVehicule(editor, place.index, place.kind == StockPlace::Primary,
                    place.kind == StockPlace::Simulator, &item);
     Vehicule& vehicule = editor.document.Vehicules.back();
@@ -152,7 +162,6 @@ void insertItems(Editor& editor, const std::vector<RameItem>& items) {
             showStripFull(editor);
             return;
         }
-        document.PictureWidth = PlainPictureWidth;
         insertItem(editor, items[i], places[i]);
     }
 }

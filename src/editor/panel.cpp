@@ -85,6 +85,16 @@ std::string figureLine(const Frame& frame, Message message, std::string_view val
 
 } // namespace
 
+MaterielInfo ShowMaterielInfo(Editor& editor, int index) {
+    std::vector<Materiel>& materiels = editor.catalogue.Materiels;
+    const auto position = static_cast<std::size_t>(index);
+    if (index < 0 || position >= materiels.size() || materiels[position].FileName.empty())
+        return {};
+    MaterielInfo info = ShowMaterielInfo(editor.frame, materiels[position]);
+    info.picture = LoadMaterielPicture(editor.frame, editor.catalogue, materiels[position]);
+    return info;
+}
+
 MaterielInfo ShowMaterielInfo(const Frame& frame, const Materiel& materiel) {
     MaterielInfo info;
     info.select = " " + shownName(materiel) + " ";

@@ -1,4 +1,5 @@
 #include "editor/consist_io.h"
+#include "editor/consist_summaries.h"
 #include "editor/editor_parts.h"
 #include "simfiles/consist_file.h"
 
@@ -216,24 +217,35 @@ bool writeConsist(Editor& editor, const std::string& folder, const Rame& rame, c
     return replaceFile(files, folder + rame.FileName, encodeConsist(buildConsistText(rame, list.lines)));
 }
 
+ConsistSummary summaryOf(const Editor& editor, const Rame& rame, const VehicleList& list) {
+    ConsistSummary summary;
+    summary.FullName = rame.Name;
+    summary.FileName = rame.FileName;
+    for (const VehicleLines& vehicle : list.lines)
+        ++(vehicle.isEngine ? summary.Engines : summary.Wagons);
+    summary.Composition = CompositionTexts(editor.frame).of(summary.Engines, summary.Wagons);
+    summary.RouteMark = ServiceConsists(editor.catalogue).markOf(summary.FileName);
+    summary.Complete = !list.hasMissing;
+    return summary;
+}
+
 // The lists that mirror the CONSISTS folder of the root in use.
-void listSavedFile(Catalogue& catalogue, const std::string& file, bool complete) {
+void listSavedFile(Catalogue& catalogue, ConsistSummary saved) {
     std::vector<std::string>& names = catalogue.ConsistFiles;
-    if (!isListed(catalogue, file))
-        addToArray(names, !names.empty() && names.back().empty(), file);
+    if (!isListed(catalogue, saved.FileName))
+        addToArray(names, !names.empty() && names.back().empty(), saved.FileName);
 
     std::vector<ConsistSummary>& summaries = catalogue.ConsistSummaries;
     const auto known =
-        std::find_if(summaries.begin(), summaries.end(), [&file](const ConsistSummary& summary) {
-            return equalIgnoringCase(summary.FileName, file);
+        std::find_if(summaries.begin(), summaries.end(), [&saved](const ConsistSummary& summary) {
+            return equalIgnoringCase(summary.FileName, saved.FileName);
         });
     if (known == summaries.end()) {
-        addToArray(summaries, !summaries.empty() && summaries.back().FileName.empty(),
-                   ConsistSummary{file, complete, {}});
+        addToArray(summaries, !summaries.empty() && summaries.back().FileName.empty(), std::move(saved));
         return;
     }
-    known->Complete = complete;
-    known->ThirdText.clear();
+    saved.FileName = known->FileName; // as the disk spells it
+    *known = std::move(saved);
 }
 
 void reportSaved(Editor& editor, bool hadFile, const Backup& backup, bool hasMissing) {
@@ -266,11 +278,12 @@ void takeSaved(Editor& editor, const std::string& folder, Rame rame, VehicleList
     // A save under another name makes a new file: the old one goes on using its stock.
     if (state.HasFile && !equalIgnoringCase(rame.FileName, document.rame.FileName))
         document.RameStockOld.clear();
+    const ConsistSummary saved = summaryOf(editor, rame, list);
     document.rame = std::move(rame);
     document.RameStockNew = std::move(list.stock);
     state.ConsistFolder = folder;
     if (sameFolder(folder, consistsPath(state.RootPrimary)))
-        listSavedFile(editor.catalogue, document.rame.FileName, !list.hasMissing);
+        listSavedFile(editor.catalogue, saved);
     UpdateStockUse(editor, state.HasFile, document.rame.Name, document.rame.FileName, folder);
 }
 

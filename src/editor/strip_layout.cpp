@@ -15,17 +15,6 @@ bool isInside(const EditorControls& controls, int x, int y) {
     return x >= 0 && y >= 0 && x <= controls.viewWidth && y <= controls.viewHeight;
 }
 
-// The picture grows with the strip for as long as it may; what stands behind its end is out of sight.
-int pictureWidth(const ConsistDocument& document) {
-    int vehicles = 0;
-    for (const Vehicule& vehicule : document.Vehicules) {
-        if (vehicles + vehicule.Width + RoomBehindStrip >= WidestPicture)
-            break;
-        vehicles += vehicule.Width;
-    }
-    return std::max(document.controls.viewWidth, vehicles + RoomBehindStrip);
-}
-
 void updateScrollRange(ConsistDocument& document) {
     EditorControls& controls = document.controls;
     controls.scrollEnabled = document.StripWidth > controls.viewWidth;
@@ -33,7 +22,7 @@ void updateScrollRange(ConsistDocument& document) {
         controls.scrollValue = controls.scrollMaximum = 0;
         return;
     }
-    const int range = pictureWidth(document) - controls.viewWidth;
+    const int range = stripPictureWidth(document) - controls.viewWidth;
     if (range < LargestScroll)
         controls.scrollMaximum = range;
     controls.scrollValue = std::clamp(controls.scrollValue, 0, controls.scrollMaximum);
@@ -50,6 +39,17 @@ std::string cutFigure(double value) {
 }
 
 } // namespace
+
+// The picture grows with the strip for as long as it may; what stands behind its end is out of sight.
+int stripPictureWidth(const ConsistDocument& document) {
+    int vehicles = 0;
+    for (const Vehicule& vehicule : document.Vehicules) {
+        if (vehicles + vehicule.Width + RoomBehindStrip >= WidestPicture)
+            break;
+        vehicles += vehicule.Width;
+    }
+    return std::max(document.controls.viewWidth, vehicles + RoomBehindStrip);
+}
 
 StripHit HitTestStrip(const ConsistDocument& document, int x, int y) {
     StripHit result;
@@ -108,11 +108,10 @@ void AutoScrollStrip(ConsistDocument& document, int x, int y) {
 void updateStrip(Editor& editor) {
     ConsistDocument& document = editor.document;
     RenumberVehicles(editor);
-    for (Vehicule& vehicule : document.Vehicules)
-        vehicule.DrawnWidth = vehicule.Width;
     ShowTotals(editor);
     updateScrollRange(document);
     document.controls.numberEnabled = hasVehicles(document);
+    ++document.stripChanges;
 }
 
 void ShowTotals(Editor& editor) {

@@ -35,7 +35,7 @@ void describeFrom(const Materiel& materiel, Vehicule& vehicule) {
 void describeMissing(const RameItem& item, Vehicule& vehicule) {
     vehicule.Missing = true;
     vehicule.Name = stockFileOf(item);
-    vehicule.Picture = "NO_MATERIEL";
+    vehicule.Picture = MissingPicture;
     vehicule.ImageIsResource = true;
 }
 

@@ -105,6 +105,7 @@ enum class Message : int {
     StatusVehicleMissing = 88, // as 86
     StatusNoVehicle = 89,
     VehicleNotInList = 90, // |1 the vehicle's name
+    CaptionVehicle = 85,   // of the button that opens the strip's menu
 
     // warnings about files
     OpenedFaulty = 91,          // |1 the file, |2 a line break, |3 the text of 84, 391 or 392

@@ -2,6 +2,7 @@
 
 #include "text/decode.h"
 #include "text/lines.h"
+#include "text/text_hash.h"
 
 #include <algorithm>
 
@@ -11,6 +12,7 @@ namespace {
 
 constexpr std::string_view SimulatorKey = "SOFTWARE\\Microsoft\\Microsoft Games\\Train Simulator\\1.0";
 constexpr std::string_view WindowsKey = "SOFTWARE\\Microsoft\\Windows\\CurrentVersion";
+constexpr std::string_view LanguageFile = "Langues.lng";
 constexpr std::string_view SimulatorName = "Microsoft Train Simulator";
 
 std::string setting(const Frame& frame, std::string_view key) {
@@ -33,6 +35,31 @@ std::string inProgramFolder(const Frame& frame, std::string_view name) {
 // The root of a disk keeps its one separator.
 std::string_view withoutTrailingSeparators(std::string_view path) {
     return path.substr(0, std::max<std::size_t>(path.find_last_not_of("\\/") + 1, 1));
+}
+
+std::string markOf(std::string_view bytes) {
+    TextHasher hasher;
+    hasher.add(bytes);
+    return std::to_string(hasher.value);
+}
+
+// The program folder gets a copy of the shipped language file, which its user may change; as long as he
+// hasn't, it follows the file of each new release. What was copied last is noted beside it.
+void provideLanguageFile(Frame& frame, const ProgramFolders& folders) {
+    constexpr std::string_view section = "Shipped";
+    const std::string own = inProgramFolder(frame, LanguageFile),
+                      notes = inProgramFolder(frame, "Shipped.ini");
+    const std::string shipped = findShippedFile(
+        frame.files, {{}, folders.executable, folders.executableName, folders.shared}, LanguageFile);
+    std::string newBytes, ownBytes;
+    if (folders.program == folders.executable || !frame.files.readFile(shipped, newBytes))
+        return;
+    const std::string noted = frame.profiles.ReadIniValue(section, LanguageFile, notes);
+    const bool isThere = frame.files.readFile(own, ownBytes);
+    if (isThere && (ownBytes == newBytes || markOf(ownBytes) != noted))
+        return;
+    if (replaceFile(frame.files, own, newBytes))
+        frame.profiles.WriteIniValue(section, LanguageFile, markOf(newBytes), notes);
 }
 
 void setHelpFile(Frame& frame) {
@@ -61,10 +88,11 @@ void provideSettings(Frame& frame) {
     }
 }
 
-// What the installer has unpacked is of no more use at the first start.
+// What the installer has unpacked is of no more use at the first start. The folder for temporary files is
+// everybody's: what stands there under this name need not be the installer's.
 void cleanUpAfterInstallation(Frame& frame) {
     const std::string folder = GetTempFolder() + "\\QX_Setup";
-    if (readNumericFlag(frame.profiles, "Inst", frame.state.IniPath) && FolderExists(frame.files, folder)) {
+    if (readNumericFlag(frame.profiles, "Inst", frame.state.IniPath) && frame.files.isOwnFolder(folder)) {
         for (const FolderEntry& entry : frame.files.listFolder(folder))
             if (!entry.isFolder)
                 frame.files.deleteFile(folder + "\\" + entry.name);
@@ -135,9 +163,10 @@ bool prepareStart(Frame& frame, const ProgramFolders& folders) {
     state.Title = makeTitle();
     state.ProgramFolder = folders.program;
     state.IniPath = inProgramFolder(frame, "Zandor.ini");
-    if (!provideShippedFile(frame.files, folders, "Langues.lng"))
+    provideLanguageFile(frame, folders);
+    state.LanguagePath = findShippedFile(frame.files, folders, LanguageFile);
+    if (state.LanguagePath.empty())
         return false;
-    state.LanguagePath = inProgramFolder(frame, "Langues.lng");
     readLanguage(frame);
     return true;
 }

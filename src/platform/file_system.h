@@ -40,6 +40,8 @@ class FileSystem {
     // True when the path names a file that can be opened for reading.
     virtual bool fileExists(std::string_view path) = 0;
     virtual bool folderExists(std::string_view path) = 0;
+    // True for a folder that this user made: not a link to one, nor what another user put there.
+    virtual bool isOwnFolder(std::string_view path) = 0;
     // Size and time of a file or nothing when there is no such file.
     virtual std::optional<FileStamp> stamp(std::string_view path) = 0;
     // Files and folders of a folder, without "." and "..", by name with case ignored. Empty when it can't be

@@ -88,6 +88,11 @@ std::vector<std::string> MemoryFileSystem::allFiles() const {
     return files;
 }
 
+void MemoryFileSystem::giveAway(std::string_view path) {
+    if (Node* node = findNode(nodes_, path))
+        node->foreign = true;
+}
+
 void MemoryFileSystem::failAt(int call, bool andAllAfter) {
     calls_ = 0;
     failCall_ = call;
@@ -100,6 +105,8 @@ void MemoryFileSystem::writeShort(std::size_t bytes) {
 }
 
 bool MemoryFileSystem::fails(std::string_view verb, std::string_view path) {
+    if (atEachCall)
+        atEachCall();
     log.push_back(std::string(verb).append(" ").append(path));
     ++calls_;
     const bool now = failCall_ > 0 && (calls_ == failCall_ || (failAllAfter_ && calls_ > failCall_));
@@ -119,6 +126,11 @@ bool MemoryFileSystem::fileExists(std::string_view path) {
 
 bool MemoryFileSystem::folderExists(std::string_view path) {
     return !fails("folderExists", path) && !path.empty() && hasFolder(nodes_, path);
+}
+
+bool MemoryFileSystem::isOwnFolder(std::string_view path) {
+    const Node* node = fails("isOwnFolder", path) ? nullptr : findNode(nodes_, path);
+    return node && node->isFolder && !node->foreign;
 }
 
 std::optional<FileStamp> MemoryFileSystem::stamp(std::string_view path) {

@@ -3,6 +3,7 @@
 
 #include "platform/file_system.h"
 
+#include <functional>
 #include <map>
 #include <string>
 #include <vector>
@@ -16,6 +17,8 @@ class MemoryFileSystem final : public FileSystem {
     std::optional<std::string> get(std::string_view path) const;
     std::vector<std::string> allFiles() const; // spelled as made, in order
 
+    void giveAway(std::string_view path); // the folder is another user's, or a link to one
+
     // The n-th call from now (1 is the next one) fails; 0 turns it off. Readers count too.
     // With `andAllAfter` every later call fails as well.
     void failAt(int call, bool andAllAfter = false);
@@ -23,11 +26,13 @@ class MemoryFileSystem final : public FileSystem {
     void writeShort(std::size_t bytes);
     int calls() const { return calls_; } // since the last failAt()
     bool failed() const { return failed_; }
+    std::function<void()> atEachCall; // such as the delay of a slow disk; may be empty
     std::vector<std::string> log; // one line a call: verb and path, for tests of the order of things
 
     bool readFile(std::string_view path, std::string& bytes) override;
     bool fileExists(std::string_view path) override;
     bool folderExists(std::string_view path) override;
+    bool isOwnFolder(std::string_view path) override;
     std::optional<FileStamp> stamp(std::string_view path) override;
     std::vector<FolderEntry> listFolder(std::string_view path) override;
     bool writeFile(std::string_view path, std::string_view bytes) override;
@@ -46,6 +51,7 @@ class MemoryFileSystem final : public FileSystem {
         std::int64_t modified = 0;
         bool isFolder = false;
         FileAttributes attributes;
+        bool foreign = false;
     };
     bool fails(std::string_view verb, std::string_view path);
 

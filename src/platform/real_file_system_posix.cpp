@@ -114,6 +114,7 @@ class RealFileSystem final : public FileSystem {
     bool readFile(std::string_view path, std::string& bytes) override;
     bool fileExists(std::string_view path) override;
     bool folderExists(std::string_view path) override;
+    bool isOwnFolder(std::string_view path) override;
     std::optional<FileStamp> stamp(std::string_view path) override;
     std::vector<FolderEntry> listFolder(std::string_view path) override;
     bool writeFile(std::string_view path, std::string_view bytes) override;
@@ -195,6 +196,12 @@ bool RealFileSystem::fileExists(std::string_view path) {
 
 bool RealFileSystem::folderExists(std::string_view path) {
     return resolve(path).isFolder();
+}
+
+bool RealFileSystem::isOwnFolder(std::string_view path) {
+    struct stat info;
+    return resolve(path).isFolder() && lstat(place_.real.c_str(), &info) == 0 && S_ISDIR(info.st_mode) &&
+           info.st_uid == geteuid();
 }
 
 std::optional<FileStamp> RealFileSystem::stamp(std::string_view path) {

@@ -11,19 +11,25 @@ namespace zandor {
 // $WINEPREFIX, else ~/.wine when that exists, else empty; a native path.
 std::string winePrefixFolder();
 
-// The folder of the settings and language file: $ZANDOR_HOME, else the executable's when it can be written
-// to, else $XDG_DATA_HOME/zandor (by default ~/.local/share/zandor), made when missing. A native path without
-// a trailing separator.
-struct ProgramFolders {
-    std::string program;    // as above
-    std::string executable; // the folder that the executable stands in, where the shipped files are
-    std::string executableName;
-};
-ProgramFolders findProgramFolders();
+// Where the user's own programs keep data for the whole desktop: $XDG_DATA_HOME, by default ~/.local/share.
+std::string userDataFolder();
 
-// Copies a shipped file (such as Langues.lng) from the executable's folder to the program folder when it
-// isn't there. True when it stands in the program folder afterwards.
-bool provideShippedFile(FileSystem& files, const ProgramFolders& folders, std::string_view name);
+// Native paths without a trailing separator.
+struct ProgramFolders {
+    std::string program;    // of the settings and all else that is written
+    std::string executable; // that the executable stands in
+    std::string executableName;
+    std::string shared = {}; // ../share/zandor beside it, which an installed program has; empty: it isn't one
+};
+// The program folder, made when missing, is $ZANDOR_HOME, else the executable's when the program isn't an
+// installed one and may write there, else the folder zandor of the user's data.
+ProgramFolders findProgramFolders();
+ProgramFolders findProgramFolders(const std::string& executable); // of the executable with this native path
+std::string executablePath(const ProgramFolders& folders);        // native
+
+// A file that comes with the program, such as Langues.lng: the user's own in the program folder, else the one
+// as shipped, which a newer release brings up to date. Empty: there is none.
+std::string findShippedFile(FileSystem& files, const ProgramFolders& folders, std::string_view name);
 
 std::string GetTempFolder(); // without a trailing separator, in upper case where the system ignores case
 

@@ -39,18 +39,21 @@ std::string absolutePath(const std::string& path) {
     return withoutTrailingSeparators(error ? path : absolute.lexically_normal().string());
 }
 
-std::string dataFolder() {
-    const std::string data = environment("XDG_DATA_HOME");
-    return data.starts_with('/') ? data : homeFolder() + "/.local/share";
-}
-
-std::string chooseProgramFolder(const std::string& executableFolder) {
+// Even the superuser keeps his settings out of an installed program's folder.
+std::string chooseProgramFolder(const ProgramFolders& folders) {
     const std::string home = environment("ZANDOR_HOME");
     if (!home.empty())
         return absolutePath(home);
-    if (!executableFolder.empty() && access(executableFolder.c_str(), W_OK) == 0)
-        return executableFolder;
-    return withoutTrailingSeparators(dataFolder()) + "/zandor";
+    const std::string& beside = folders.executable;
+    if (folders.shared.empty() && !beside.empty() && access(beside.c_str(), W_OK) == 0)
+        return beside;
+    return userDataFolder() + "/zandor";
+}
+
+std::string sharedFolder(const disk::path& executable) {
+    std::error_code error;
+    const disk::path shared = executable.parent_path().parent_path() / "share" / "zandor";
+    return disk::is_directory(shared, error) ? shared.string() : std::string();
 }
 
 } // namespace
@@ -64,19 +67,35 @@ std::string winePrefixFolder() {
     return disk::is_directory(usual, error) ? usual : std::string();
 }
 
+std::string userDataFolder() {
+    const std::string data = environment("XDG_DATA_HOME");
+    return data.starts_with('/') ? withoutTrailingSeparators(data) : homeFolder() + "/.local/share";
+}
+
 ProgramFolders findProgramFolders() {
     std::error_code error;
-    const disk::path executable = disk::read_symlink("/proc/self/exe", error);
-    ProgramFolders folders{{}, executable.parent_path().string(), executable.filename().string()};
-    folders.program = chooseProgramFolder(folders.executable);
+    return findProgramFolders(disk::read_symlink("/proc/self/exe", error).string());
+}
+
+ProgramFolders findProgramFolders(const std::string& executable) {
+    const disk::path path = executable;
+    ProgramFolders folders{{}, path.parent_path().string(), path.filename().string(), sharedFolder(path)};
+    folders.program = chooseProgramFolder(folders);
+    std::error_code error;
     disk::create_directories(folders.program, error);
     return folders;
 }
 
-bool provideShippedFile(FileSystem& files, const ProgramFolders& folders, std::string_view name) {
-    const std::string wanted = AddBackslash(folders.program).append(name);
-    return FileExists(files, wanted) ||
-           CopyFileOver(files, AddBackslash(folders.executable).append(name), wanted);
+std::string executablePath(const ProgramFolders& folders) {
+    return folders.executable + "/" + folders.executableName;
+}
+
+std::string findShippedFile(FileSystem& files, const ProgramFolders& folders, std::string_view name) {
+    for (const std::string* folder : {&folders.program, &folders.executable, &folders.shared})
+        if (const std::string path = (*folder + "\\").append(name);
+            !folder->empty() && FileExists(files, path))
+            return path;
+    return {};
 }
 
 std::string GetTempFolder() {

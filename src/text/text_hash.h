@@ -1,4 +1,4 @@
-// A quick hash of a short text, eight bytes at a time. Its values hold within one run of the program alone.
+// A quick hash of a text, eight bytes at a time: tells texts apart, and guards against nothing.
 #pragma once
 
 #include <cstdint>

@@ -29,7 +29,8 @@ const Names StockSteps = {"0-0:0 engines", "0-0:0 wagons", "0-255:0 step", "0-0:
                           "0-255:0 step"};
 
 Names withStockSteps(Names steps) {
-    steps.push_back("0-255:0 step"); // of the folders
+    steps.insert(steps.begin(), "0-255:0 step"); // of the pictures
+    steps.push_back("0-255:0 step");             // of the folders
     steps.insert(steps.end(), StockSteps.begin(), StockSteps.end());
     return steps;
 }
@@ -77,10 +78,45 @@ TEST_F(CatalogueTest, LoadRepairsSeveralNamesOnlyWhereItMayWrite) {
     const std::string path = trainsetPath(MstsRoot) + "Parc\\voit.wag";
     putStock("Parc\\voit.wag", std::string(WagonBody) + "Name ( \"Second name\" )\r\n)\r\n");
     const auto before = files.get(path);
-    LoadCatalogue(frame, catalogue, {NameRepair::Never});
+    LoadCatalogue(frame, catalogue, ReadOnlyLoad);
     EXPECT_EQ(files.get(path), before);
     LoadCatalogue(frame, catalogue);
     EXPECT_NE(files.get(path), before);
+}
+
+TEST_F(CatalogueTest, LoadControlsTheThumbnailsAtTheStartAlone) {
+    const std::string thumbnail = "\\program\\Thumbnails\\gone.bmp";
+    struct Case {
+        const char* key;
+        bool mainReady, readOnly, moved;
+    };
+    for (const Case& c :
+         {Case{"1", false, false, true}, Case{"1.0", false, false, true}, Case{"0", false, false, false},
+          Case{"", false, false, false}, Case{"1", true, false, false}, Case{"1", false, true, false}}) {
+        files.put(thumbnail, "picture");
+        files.put(state.IniPath, "[General]\r\nControlThumbnails=" + std::string(c.key) + "\r\n");
+        state.MainReady = c.mainReady;
+        EXPECT_TRUE(LoadCatalogue(frame, catalogue, c.readOnly ? ReadOnlyLoad : LoadOptions()));
+        EXPECT_EQ(!files.get(thumbnail), c.moved) << c.key;
+    }
+}
+
+TEST_F(CatalogueTest, ReadOnlyLoadWritesNothing) {
+    putStock("Parc\\voit.wag", WagonBody);
+    set("ControlThumbnails", "1");
+    const Names before = files.allFiles();
+    EXPECT_TRUE(LoadCatalogue(frame, catalogue, ReadOnlyLoad));
+    EXPECT_EQ(files.allFiles(), before);
+    EXPECT_EQ(catalogue.BitmapPrefixes.size(), 4u);
+}
+
+TEST_F(CatalogueTest, AReloadLooksForPicturesAnew) {
+    putStock("Parc\\voit.wag", WagonBody);
+    LoadCatalogue(frame, catalogue);
+    LoadMaterielPicture(frame, catalogue, catalogue.Materiels[0]);
+    EXPECT_EQ(catalogue.Materiels[0].Picture, "5003");
+    LoadCatalogue(frame, catalogue);
+    EXPECT_EQ(catalogue.Materiels[0].Picture, "");
 }
 
 TEST_F(CatalogueTest, LoadOfAMissingRootIsEmptyAndNoError) {

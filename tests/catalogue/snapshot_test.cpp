@@ -20,11 +20,15 @@ struct SnapshotTest : CatalogueTest {
 };
 
 TEST_F(SnapshotTest, GoingToTheOtherRootAndBackReadsNoFile) {
-    catalogue.ConsistSummaries = {{"train.con", true, "third"}};
+    catalogue.ConsistSummaries = {{"A train", "train.con", "1 engine", "ROUTE_YES", true, 1, 0}};
+    catalogue.RamesEnService = {"Train.con"};
+    catalogue.summariesRead = true;
     swapRoots();
     ASSERT_TRUE(reloadCatalogue(frame, catalogue));
     EXPECT_EQ(stockNames(), Names{"Depot\\store.eng"});
     EXPECT_EQ(catalogue.ConsistSummaries[0].FileName, "");
+    EXPECT_EQ(catalogue.RamesEnService, Names{""});
+    EXPECT_FALSE(catalogue.summariesRead);
 
     swapRoots();
     files.log.clear();
@@ -33,7 +37,9 @@ TEST_F(SnapshotTest, GoingToTheOtherRootAndBackReadsNoFile) {
     EXPECT_FALSE(state.Busy);
     EXPECT_EQ(stockNames(), (Names{"Parc\\loco.eng", "Parc\\voit.wag"}));
     EXPECT_EQ(catalogue.ConsistFiles, Names{"train.con"});
-    EXPECT_EQ(catalogue.ConsistSummaries[0].ThirdText, "third");
+    EXPECT_EQ(catalogue.ConsistSummaries[0].Composition, "1 engine");
+    EXPECT_EQ(catalogue.RamesEnService, Names{"Train.con"});
+    EXPECT_TRUE(catalogue.summariesRead);
 }
 
 TEST_F(SnapshotTest, ARootWithANewPathIsScannedAgain) {

@@ -41,19 +41,48 @@ TEST_F(StockListTest, HoldsTheClassInCatalogueOrder) {
     Materiel& last = add("a.eng", "engine", "DIESEL");
     last.WagonName = "Shell";
     last.CabView = "a.cvf";
-    last.BrakeSystem = "EP";
-    last.Coupling = "Chain_Bar";
 
     const auto rows = FillStockList(state, catalogue, 1, false);
     ASSERT_EQ(rows.size(), 2u);
     EXPECT_EQ(rows[0].key + rows[0].text, "KEY_0Zed");
-    EXPECT_FALSE(rows[0].hasCab);
+    EXPECT_EQ(rows[0].icon, NoCabIcon);
     EXPECT_EQ(rows[1].key + rows[1].text, "KEY_3Shell");
-    EXPECT_EQ(rows[1].brakeSystem + " " + rows[1].coupling, "ep chain_bar");
-    EXPECT_TRUE(rows[1].hasCab);
+    EXPECT_EQ(rows[1].icon, CabIcon);
     EXPECT_EQ(FillStockList(state, catalogue, 1, true)[0].text, "z.eng");
     EXPECT_TRUE(FillStockList(state, catalogue, 0, false).empty());
     EXPECT_TRUE(FillStockList(state, catalogue, -1, false).empty()) << "stock of no class is in no list";
+}
+
+TEST_F(StockListTest, AnUnknownBrakeOrCouplingRepeatsTheIconBeforeIt) {
+    struct Case {
+        const char *type, *brakes, *coupling;
+        int brakeIcon, couplingIcon; // of the class's rows
+    };
+    const Case cases[] = {
+        {"Freight", "", "", 0, 0},
+        {"Freight", "EP", "Chain_Bar", 6, 14},
+        {"Tender", "Ecp", "bar", 0, 0}, // of another class
+        {"Freight", "hand", "knuckle", 22, 11},
+        {"Freight", "Vacuum_Twin_Pipe", "hydraulic_hydraulic", 5, 13},
+        {"Freight", "", "automatic", 5, 10},
+    };
+    for (const Case& c : cases) {
+        Materiel& added = add("a.wag", c.type);
+        added.BrakeSystem = c.brakes;
+        added.Coupling = c.coupling;
+    }
+    const auto rows = FillStockList(state, catalogue, 4, false);
+    std::size_t next = 0;
+    for (const Case& c : cases) {
+        if (std::string_view(c.type) != "Freight")
+            continue;
+        ASSERT_LT(next, rows.size());
+        EXPECT_EQ(rows[next].brakeIcon, c.brakeIcon) << next;
+        EXPECT_EQ(rows[next].couplingIcon, c.couplingIcon) << next;
+        ++next;
+    }
+    add("b.wag", "Carriage").Coupling = "bar";
+    EXPECT_EQ(FillStockList(state, catalogue, 3, false)[0].couplingIcon, 0) << "carriages list no coupling";
 }
 
 TEST_F(StockListTest, UnusedStockIsShownOnlyWithPrintGreen) {

@@ -1,5 +1,6 @@
 // The commands that work on a simulator folder.
 #include "cli_fixture.h"
+#include "support/bitmaps.h"
 
 namespace zandor {
 namespace {
@@ -211,6 +212,23 @@ TEST_F(TreeCommands, OpenOfWhatIsNoConsistIsAFault) {
     EXPECT_EQ(ran.exitCode, 1);
     EXPECT_EQ(ran.out, "");
     EXPECT_TRUE(isOneLine(ran.err)) << ran.err;
+}
+
+TEST_F(TreeCommands, ThumbnailsAndTheirListCountButNothingIsWrittenBesideTheProgram) {
+    putSettings("ControlThumbnails=1\r\n");
+    putBytes(at("home/Thumbnails/First.bmp"), makeBitmap(50, 96));
+    putBytes(at("home/Thumbnails/loco.bmp"), makeBitmap(300, 96));
+    for (const bool listed : {false, true}) {
+        if (listed)
+            putBytes(at("home/Thumbnails/Bitmaps.ini"), "First\r\n");
+        EXPECT_EQ(runOnTree({"open", "local"}).json()["totals"]["width"], 300 + (listed ? 50 : 121));
+    }
+    std::filesystem::remove_all(at("home/Thumbnails"));
+    EXPECT_EQ(runOnTree({"catalogue"}).exitCode, 0);
+    EXPECT_EQ(runOnTree({"compose", "new", "Diesels/Loco"}).exitCode, 0);
+    EXPECT_EQ(runOnTree({"open", "local"}).exitCode, 0);
+    EXPECT_FALSE(std::filesystem::exists(at("home/Thumbnails")));
+    EXPECT_FALSE(std::filesystem::exists(at("home/Unusable_Thumbnails")));
 }
 
 } // namespace

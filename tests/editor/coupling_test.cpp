@@ -189,5 +189,17 @@ TEST_F(CouplingTest, ThePanelShowsNamesAndFigures) {
     EXPECT_EQ(ShowMaterielInfo(frame, Materiel()).length, "");
 }
 
+TEST_F(CouplingTest, ThePanelShowsThePictureOfAnEntry) {
+    const int index = stockOf('A');
+    const MaterielInfo info = ShowMaterielInfo(editor, index);
+    EXPECT_EQ(info.path, "Folder1\\A.wag");
+    EXPECT_EQ(info.picture.name, "5004");
+    EXPECT_EQ(catalogue.Materiels[static_cast<std::size_t>(index)].Picture, "5004") << "it is kept";
+    for (const int none : {-1, index + 1}) {
+        EXPECT_FALSE(ShowMaterielInfo(editor, none).picture.found());
+        EXPECT_EQ(ShowMaterielInfo(editor, none).select, "");
+    }
+}
+
 } // namespace
 } // namespace zandor

@@ -63,6 +63,7 @@ class EditorTest : public ::testing::Test, protected TestFrame {
         materiel.FileName = fileName;
         materiel.EngineName = std::string(fileName.substr(0, fileName.size() - 4));
         materiel.Coupling = coupling;
+        materiel.Type = "Freight";
         files.put(materiel.BasePath + materiel.Folder + "\\" + materiel.FileName, "stock");
         if (catalogue.Materiels.back().FileName.empty())
             catalogue.Materiels.pop_back();

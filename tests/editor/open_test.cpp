@@ -1,4 +1,5 @@
 #include "editor_fixture.h"
+#include "support/bitmaps.h"
 
 namespace zandor {
 namespace {
@@ -270,6 +271,32 @@ TEST_F(OpenTest, AConsistBeyondTheLimitOpensUpToIt) {
     ASSERT_TRUE(open("long.con"));
     EXPECT_EQ(vehicleCount(document), MaxEntries);
     EXPECT_EQ(shown(), Shown{"48 limit 32766 in long.con"});
+}
+
+TEST_F(OpenTest, VehiclesAreAsWideAsTheirPictures) {
+    const std::string thumbnail = "\\program\\Thumbnails\\Loco1.bmp";
+    files.put(thumbnail, makeBitmap(200, 96));
+    catalogue.Materiels[static_cast<std::size_t>(wagon)].Type = "Engine";
+    catalogue.Materiels[static_cast<std::size_t>(wagon)].EngineType = "other";
+    putConsist("mixed.con", Vehicles);
+    ASSERT_TRUE(open("mixed.con"));
+    const int widths[] = {200, PlainPictureWidth, 0, PlainPictureWidth};
+    for (std::size_t i = 0; i < 4; ++i)
+        EXPECT_EQ(document.Vehicules[i].Width, widths[i]) << i;
+    EXPECT_EQ(document.StripWidth, 200 + 2 * PlainPictureWidth);
+    EXPECT_EQ(document.Vehicules[0].Picture, thumbnail);
+    EXPECT_FALSE(document.Vehicules[0].ImageIsResource || document.Vehicules[0].ImageIsGeneric);
+    EXPECT_EQ(document.Vehicules[1].Picture, "NO_MATERIEL");
+    EXPECT_TRUE(document.Vehicules[1].ImageIsResource);
+    EXPECT_TRUE(appendStock(editor, loco));
+    EXPECT_EQ(document.StripWidth, 400 + 2 * PlainPictureWidth);
+}
+
+TEST_F(StoreTest, StockOfTheSimulatorHasItsThumbnailToo) {
+    files.put("\\program\\Thumbnails\\Wag1.bmp", makeBitmap(64, 96));
+    ASSERT_TRUE(open("mixed.con"));
+    EXPECT_TRUE(document.Vehicules[2].FromSimulator);
+    EXPECT_EQ(document.Vehicules[2].Width, 64);
 }
 
 } // namespace

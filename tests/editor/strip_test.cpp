@@ -116,11 +116,11 @@ TEST_F(StripTest, PointsAreTestedFromEdgeToEdge) {
         int x, y, index;
         bool hit, atFront, atEnd;
     };
-    for (const Case& c : {Case{0, 0, 0, true, true, false}, Case{120, 116, 0, true, true, false},
+    for (const Case& c : {Case{0, 0, 0, true, true, false}, Case{120, StripHeight, 0, true, true, false},
                           Case{121, 50, 1, true, false, false}, Case{241, 50, 1, true, false, false},
                           Case{242, 50, 0, false, false, true}, Case{400, 50, 0, false, false, true},
                           Case{401, 50, 0, false, false, false}, Case{-1, 50, 0, false, false, false},
-                          Case{50, 117, 0, false, false, false}}) {
+                          Case{50, StripHeight + 1, 0, false, false, false}}) {
         const StripHit hit = HitTestStrip(document, c.x, c.y);
         EXPECT_EQ(hit.hit, c.hit) << c.x;
         EXPECT_EQ(hit.index, c.index) << c.x;

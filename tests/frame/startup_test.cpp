@@ -68,6 +68,39 @@ TEST_F(StartUp, ALaterStartLeavesTheSetUpFolderAlone) {
     EXPECT_TRUE(files.fileExists(setup + "\\a.cab"));
 }
 
+TEST_F(StartUp, TheLanguageFileFollowsTheShippedOneUntilItsUserChangesIt) {
+    const ProgramFolders installed{"\\home", "\\bin", "zandor", "\\share"};
+    const std::string own = "\\home\\Langues.lng", shipped = "\\share\\Langues.lng";
+    files.createFolder("\\home");
+    files.put(shipped, "first");
+    EXPECT_TRUE(prepareStart(frame, installed));
+    EXPECT_EQ(files.get(own), "first");
+    files.put(shipped, "second");
+    prepareStart(frame, installed);
+    EXPECT_EQ(files.get(own), "second");
+    files.put(own, "mine");
+    files.put(shipped, "third");
+    prepareStart(frame, installed);
+    EXPECT_EQ(files.get(own), "mine");
+    EXPECT_EQ(state.LanguagePath, own);
+    files.deleteFile(own);
+    files.failAt(1, true);
+    EXPECT_FALSE(prepareStart(frame, installed)) << "nothing can be read";
+    files.failAt(0);
+    files.deleteFile("\\home\\Shipped.ini");
+    prepareStart(frame, installed);
+    EXPECT_EQ(files.get(own), "third");
+}
+
+TEST_F(StartUp, WhatAnotherUserHasPutInTheSetUpFoldersPlaceStays) {
+    const std::string setup = GetTempFolder() + "\\QX_Setup";
+    files.put(setup + "\\a.cab", "x");
+    files.giveAway(setup);
+    load();
+    EXPECT_TRUE(files.fileExists(setup + "\\a.cab"));
+    EXPECT_EQ(setting("Inst"), "0");
+}
+
 TEST_F(StartUp, SettingsOfAnOlderReleaseGetTheNewKeys) {
     const struct {
         std::string_view line, thumbnails;

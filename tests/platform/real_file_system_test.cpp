@@ -125,6 +125,20 @@ TEST_F(RealDisk, OwnAndForeignChangesInTheSameMomentAreAllSeen) {
     }
 }
 
+TEST_F(RealDisk, OnlyAFolderThatThisUserMadeIsHisOwn) {
+    make("mine/file");
+    make("theirs/file");
+    disk::create_directory_symlink(native("mine"), native("link"));
+    EXPECT_TRUE(files->isOwnFolder(sim("Mine")));
+    EXPECT_FALSE(files->isOwnFolder(sim("link")));
+    EXPECT_FALSE(files->isOwnFolder(sim("mine/file")));
+    EXPECT_FALSE(files->isOwnFolder(sim("none")));
+    if (geteuid() == 0) { // who alone can give a folder away
+        ASSERT_EQ(chown(native("theirs").c_str(), 1, 1), 0);
+        EXPECT_FALSE(files->isOwnFolder(sim("theirs")));
+    }
+}
+
 TEST_F(RealDisk, RenamedFolderIsFoundUnderItsNewNameOnly) {
     make("top/Old/a.txt");
     EXPECT_EQ(read(sim("TOP/OLD/a.txt")), "x");

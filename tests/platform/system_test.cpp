@@ -80,6 +80,22 @@ TEST_F(SystemTest, ProgramFolderIsMade) {
     EXPECT_TRUE(disk::exists(folders.executable + "/" + folders.executableName));
 }
 
+TEST_F(SystemTest, AnInstalledProgramWritesToTheUsersDataOnly) {
+    set("ZANDOR_HOME", "");
+    set("XDG_DATA_HOME", root + "/data/");
+    disk::create_directories(root + "/usr/bin");
+    const ProgramFolders portable = findProgramFolders(root + "/usr/bin/zandor");
+    EXPECT_EQ(portable.program, root + "/usr/bin");
+    EXPECT_EQ(portable.shared, "");
+    EXPECT_EQ(executablePath(portable), root + "/usr/bin/zandor");
+
+    disk::create_directories(root + "/usr/share/zandor");
+    const ProgramFolders installed = findProgramFolders(root + "/usr/bin/zandor");
+    EXPECT_EQ(installed.program, root + "/data/zandor");
+    EXPECT_TRUE(disk::is_directory(installed.program));
+    EXPECT_EQ(installed.shared, root + "/usr/share/zandor");
+}
+
 TEST_F(SystemTest, TempFolderLosesOneSeparator) {
     const std::pair<const char*, const char*> cases[] = {
         {"/a/B/", "/a/B"}, {"/a", "/a"}, {"/", "/"}, {"", "/tmp"}};
@@ -97,17 +113,17 @@ TEST(ExpandLongPath, OnlyRelativePathsChange) {
     EXPECT_EQ(ExpandLongPath("x\\b.con"), here + "/x\\b.con");
 }
 
-TEST(ShippedFile, IsCopiedOnceAndNeverOver) {
+TEST(ShippedFile, IsTheUsersOwnElseTheOneThatCameWithTheProgram) {
     MemoryFileSystem files;
-    const ProgramFolders folders{"/home/me/zandor", "/usr/bin", "zandor"};
-    EXPECT_FALSE(provideShippedFile(files, folders, "Langues.lng"));
-    files.put("/usr/bin/Langues.lng", "shipped");
-    files.put("/home/me/zandor/other", "");
-    EXPECT_TRUE(provideShippedFile(files, folders, "Langues.lng"));
-    EXPECT_EQ(files.get("/home/me/zandor/Langues.lng"), "shipped");
-    files.put("/home/me/zandor/langues.lng", "my own");
-    EXPECT_TRUE(provideShippedFile(files, folders, "Langues.lng"));
-    EXPECT_EQ(files.get("/home/me/zandor/Langues.lng"), "my own");
+    const ProgramFolders folders{"/home/me/zandor", "/usr/bin", "zandor", "/usr/share/zandor"};
+    const auto found = [&] { return findShippedFile(files, folders, "Langues.lng"); };
+    EXPECT_EQ(found(), "");
+    for (const std::string folder : {"/usr/share/zandor", "/usr/bin", "/home/me/zandor"}) {
+        files.put(folder + "/langues.lng", "");
+        EXPECT_EQ(found(), folder + "\\Langues.lng");
+    }
+    files.put("/Langues.lng", "");
+    EXPECT_EQ(findShippedFile(files, {"/gone", "/gone", "zandor"}, "Langues.lng"), "");
 }
 
 } // namespace

@@ -1,14 +1,10 @@
-// Messages, progress and splash.
+// Progress, splash, and what the start is told.
 #include "app/launch_options.h"
 #include "frame/windows/qt_dialogs.h"
 #include "frame/windows/qt_progress.h"
 #include "frame/windows/splash.h"
-#include "support/fakes.h"
 
-#include <QApplication>
 #include <QElapsedTimer>
-#include <QMessageBox>
-#include <QPushButton>
 #include <QTest>
 #include <QTimer>
 
@@ -16,84 +12,6 @@
 
 namespace zandor {
 namespace {
-
-struct DialogTest : ::testing::Test {
-    TestFrame test;
-    QtDialogs dialogs{test.state, test.profiles};
-    QMessageBox::Icon icon{};
-    QString defaultButton;
-    QStringList captions;
-    bool closedByEscape = false;
-
-    // Shows a message and, once it is up, answers with the button of that name, or with Escape.
-    int show(int style, const char* button, const std::string& text = "text") {
-        QTimer::singleShot(20, qApp, [this, button] {
-            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-            ASSERT_TRUE(box);
-            EXPECT_EQ(box->objectName(), "frmAlert");
-            icon = box->icon();
-            defaultButton = box->defaultButton() ? box->defaultButton()->objectName() : QString();
-            captions.clear();
-            for (int i = 1; i <= 4; ++i)
-                if (auto* found = box->findChild<QPushButton*>(QString("Command%1").arg(i)))
-                    captions << found->text();
-            QTest::keyClick(box, Qt::Key_Escape);
-            closedByEscape = !box->isVisible();
-            if (auto* wanted = box->findChild<QPushButton*>(button); wanted && !closedByEscape)
-                wanted->click();
-        });
-        return dialogs.ShowMessage(text, style, "title");
-    }
-};
-
-TEST_F(DialogTest, StylesGiveTheirButtonsIconsAndAnswers) {
-    struct Case {
-        int style;
-        const char* button;
-        int answer;
-        int buttons;
-        QMessageBox::Icon icon;
-        bool escapes;
-        const char* defaultButton;
-    };
-    const Case cases[] = {
-        {style::Ok + style::Information, "Command1", answer::Ok, 1, QMessageBox::Information, true,
-         "Command1"},
-        {style::OkCancel, "Command1", answer::Cancel, 2, QMessageBox::NoIcon, true, "Command1"},
-        {style::AbortRetryIgnore + style::Stop, "Command3", answer::Ignore, 3, QMessageBox::Critical, false,
-         "Command1"},
-        {style::YesNoCancel + 512, "Command1", answer::Cancel, 3, QMessageBox::NoIcon, true, "Command3"},
-        {style::YesNo + style::Question, "Command1", answer::Yes, 2, QMessageBox::Question, false,
-         "Command1"},
-        {style::YesNo + style::Question + 256, "Command2", answer::No, 2, QMessageBox::Question, false,
-         "Command2"},
-        {style::RetryCancel + style::Exclamation, "Command1", answer::Cancel, 2, QMessageBox::Warning, true,
-         "Command1"},
-        {style::YesNo + 16384, "Command2", answer::No, 3, QMessageBox::NoIcon, false, "Command1"},
-    };
-    for (const Case& c : cases) {
-        EXPECT_EQ(show(c.style, c.button), c.answer) << c.style;
-        EXPECT_EQ(captions.size(), c.buttons) << c.style;
-        EXPECT_EQ(icon, c.icon) << c.style;
-        EXPECT_EQ(closedByEscape, c.escapes) << c.style;
-        EXPECT_EQ(defaultButton, c.defaultButton) << c.style;
-        EXPECT_EQ(test.state.LastAnswer, std::to_string(c.answer));
-        for (const QString& caption : captions)
-            EXPECT_TRUE(caption.contains(u'&')) << caption.toStdString();
-    }
-}
-
-TEST_F(DialogTest, AMessageWithALongPathStaysOnTheScreen) {
-    show(style::Ok, "Command1", std::string(900, 'x'));
-    int width = 0;
-    QTimer::singleShot(20, qApp, [&width] {
-        width = QApplication::activeModalWidget()->width();
-        QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape);
-    });
-    dialogs.ShowMessage(std::string(900, 'x'), style::Ok, "title");
-    EXPECT_GT(width, 0);
-    EXPECT_LT(width, 900);
-}
 
 TEST(FileDialogFilter, IsTurnedIntoTheToolkitsForm) {
     EXPECT_EQ(fileDialogFilter("Programmes (*.exe)|*.exe"), "Programmes (*.exe)");

@@ -1,8 +1,9 @@
 // What the strip looks like, point by point.
 #include "editor/windows/strip_painter.h"
+#include "windows/strip_picture.h"
 #include "windows/window_fixture.h"
 
-#include <QFontMetrics>
+#include <QBuffer>
 
 namespace zandor {
 namespace {
@@ -58,7 +59,17 @@ TEST_F(WindowTest, AHeldVehicleIsOutlinedAndItsPlaceMarked) {
     EXPECT_NE(pixel({1, 40}), Yellow);
 }
 
-TEST_F(WindowTest, MissingStockAndBadCouplingsShowInRed) {
+// Every opaque point of the mark stands in the picture.
+bool holdsMark(const QImage& picture, const QPoint& at, const QImage& mark) {
+    for (int y = 0; y < mark.height(); ++y)
+        for (int x = 0; x < mark.width(); ++x)
+            if (mark.pixelColor(x, y).alpha() == 255 &&
+                mark.pixelColor(x, y) != picture.pixelColor(at + QPoint(x, y)))
+                return false;
+    return true;
+}
+
+TEST_F(WindowTest, MissingStockAndBadCouplingsShow) {
     build({"BB 9288"});
     const RameItem gone{false, 5, false, "gone", "Cars", {}};
     document.PictureWidth = PlainPictureWidth;
@@ -66,33 +77,170 @@ TEST_F(WindowTest, MissingStockAndBadCouplingsShowInRed) {
     build({"Wagon plat", "CC 6500"}); // bar behind nothing known, chain behind bar
     window->refresh();
     const QImage picture = strip().grab().toImage();
-    EXPECT_TRUE(holdsRedText(picture, {PlainPictureWidth, 20, PlainPictureWidth, 18}));
-    EXPECT_FALSE(holdsRedText(picture, {0, 20, PlainPictureWidth, 18}));
-    const auto markAt = [&](int joint) { return picture.pixelColor(joint * PlainPictureWidth - 5, 9); };
-    EXPECT_EQ(markAt(2), Sky); // an unknown coupling fits everything
-    EXPECT_EQ(markAt(3), QColor(208, 24, 24));
+    EXPECT_TRUE(holdsRedText(picture, {PlainPictureWidth, 17, PlainPictureWidth, 15}));
+    const auto holds = [&](int joint, CouplingMark kind, int top) {
+        const QImage mark = strip().pictures().mark(kind, 1).toImage();
+        return holdsMark(picture, {joint * PlainPictureWidth - mark.width() / 2, top}, mark);
+    };
+    EXPECT_TRUE(holds(2, CouplingMark::Bar, 51)); // an unknown coupling fits everything
+    EXPECT_FALSE(holds(2, CouplingMark::NotCompatible, 0));
+    EXPECT_TRUE(holds(3, CouplingMark::NotCompatible, 0));
 }
 
-TEST_F(WindowTest, NamesAreCutToTheirVehicle) {
-    const QFontMetrics metrics(strip().font());
-    EXPECT_EQ(fittingName("BB", metrics, PlainPictureWidth), "BB");
-    const QString longName(400, u'W');
-    const QString cut = fittingName(longName, metrics, PlainPictureWidth);
-    EXPECT_LE(metrics.horizontalAdvance(cut), PlainPictureWidth - 20);
-    EXPECT_GT(metrics.horizontalAdvance(cut + u'W'), PlainPictureWidth - 20);
-    EXPECT_EQ(fittingName(longName, metrics, 21), "");
-    EXPECT_EQ(fittingName(longName, metrics, 5), "");
+TEST_F(WindowTest, AFlippedVehicleIsMirroredUnderAGreenArrow) {
+    build({"BB 9288", "BB 9288"});
+    QTest::mouseClick(&strip(), Qt::RightButton, {}, onVehicle(1));
+    const QImage picture = strip().grab().toImage();
+    const int x = 2 * PlainPictureWidth - 20;
+    for (const QPoint& point :
+         {QPoint(x, 8), QPoint(x, 14), QPoint(x + 4, 11), QPoint(x - 22, 10), QPoint(x + 2, 11)})
+        EXPECT_EQ(picture.pixelColor(point), QColor(0, 255, 0)) << point.x() << " " << point.y();
+    EXPECT_NE(picture.pixelColor(x - PlainPictureWidth, 8), QColor(0, 255, 0));
+    const auto part = [&](int vehicle) {
+        return picture.copy(vehicle * PlainPictureWidth, 26, PlainPictureWidth, 12);
+    };
+    EXPECT_EQ(part(1), part(0).mirrored(true, false));
 }
 
-TEST_F(WindowTest, TheLongestStripShowsItsNumbersFromEndToEnd) {
+TEST_F(WindowTest, ScrollingAndTheTimerOnlyCopy) {
+    build({"BB 9288", "CC 6500", "BB 67400", "Voiture Corail", "Wagon plat", "BB 9288", "CC 6500", "BB 67400",
+           "BB 9288", "CC 6500"});
+    get<QScrollBar>("HScrollRAME").setValue(0);
+    const QImage before = strip().grab().toImage();
+    const qint64 drawn = strip().imgRAME().cacheKey();
+    get<QScrollBar>("HScrollRAME").setValue(57);
+    const QImage after = strip().grab().toImage();
+    EXPECT_NE(after, before);
+    EXPECT_EQ(after.copy(0, 0, before.width() - 57, before.height()),
+              before.copy(57, 0, before.width() - 57, before.height()));
+    QTest::qWait(1);
+    strip().grab();
+    EXPECT_EQ(strip().imgRAME().cacheKey(), drawn);
+    appendStock(editor, stockIndex("CC 6500"));
+    window->refresh();
+    strip().grab();
+    EXPECT_NE(strip().imgRAME().cacheKey(), drawn);
+}
+
+TEST_F(WindowTest, ANewConsistIsShownEmpty) {
+    build({"BB 9288"});
+    EXPECT_NE(pixel({60, 50}), Sky);
+    newConsist(editor);
+    window->refresh();
+    EXPECT_EQ(pixel({60, 50}), Sky);
+    EXPECT_EQ(pixel({60, StripHeight - 22}), Sky);
+}
+
+TEST_F(WindowTest, TheLongestStripIsDrawnAsFarAsItsPictureReaches) {
     build({"BB 9288"});
     document.Vehicules.assign(MaxEntries, document.Vehicules[0]);
     document.StripWidth = MaxEntries * PlainPictureWidth;
-    document.controls.scrollMaximum = document.StripWidth;
-    for (const int at : {0, document.StripWidth / 2, document.StripWidth - 900}) {
+    updateStrip(editor);
+    const int end = document.controls.scrollMaximum;
+    EXPECT_EQ(strip().width() + end, 134 * PlainPictureWidth + 150);
+    for (const int at : {0, end / 2, end}) {
         document.controls.scrollValue = at;
         EXPECT_TRUE(holdsRedText(strip().grab().toImage(), {0, 0, 300, 20})) << "the numbers are there";
     }
+}
+
+struct PictureTest : ::testing::Test {
+    MemoryFileSystem files;
+    PictureStore pictures{files};
+
+    static std::string bitmap(const QImage& image) {
+        QByteArray bytes;
+        QBuffer buffer(&bytes);
+        image.convertToFormat(QImage::Format_Indexed8).save(&buffer, "BMP");
+        return bytes.toStdString();
+    }
+    static QImage plain(int width, QRgb colour) {
+        QImage image(width, PlainPictureHeight, QImage::Format_RGB32);
+        image.fill(colour);
+        return image;
+    }
+    // Red on the left, blue on the right.
+    static QImage halves() {
+        QImage image = plain(40, qRgb(255, 0, 0));
+        for (int y = 0; y < image.height(); ++y)
+            for (int x = 20; x < 40; ++x)
+                image.setPixel(x, y, qRgb(0, 0, 255));
+        return image;
+    }
+};
+
+TEST_F(PictureTest, AFileIsReadAgainOnlyWhenItHasChanged) {
+    const PictureName name{false, "C:\\p.bmp"};
+    EXPECT_EQ(pictures.size(name), std::nullopt);
+    files.put(name.name, bitmap(plain(40, qRgb(255, 0, 0))));
+    EXPECT_EQ(pictures.size(name), std::nullopt) << "asked once in a redraw";
+    pictures.beginRedraw();
+    EXPECT_EQ(pictures.size(name), (PictureSize{40, 96}));
+    const qint64 kept = pictures.scaled(name, {40, 96}, true).cacheKey();
+    pictures.beginRedraw();
+    EXPECT_EQ(pictures.scaled(name, {40, 96}, true).cacheKey(), kept);
+    files.put(name.name, bitmap(plain(50, qRgb(0, 255, 0))));
+    pictures.beginRedraw();
+    EXPECT_EQ(pictures.image(name).pixelColor(3, 3), QColor(0, 255, 0));
+    EXPECT_EQ(pictures.scaled(name, {50, 96}, false).toImage().pixelColor(49, 3), QColor(0, 255, 0));
+    files.deleteFile(name.name);
+    pictures.beginRedraw();
+    EXPECT_EQ(pictures.size(name), std::nullopt);
+}
+
+TEST_F(PictureTest, WhatIsNoPictureShowsNothing) {
+    const std::string whole = bitmap(plain(40, 0));
+    for (const std::string& bytes :
+         {std::string(), std::string("BM"), std::string(5000, 'x'), whole.substr(0, 60)}) {
+        files.put("C:\\p.bmp", bytes);
+        pictures.beginRedraw();
+        const PictureName name{false, "C:\\p.bmp"};
+        if (const auto size = pictures.size(name)) // a cut file may still have a part to show
+            EXPECT_EQ(*size, (PictureSize{40, 96}));
+        else
+            EXPECT_TRUE(pictures.scaled(name, {40, 96}, false).isNull());
+    }
+    EXPECT_EQ(pictures.size({true, "GP38"}), std::nullopt);
+}
+
+TEST_F(PictureTest, TheStripIsSharpAtEveryScale) {
+    files.put("C:\\p.bmp", bitmap(halves()));
+    const PictureName name{false, "C:\\p.bmp"};
+    const QColor red(255, 0, 0), blue(0, 0, 255), green(0, 255, 0);
+    const std::vector<StripStep> steps = {SizeStrip{100},
+                                          TakeBackColour{name},
+                                          CopyPicture{name, {0, 0, 40, 96}, false},
+                                          CopyPicture{name, {40, 0, 40, 96}, true},
+                                          FillBar{{10, 10, 5, 2}, {0, 255, 0}},
+                                          DrawLine{20, 30, 20, 35, {0, 255, 0}}};
+    for (const double ratio : {1.0, 1.5, 2.0, 3.0}) {
+        const QImage picture = withoutLetters(steps, pictures, ratio);
+        const auto at = [&](double x, double y) {
+            return picture.pixelColor(int(x * ratio), int(y * ratio));
+        };
+        EXPECT_EQ(picture.size(), QSize(qRound(100 * ratio), qRound(StripHeight * ratio)));
+        EXPECT_EQ(at(90, 3), red) << "the background is that of the picture's corner";
+        EXPECT_EQ(at(3, 50), red);
+        EXPECT_EQ(at(36, 50), blue);
+        EXPECT_EQ(at(43, 50), blue);
+        EXPECT_EQ(at(76, 50), red);
+        EXPECT_EQ(at(39.8, 50), blue) << "no seam between neighbours at " << ratio;
+        EXPECT_EQ(at(40.2, 50), blue);
+        EXPECT_EQ(at(12, 11), green);
+        EXPECT_EQ(at(12, 9), red);
+        EXPECT_EQ(at(20.5, 32), green);
+        EXPECT_EQ(at(22.5, 32), blue);
+    }
+}
+
+TEST(DemoStripTest, AConsistOfTheDemonstrationIsDrawnWhole) {
+    DemoStrip demo;
+    const QImage picture = demo.picture("orme_ore_down.con");
+    ASSERT_GT(demo.document().StripWidth, 0);
+    EXPECT_EQ(picture.size(), QSize(demo.document().StripWidth + 150, StripHeight));
+    for (const Vehicule& vehicule : demo.document().Vehicules)
+        EXPECT_EQ(vehicule.DrawnWidth, vehicule.Width) << vehicule.Name;
+    EXPECT_EQ(picture, demo.picture("orme_ore_down.con"));
 }
 
 TEST_F(WindowTest, TenThousandRowsAreListed) {

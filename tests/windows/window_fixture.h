@@ -10,6 +10,7 @@
 #include "text/decode.h"
 
 #include <QComboBox>
+#include <QDialog>
 #include <QDropEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -18,9 +19,11 @@
 #include <QScrollBar>
 #include <QSlider>
 #include <QTest>
+#include <QTimer>
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -158,6 +161,19 @@ struct WindowTest : ::testing::Test {
         QDropEvent event(at, Qt::CopyAction, &data, Qt::LeftButton, {});
         QApplication::sendEvent(&strip(), &event);
         QTest::qWait(5); // the drop waits for the end of the system's drag
+    }
+    // What the next dialog that lists the consists gets to do, once they are listed.
+    void answerOpen(std::function<void(QDialog&)> act) {
+        auto* waiting = new QTimer(window.get());
+        QObject::connect(waiting, &QTimer::timeout, window.get(), [waiting, act = std::move(act)] {
+            auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+            if (!dialog || !dialog->findChild<QPushButton*>("cmdOPEN")->isEnabled())
+                return;
+            waiting->deleteLater();
+            waiting->stop();
+            act(*dialog);
+        });
+        waiting->start(20);
     }
     QString keyOf(std::string_view name) { return QString("KEY_%1").arg(stockIndex(name)); }
 

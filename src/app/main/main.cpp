@@ -6,6 +6,7 @@
 int main(int argc, char** argv) {
     QApplication qt(argc, argv);
     QApplication::setApplicationName("Zandor");
+    QGuiApplication::setDesktopFileName("zandor"); // under which a desktop knows its icon
     zandor::applyTheme(qt);
     zandor::Application application(zandor::parseLaunchOptions(qt.arguments().mid(1)));
     return application.run();

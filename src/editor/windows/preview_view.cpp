@@ -1,10 +1,9 @@
 #include "editor/windows/preview_view.h"
 
-#include "editor/windows/vehicle_art.h"
+#include "editor/windows/picture_store.h"
 #include "frame/windows/theme.h"
 
 #include <QPainter>
-#include <QPainterPath>
 
 #include <algorithm>
 
@@ -14,29 +13,29 @@ PreviewView::PreviewView(QWidget* parent) : QWidget(parent) {
     setObjectName("picPREVIEW");
 }
 
-void PreviewView::showClass(int stockClass) {
-    stockClass_ = stockClass;
+void PreviewView::show(PictureStore& pictures, const PictureRef& picture) {
+    pictures.beginRedraw(); // the file may have changed
+    picture_ =
+        picture.found() ? pictures.image({picture.kind == PictureRef::Resource, picture.name}) : QImage();
     update();
 }
 
 void PreviewView::clear() {
-    stockClass_.reset();
+    picture_ = {};
     update();
 }
 
+// The background goes on in the picture's own, so that a narrow one doesn't stand in a box.
 void PreviewView::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    QPainterPath frame;
-    frame.addRoundedRect(rect(), 6, 6);
-    painter.setClipPath(frame);
-    painter.fillRect(rect(), theme::Sky);
-    if (!stockClass_)
+    painter.fillRect(rect(), picture_.isNull() ? theme::Sky : picture_.pixelColor(0, 0));
+    if (picture_.isNull())
         return;
-    const double scale = std::min(double(height()) / ArtHeight, double(width()) / ArtWidth);
-    const QSizeF size(ArtWidth * scale, ArtHeight * scale);
-    const QPointF corner((width() - size.width()) / 2, (height() - size.height()) / 2);
-    paintVehicleArt(painter, QRectF(corner, size), *stockClass_, false);
+    const double scale = std::min(double(height()) / picture_.height(), double(width()) / picture_.width());
+    const QSizeF size = QSizeF(picture_.size()) * scale;
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.drawImage(QRectF(QPointF((width() - size.width()) / 2, (height() - size.height()) / 2), size),
+                      picture_);
 }
 
 } // namespace zandor

@@ -1,27 +1,30 @@
-// picPREVIEW: the selected stock, as large as the place allows.
+// picPREVIEW: the picture of the selected stock at the height of the place, in the middle of its width.
 #pragma once
 
+#include "catalogue/pictures.h"
+
+#include <QImage>
 #include <QWidget>
 
-#include <optional>
-
 namespace zandor {
+
+class PictureStore;
 
 class PreviewView final : public QWidget {
     Q_OBJECT
   public:
     explicit PreviewView(QWidget* parent);
-    void showClass(int stockClass);
+    void show(PictureStore& pictures, const PictureRef& picture);
     void clear();
-    std::optional<int> shownClass() const { return stockClass_; }
-    QSize sizeHint() const override { return {190, 132}; }
+    bool isEmpty() const { return picture_.isNull(); }
+    QSize sizeHint() const override { return {260, 132}; }
     QSize minimumSizeHint() const override { return {110, 90}; }
 
   protected:
     void paintEvent(QPaintEvent*) override;
 
   private:
-    std::optional<int> stockClass_; // -1: of no class
+    QImage picture_;
 };
 
 } // namespace zandor

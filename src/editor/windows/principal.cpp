@@ -3,20 +3,31 @@
 #include "catalogue/stock_list.h"
 #include "editor/consist_io.h"
 #include "editor/coupling.h"
+#include "editor/strip_selection.h"
 #include "editor/windows/elided_label.h"
+#include "editor/windows/open_window.h"
+#include "editor/windows/picture_store.h"
 #include "editor/windows/preview_view.h"
 #include "editor/windows/stock_view.h"
+#include "editor/windows/strip_actions.h"
 #include "editor/windows/strip_view.h"
-#include "editor/windows/vehicle_art.h"
 #include "frame/startup.h"
+#include "frame/window_place.h"
+#include "frame/windows/about.h"
+#include "frame/windows/art.h"
 #include "frame/windows/cursors.h"
+#include "frame/windows/loading.h"
 #include "frame/windows/qt_text.h"
+#include "frame/windows/settings_colour.h"
 
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QMenu>
+#include <QMimeData>
+#include <QMouseEvent>
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollBar>
@@ -24,6 +35,8 @@
 #include <QSignalBlocker>
 #include <QSlider>
 #include <QTimer>
+#include <QToolButton>
+#include <QUrl>
 
 #include <algorithm>
 #include <utility>
@@ -34,15 +47,6 @@ namespace {
 
 constexpr QSize DefaultSize{1024, 700};
 constexpr int RepaintEvery = 1000; // ms: Timer1
-
-// A colour of the settings: a decimal number with blue in the high byte. Invalid when the text is empty.
-QColor settingsColour(const Frame& frame, std::string_view key) {
-    const std::string text = frame.profiles.ReadIniValue(GeneralSection, key, frame.state.IniPath);
-    if (text.empty())
-        return {};
-    const int value = static_cast<int>(numericValue(text));
-    return QColor(value & 255, (value >> 8) & 255, (value >> 16) & 255);
-}
 
 // The steps of the scroll bar: a part of its range, and never nothing.
 int scrollStep(int maximum, int parts) {
@@ -55,9 +59,14 @@ const Materiel* materielOfKey(const Catalogue& catalogue, const QString& key) {
     return known ? &catalogue.Materiels[index] : nullptr;
 }
 
-// Steam engines and carriages show no coupling in the list.
-constexpr bool listsCouplings(int classIndex) {
-    return classIndex != 2 && classIndex != 3;
+constexpr std::string_view PlaceSection = "Window", PlacePrefix = "Main"; // in the settings
+
+// The first consist file among what is dragged; empty when there is none.
+QString draggedConsist(const QMimeData* data) {
+    for (const QUrl& url : data->urls())
+        if (const QString path = url.toLocalFile(); path.endsWith(".con", Qt::CaseInsensitive))
+            return path;
+    return {};
 }
 
 void setIfDifferent(QLineEdit& edit, const std::string& text) {
@@ -74,16 +83,19 @@ frmPrincipal::frmPrincipal(Editor& editor) : editor_(editor) {
     setObjectName("frmPrincipal");
     setWindowTitle(toQt(editor.frame.state.Title));
     controls_ = buildPrincipal(*this, editor);
+    actions_ = new StripActions(*this, *controls_.PicRAME);
+    languages_ = new QMenu(this);
+    languages_->setObjectName("mnuLANGUAGE");
+    setAcceptDrops(true);
     applyLanguage();
+    fillStockList();
     connectButtons();
     connectInputs();
     connectStock();
     connectStrip();
+    connectActions();
     addShortcuts();
-
-    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
-    resize(DefaultSize.boundedTo(screen.size()));
-    move(screen.center() - rect().center());
+    takePlace();
     controls_.lstViewMATERIEL->setFocus();
     refresh();
 }
@@ -93,6 +105,7 @@ void frmPrincipal::connectButtons() {
     connect(c.cmdNEW, &QPushButton::clicked, this, &frmPrincipal::newPressed);
     connect(c.cmdOPEN, &QPushButton::clicked, this, &frmPrincipal::openPressed);
     connect(c.cmdSAVE, &QPushButton::clicked, this, &frmPrincipal::savePressed);
+    connect(c.cmdHELP, &QPushButton::clicked, this, &frmPrincipal::helpAsked);
     connect(c.cmdPROPOS, &QPushButton::clicked, this, &frmPrincipal::aboutPressed);
     connect(c.cmdCANCEL, &QPushButton::clicked, this, &QWidget::close);
     connect(c.cmdNUMEROTATION, &QPushButton::clicked, this, [this] {
@@ -124,8 +137,24 @@ void frmPrincipal::connectStock() {
     connect(c.lstViewMATERIEL, &StockView::currentKeyChanged, this, &frmPrincipal::showStockInfo);
     connect(c.lstViewMATERIEL, &StockView::chosen, this, &frmPrincipal::appendFromList);
     connect(c.lstViewMATERIEL, &StockView::dragEnded, this, &frmPrincipal::finishStockDrag);
-    c.lstViewMATERIEL->setDragPicture(
-        [this] { return dragPixmap(controls_.cmbMATERIEL->currentIndex(), devicePixelRatioF()); });
+    c.lstViewMATERIEL->stock()->setDescriber(
+        [this](const QString& key, StockModel::Column column) { return describeStock(key, column); });
+    c.lstViewMATERIEL->setDragPicture([this] { return carriedPicture(); });
+}
+
+// What goes with the pointer: half the size, so that the strip is seen beside it.
+QPixmap frmPrincipal::carriedPicture() {
+    const PictureRef picture =
+        ShowMaterielInfo(editor_, indexOfKey(fromQt(controls_.lstViewMATERIEL->currentKey()))).picture;
+    if (!picture.found())
+        return {};
+    const double ratio = devicePixelRatioF();
+    QPixmap carried = QPixmap::fromImage(
+        controls_.PicRAME->pictures()
+            .image({picture.kind == PictureRef::Resource, picture.name})
+            .scaledToHeight(static_cast<int>(PlainPictureHeight * ratio / 2), Qt::SmoothTransformation));
+    carried.setDevicePixelRatio(ratio);
+    return carried;
 }
 
 void frmPrincipal::connectStrip() {
@@ -154,6 +183,44 @@ void frmPrincipal::connectStrip() {
     c.Timer1->start(RepaintEvery);
 }
 
+void frmPrincipal::connectActions() {
+    const auto& c = controls_;
+    connect(actions_, &StripActions::triggered, this, &frmPrincipal::actionTriggered);
+    c.cmdVEHICLE->setMenu(actions_->stripMenu());
+    c.PicRAME->installEventFilter(this);
+    c.lstViewMATERIEL->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(c.lstViewMATERIEL, &QWidget::customContextMenuRequested, this, [this](const QPoint& at) {
+        if (!controls_.lstViewMATERIEL->currentKey().isEmpty())
+            actions_->stockMenu()->popup(controls_.lstViewMATERIEL->viewport()->mapToGlobal(at));
+    });
+    c.cmdOptions->setMenu(languages_);
+    connect(languages_, &QMenu::triggered, this,
+            [this](const QAction* chosen) { chooseLanguage(fromQt(chosen->text())); });
+}
+
+// The place of the last run, held within the screens that there are now.
+void frmPrincipal::takePlace() {
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    resize(DefaultSize.boundedTo(screen.size()));
+    move(screen.center() - rect().center());
+    const auto place = readWindowPlace(editor_.frame, PlaceSection, PlacePrefix);
+    if (!place)
+        return;
+    const QRect kept(place->left, place->top, place->width, place->height);
+    if (const QScreen* shown = QGuiApplication::screenAt(kept.center())) {
+        resize(kept.size().boundedTo(shown->availableGeometry().size()));
+        move(kept.topLeft());
+    }
+    if (place->maximised)
+        setWindowState(windowState() | Qt::WindowMaximized);
+}
+
+void frmPrincipal::keepPlace() const {
+    const QRect own = isMaximized() ? normalGeometry() : QRect(pos(), size());
+    writeWindowPlace(editor_.frame, PlaceSection, PlacePrefix,
+                     {own.left(), own.top(), own.width(), own.height(), isMaximized()});
+}
+
 void frmPrincipal::addShortcuts() {
     struct Row {
         QKeySequence::StandardKey key;
@@ -167,15 +234,33 @@ void frmPrincipal::addShortcuts() {
 
 void frmPrincipal::applyLanguage() {
     captionPrincipal(controls_, editor_.frame);
+    actions_->caption(editor_.frame);
+    captionLanguages();
     updateResistance(editor_);
     ShowTotals(editor_);
-    fillStockList();
+    controls_.PicRAME->DrawStrip(); // a Missing vehicle bears a word
+    showStockInfo(controls_.lstViewMATERIEL->currentKey());
     refresh();
 }
 
+void frmPrincipal::captionLanguages() {
+    languages_->clear();
+    for (const LanguageChoice& choice : editor_.frame.language.ListLanguages()) {
+        QAction* entry = languages_->addAction(flagIcon(choice.image), toQt(choice.name));
+        entry->setCheckable(true);
+        entry->setChecked(choice.name == editor_.frame.state.Language);
+    }
+}
+
+void frmPrincipal::chooseLanguage(const std::string& name) {
+    editor_.frame.state.Language = name;
+    applyLanguage();
+    emit languageChosen();
+}
+
 void frmPrincipal::applyListColours() {
-    controls_.lstViewMATERIEL->setColours(settingsColour(editor_.frame, "Color7"),
-                                          settingsColour(editor_.frame, "Color8"));
+    controls_.lstViewMATERIEL->setColours(readColour(editor_.frame, "Color7"),
+                                          readColour(editor_.frame, "Color8"));
 }
 
 // ---- commands
@@ -193,23 +278,26 @@ void frmPrincipal::openPressed() {
     refresh();
     if (!goOn)
         return;
-    const std::string filter = frame.text(Message::ConsistFilter) + "|*.con";
-    const auto path = frame.dialogs.askOpenFile(fromQt(controls_.cmdOPEN->text().remove(u'&')), filter,
-                                                consistsPath(frame.state.RootPrimary), {});
-    if (path)
-        openFile(*path);
+    frmOpen(
+        frame, editor_.catalogue, [this](const std::string& path) { return openFile(path); }, this)
+        .exec();
 }
 
-void frmPrincipal::openFile(const std::string& path) {
+bool frmPrincipal::openFile(const std::string& path) {
     const BusyPointer busy;
+    const frmLoading loading(toQt(editor_.frame.text(Message::OpeningConsist, {{"|1", GetFileName(path)}})),
+                             this);
     const std::size_t known = editor_.catalogue.Materiels.size();
-    openConsist(editor_, path);
+    const bool opened = openConsist(editor_, path);
+    if (opened)
+        selectVehicule(editor_.document, 0);
     if (editor_.catalogue.Materiels.size() != known) { // stock that came since the load
         const QString key = controls_.lstViewMATERIEL->currentKey();
         fillStockList();
         controls_.lstViewMATERIEL->selectKey(key);
     }
     refresh();
+    return opened;
 }
 
 void frmPrincipal::savePressed() {
@@ -219,16 +307,69 @@ void frmPrincipal::savePressed() {
 }
 
 void frmPrincipal::aboutPressed() {
-    Frame& frame = editor_.frame;
-    frame.show(frame.text(Message::AboutText, {{"|1", frame.state.Title}, {"|2", "\n"}}), style::Information);
+    frmAbout(editor_.frame, this).exec();
 }
 
 void frmPrincipal::closeEvent(QCloseEvent* event) {
+    emit closeAsked();
     if (closeEditor(editor_)) {
+        keepPlace();
         event->accept();
         return;
     }
     event->ignore();
+    refresh();
+}
+
+void frmPrincipal::dragEnterEvent(QDragEnterEvent* event) {
+    if (!draggedConsist(event->mimeData()).isEmpty())
+        event->acceptProposedAction();
+}
+
+// The system's drag ends first: a question must not stand in the middle of it.
+void frmPrincipal::dropEvent(QDropEvent* event) {
+    event->acceptProposedAction();
+    QTimer::singleShot(0, this,
+                       [this, path = pathFromQt(draggedConsist(event->mimeData()))] { offerFile(path); });
+}
+
+void frmPrincipal::offerFile(const std::string& path) {
+    if (offerToSave(editor_))
+        openFile(path);
+    updateUnusedStock();
+    refresh();
+}
+
+// ---- the selected vehicle
+
+void frmPrincipal::actionTriggered(int id) {
+    const QString key = controls_.lstViewMATERIEL->currentKey();
+    const int stock = indexOfKey(fromQt(key));
+    switch (id) {
+    case StripActions::InsertEnd:
+        return appendFromList(key);
+    case StripActions::InsertBefore:
+        if (materielOfKey(editor_.catalogue, key))
+            insertBeforeSelected(editor_, stock);
+        break;
+    case StripActions::MoveLeft:
+    case StripActions::MoveRight:
+        moveSelected(editor_, id == StripActions::MoveLeft ? -1 : 1);
+        break;
+    case StripActions::Flip:
+        flipSelected(editor_);
+        break;
+    case StripActions::Remove:
+        removeSelected(editor_);
+        break;
+    case StripActions::FindInList:
+        if (const auto found = lookUpSelected(editor_.document))
+            lookUp(*found);
+        break;
+    case StripActions::Renumber:
+        numberButtonPressed(editor_);
+        break;
+    }
     refresh();
 }
 
@@ -238,9 +379,25 @@ void frmPrincipal::fillStockList() {
     const BusyPointer busy;
     const int chosen = controls_.cmbMATERIEL->currentIndex();
     StockView& list = *controls_.lstViewMATERIEL;
-    list.stock()->setRows(editor_.frame, FillStockList(editor_.frame.state, editor_.catalogue, chosen, false),
-                          listsCouplings(chosen));
+    list.stock()->setRows(FillStockList(editor_.frame.state, editor_.catalogue, chosen, false));
     list.selectFirst();
+    refreshActions();
+}
+
+QString frmPrincipal::describeStock(const QString& key, int column) const {
+    const Frame& frame = editor_.frame;
+    const Materiel* materiel = materielOfKey(editor_.catalogue, key);
+    if (!materiel)
+        return {};
+    if (column != StockModel::NameColumn) {
+        const MaterielInfo info = ShowMaterielInfo(frame, *materiel);
+        return toQt(column == StockModel::BrakeColumn ? info.brakes : info.coupling);
+    }
+    QStringList lines{toQt(shownName(*materiel)),
+                      toQt(frame.text(materiel->CabView.empty() ? Message::TipNoCab : Message::TipCab))};
+    if (isShownUnused(frame.state, editor_.catalogue, materiel->Folder, materiel->FileName))
+        lines.append(toQt(frame.text(Message::TipUnusedStock)));
+    return lines.join(u'\n');
 }
 
 void frmPrincipal::updateUnusedStock() {
@@ -264,11 +421,8 @@ void frmPrincipal::finishStockDrag() {
 }
 
 void frmPrincipal::showStockInfo(const QString& key) {
-    const Materiel* materiel = materielOfKey(editor_.catalogue, key);
-    if (!materiel)
-        return;
-    showInfo(ShowMaterielInfo(editor_.frame, *materiel));
-    controls_.picPREVIEW->showClass(stockClassOf(*materiel));
+    if (materielOfKey(editor_.catalogue, key))
+        showInfo(ShowMaterielInfo(editor_, indexOfKey(fromQt(key))));
 }
 
 void frmPrincipal::showInfo(const MaterielInfo& info) {
@@ -279,6 +433,7 @@ void frmPrincipal::showInfo(const MaterielInfo& info) {
     c.lblATTELAGE->setText(toQt(info.coupling));
     c.lblLONGUEUR->setText(toQt(info.length));
     c.lblPOIDS->setText(toQt(info.mass));
+    c.picPREVIEW->show(c.PicRAME->pictures(), info.picture);
 }
 
 void frmPrincipal::lookUp(int materielIndex) {
@@ -315,8 +470,19 @@ void frmPrincipal::refresh() {
     c.lblLongueurNewRame->setText(toQt(shown.totals));
     c.cmdSAVE->setEnabled(shown.saveEnabled);
     c.cmdNUMEROTATION->setEnabled(shown.numberEnabled);
+    c.lblSTATUS->setText(toQt(hasVehicles(editor_.document) ? describeSelected(editor_) : std::string()));
+    refreshActions();
     refreshScrollBar();
     c.PicRAME->update();
+}
+
+void frmPrincipal::refreshActions() {
+    const ConsistDocument& document = editor_.document;
+    const bool selected = hasSelection(document);
+    actions_->enable(!controls_.lstViewMATERIEL->currentKey().isEmpty(), selected,
+                     selected && document.Vehicules[static_cast<std::size_t>(document.selected)].Missing,
+                     hasVehicles(document));
+    controls_.cmdVEHICLE->setEnabled(hasVehicles(document));
 }
 
 void frmPrincipal::refreshNames() {
@@ -356,7 +522,28 @@ void frmPrincipal::changeEvent(QEvent* event) {
     QWidget::changeEvent(event);
 }
 
+// A right click turns a vehicle round; the menu comes by the keyboard, or by a right click with Ctrl.
+bool frmPrincipal::filterStrip(QEvent* event) {
+    const bool withControl = QGuiApplication::keyboardModifiers() & Qt::ControlModifier;
+    if (event->type() == QEvent::ContextMenu) {
+        const auto* asked = static_cast<QContextMenuEvent*>(event);
+        if (withControl) {
+            const StripHit hit = HitTestStrip(editor_.document, asked->x(), asked->y());
+            if (hit.hit)
+                selectVehicule(editor_.document, hit.index);
+            refresh();
+        }
+        if (withControl || asked->reason() == QContextMenuEvent::Keyboard)
+            actions_->stripMenu()->popup(asked->globalPos());
+        return true;
+    }
+    return withControl && event->type() == QEvent::MouseButtonRelease &&
+           static_cast<QMouseEvent*>(event)->button() == Qt::RightButton;
+}
+
 bool frmPrincipal::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == controls_.PicRAME && filterStrip(event))
+        return true;
     if (watched == controls_.tbNAME && event->type() == QEvent::KeyPress) {
         // Backspace, Tab and the shortcuts come as control characters; they are no text.
         const QString typed = static_cast<QKeyEvent*>(event)->text();

@@ -7,9 +7,12 @@
 
 #include <optional>
 
+class QMenu;
+
 namespace zandor {
 
 struct MaterielInfo;
+class StripActions;
 
 class frmPrincipal final : public QWidget {
     Q_OBJECT
@@ -19,11 +22,23 @@ class frmPrincipal final : public QWidget {
     void applyLanguage();
     void applyListColours(); // Color7 and Color8 of the settings
     void fillStockList();    // the class chosen in cmbMATERIEL
-    void openFile(const std::string& path);
+    // False: it can't be opened, and the user was told.
+    bool openFile(const std::string& path);
     // Every control as the document stands.
     void refresh();
 
+    // A consist from outside: the question about unsaved changes comes first.
+    void offerFile(const std::string& path);
+    void chooseLanguage(const std::string& name);
+
+  signals:
+    void helpAsked();
+    void languageChosen();
+    void closeAsked();
+
   protected:
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void changeEvent(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -33,7 +48,14 @@ class frmPrincipal final : public QWidget {
     void connectInputs();
     void connectStock();
     void connectStrip();
+    void connectActions();
     void addShortcuts();
+    void takePlace();
+    void keepPlace() const;
+    void captionLanguages();
+    void actionTriggered(int id);
+    void refreshActions();
+    bool filterStrip(QEvent* event);
 
     void newPressed();
     void openPressed();
@@ -42,16 +64,20 @@ class frmPrincipal final : public QWidget {
 
     void appendFromList(const QString& key);
     void finishStockDrag();
+    QPixmap carriedPicture();
     void showStockInfo(const QString& key);
     void showInfo(const MaterielInfo& info);
     void lookUp(int materielIndex);
     void stripResized();
     void refreshNames();
     void refreshScrollBar();
+    QString describeStock(const QString& key, int column) const;
     void updateUnusedStock();
 
     Editor& editor_;
     PrincipalControls controls_;
+    StripActions* actions_ = nullptr;
+    QMenu* languages_ = nullptr;
     std::optional<int> droppedStock_; // a drop whose drag hasn't ended yet
 };
 

@@ -5,7 +5,9 @@
 #include "editor/windows/preview_view.h"
 #include "editor/windows/stock_view.h"
 #include "editor/windows/strip_view.h"
+#include "frame/windows/art.h"
 #include "frame/windows/qt_text.h"
+#include "frame/windows/theme.h"
 
 #include <QBoxLayout>
 #include <QComboBox>
@@ -17,6 +19,7 @@
 #include <QSignalBlocker>
 #include <QSlider>
 #include <QTimer>
+#include <QToolButton>
 
 #include <algorithm>
 
@@ -26,16 +29,16 @@ namespace {
 
 constexpr int Gap = 10; // pixels between cards
 constexpr int DurabilityRange = 1000;
-constexpr int ShortNameLength = 200; // with ".con" a file name of any disk
 
 template <class Widget> Widget* named(Widget* widget, const char* name) {
     widget->setObjectName(name);
     return widget;
 }
 
+// A pane of the window.
 QFrame* card(QWidget* parent) {
     auto* frame = new QFrame(parent);
-    frame->setProperty("card", true);
+    frame->setFrameShape(QFrame::StyledPanel);
     return frame;
 }
 
@@ -47,19 +50,21 @@ struct ButtonRow {
     Message caption;
     const char* french;
     Message tip; // NoTip: none
+    const char* picture;
 };
 constexpr Message NoTip{0};
 constexpr ButtonRow Buttons[] = {
-    {&PrincipalControls::cmdNEW, "cmdNEW", Message::CaptionNew, "&Nouveau", Message::TipNew},
-    {&PrincipalControls::cmdOPEN, "cmdOPEN", Message::CaptionOpen, "&Ouvrir", Message::TipOpen},
-    {&PrincipalControls::cmdSAVE, "cmdSAVE", Message::CaptionSave, "&Enregistrer", Message::TipSave},
-    {&PrincipalControls::cmdDELETE, "cmdDELETE", Message::CaptionDelete, "&Supprimer", Message::TipDelete},
+    {&PrincipalControls::cmdNEW, "cmdNEW", Message::CaptionNew, "&Nouveau", Message::TipNew, "new"},
+    {&PrincipalControls::cmdOPEN, "cmdOPEN", Message::CaptionOpen, "&Ouvrir", Message::TipOpen, "open"},
+    {&PrincipalControls::cmdSAVE, "cmdSAVE", Message::CaptionSave, "&Enregistrer", Message::TipSave, "save"},
+    {&PrincipalControls::cmdDELETE, "cmdDELETE", Message::CaptionDelete, "&Supprimer", Message::TipDelete,
+     "delete"},
     {&PrincipalControls::cmdNUMEROTATION, "cmdNUMEROTATION", Message::CaptionNumber, "N&uméroter",
-     Message::TipNumber},
-    {&PrincipalControls::cmdOptions, "cmdOptions", Message::CaptionOptions, "O&ptions", NoTip},
-    {&PrincipalControls::cmdHELP, "cmdHELP", Message::CaptionHelp, "&Aide", NoTip},
-    {&PrincipalControls::cmdPROPOS, "cmdPROPOS", Message::CaptionAbout, "A p&ropos", NoTip},
-    {&PrincipalControls::cmdCANCEL, "cmdCANCEL", Message::CaptionQuit, "&Quitter", NoTip},
+     Message::TipNumber, "renumber"},
+    {&PrincipalControls::cmdOptions, "cmdOptions", Message::CaptionOptions, "Opt&ions", NoTip, "options"},
+    {&PrincipalControls::cmdHELP, "cmdHELP", Message::CaptionHelp, "&Aide", NoTip, "help"},
+    {&PrincipalControls::cmdPROPOS, "cmdPROPOS", Message::CaptionAbout, "A &propos", NoTip, "about"},
+    {&PrincipalControls::cmdCANCEL, "cmdCANCEL", Message::CaptionQuit, "&Quitter", NoTip, "quit"},
 };
 
 QLayout* buildButtons(QWidget& window, PrincipalControls& c) {
@@ -68,17 +73,15 @@ QLayout* buildButtons(QWidget& window, PrincipalControls& c) {
     for (const ButtonRow& row : Buttons) {
         QPushButton* button = named(new QPushButton(&window), row.name);
         button->setAutoDefault(false);
+        button->setIcon(artIcon(row.picture));
         c.*row.place = button;
-        if (button == c.cmdPROPOS)
+        if (button == c.cmdOptions)
             bar->addStretch(1);
         bar->addWidget(button);
     }
-    c.cmdSAVE->setProperty("primary", true);
-    // What these three would open isn't there yet.
-    for (QPushButton* unused : {c.cmdDELETE, c.cmdOptions, c.cmdHELP}) {
-        unused->setEnabled(false);
-        unused->hide();
-    }
+    // A consist that a service uses must not go, and the services aren't known yet.
+    c.cmdDELETE->setEnabled(false);
+    c.cmdDELETE->hide();
     return bar;
 }
 
@@ -106,36 +109,31 @@ QWidget* buildStock(QWidget& window, PrincipalControls& c) {
 
 QWidget* buildInfo(QWidget* parent, PrincipalControls& c) {
     QFrame* frame = card(parent);
-    auto* row = new QHBoxLayout(frame);
-    row->setContentsMargins(12, 12, 12, 12);
-    row->setSpacing(14);
+    auto* column = new QVBoxLayout(frame);
+    column->setContentsMargins(12, 12, 12, 12);
     c.picPREVIEW = new PreviewView(frame);
-    c.picPREVIEW->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
-    c.picPREVIEW->setMaximumHeight(210);
-    row->addWidget(c.picPREVIEW);
-
-    auto* lines = new QVBoxLayout;
-    lines->setSpacing(4);
-    const auto line = [&](const char* name, Qt::TextElideMode mode) {
-        auto* label = named(new ElidedLabel(frame, mode), name);
-        lines->addWidget(label);
-        return label;
+    c.picPREVIEW->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    column->addWidget(c.picPREVIEW, 1);
+    const auto label = [&](const char* name, Qt::TextElideMode mode) {
+        return named(new ElidedLabel(frame, mode), name);
     };
-    lines->addStretch(1);
-    c.tbSELECT = line("tbSELECT", Qt::ElideRight);
-    c.tbPATH = line("tbPATH", Qt::ElideMiddle);
-    lines->addSpacing(6);
-    c.lblFreins = line("lblFreins", Qt::ElideRight);
-    c.lblATTELAGE = line("lblATTELAGE", Qt::ElideRight);
-    c.lblLONGUEUR = line("lblLONGUEUR", Qt::ElideRight);
-    c.lblPOIDS = line("lblPOIDS", Qt::ElideRight);
-    lines->addStretch(1);
+    c.tbSELECT = label("tbSELECT", Qt::ElideRight);
+    c.tbPATH = label("tbPATH", Qt::ElideMiddle);
+    column->addWidget(c.tbSELECT);
+    column->addWidget(c.tbPATH);
+    auto* grid = new QGridLayout;
+    grid->setColumnStretch(0, 3);
+    grid->setColumnStretch(1, 2);
+    grid->addWidget(c.lblFreins = label("lblFreins", Qt::ElideRight), 0, 0);
+    grid->addWidget(c.lblATTELAGE = label("lblATTELAGE", Qt::ElideRight), 1, 0);
+    grid->addWidget(c.lblLONGUEUR = label("lblLONGUEUR", Qt::ElideRight), 0, 1);
+    grid->addWidget(c.lblPOIDS = label("lblPOIDS", Qt::ElideRight), 1, 1);
+    column->addLayout(grid);
     QFont bold = c.tbSELECT->font();
     bold.setBold(true);
     bold.setPointSizeF(bold.pointSizeF() * 1.15);
     c.tbSELECT->setFont(bold);
-    c.tbPATH->setProperty("quiet", true);
-    row->addLayout(lines, 1);
+    theme::showAsHint(*c.tbPATH);
     return frame;
 }
 
@@ -152,13 +150,12 @@ QWidget* buildConsist(QWidget* parent, PrincipalControls& c) {
     c.lblSLIDER = named(new QLabel(frame), "lblSLIDER");
     c.tbFULL_NAME = named(new QLineEdit(frame), "tbFULL_NAME");
     c.tbNAME = named(new QLineEdit(frame), "tbNAME");
-    c.tbNAME->setMaxLength(ShortNameLength);
     c.Slider1 = named(new QSlider(Qt::Horizontal, frame), "Slider1");
     c.Slider1->setRange(0, DurabilityRange);
     c.Slider1->setPageStep(DurabilityRange / 10);
     c.Slider1->setSingleStep(DurabilityRange / 100);
     c.lblRESISTANCE = named(new QLabel(frame), "lblRESISTANCE");
-    c.lblRESISTANCE->setProperty("quiet", true);
+    theme::showAsHint(*c.lblRESISTANCE);
     c.lblRESISTANCE->setWordWrap(true);
     c.lblFULL_NAME->setBuddy(c.tbFULL_NAME);
     c.lblNAME->setBuddy(c.tbNAME);
@@ -199,20 +196,34 @@ QWidget* buildStrip(QWidget& window, PrincipalControls& c, Editor& editor) {
     column->setSpacing(6);
     c.lblLongueurNewRame = named(new QLabel(frame), "lblLongueurNewRame");
     c.lblLongueurNewRame->setTextFormat(Qt::PlainText);
-    c.lblLongueurNewRame->setProperty("heading", true);
+    QFont heading = c.lblLongueurNewRame->font();
+    heading.setBold(true);
+    c.lblLongueurNewRame->setFont(heading);
+    c.lblSTATUS = named(new ElidedLabel(frame, Qt::ElideMiddle), "lblSTATUS");
+    c.lblSTATUS->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    theme::showAsHint(*c.lblSTATUS);
+    c.cmdVEHICLE = named(new QToolButton(frame), "cmdVEHICLE");
+    c.cmdVEHICLE->setPopupMode(QToolButton::InstantPopup);
+    c.cmdVEHICLE->setToolButtonStyle(Qt::ToolButtonTextOnly);
     c.PicRAME = new StripView(editor, frame);
+    c.PicRAME->setFocusPolicy(Qt::StrongFocus);
     c.HScrollRAME = named(new QScrollBar(Qt::Horizontal, frame), "HScrollRAME");
     c.HScrollRAME->setFocusPolicy(Qt::StrongFocus);
-    column->addWidget(c.lblLongueurNewRame);
+    auto* head = new QHBoxLayout;
+    head->addWidget(c.lblLongueurNewRame);
+    head->addWidget(c.lblSTATUS, 1);
+    head->addWidget(c.cmdVEHICLE);
+    column->addLayout(head);
     column->addWidget(c.PicRAME);
     column->addWidget(c.HScrollRAME);
     return frame;
 }
 
 void setTabOrder(const PrincipalControls& c) {
-    QWidget* const order[] = {c.cmbMATERIEL, c.lstViewMATERIEL, c.tbFULL_NAME, c.tbNAME,
-                              c.Slider1,     c.HScrollRAME,     c.cmdNEW,      c.cmdOPEN,
-                              c.cmdSAVE,     c.cmdNUMEROTATION, c.cmdPROPOS,   c.cmdCANCEL};
+    QWidget* const order[] = {
+        c.cmbMATERIEL,     c.lstViewMATERIEL, c.PicRAME, c.cmdVEHICLE, c.HScrollRAME, c.tbFULL_NAME,
+        c.tbNAME,          c.Slider1,         c.cmdNEW,  c.cmdOPEN,    c.cmdSAVE,     c.cmdDELETE,
+        c.cmdNUMEROTATION, c.cmdOptions,      c.cmdHELP, c.cmdPROPOS,  c.cmdCANCEL};
     for (std::size_t i = 1; i < std::size(order); ++i)
         QWidget::setTabOrder(order[i - 1], order[i]);
 }
@@ -290,6 +301,12 @@ void captionPrincipal(const PrincipalControls& c, const Frame& frame) {
     c.tbFULL_NAME->setAccessibleName(plain(c.lblFULL_NAME->text()));
     c.Slider1->setAccessibleName(plain(c.lblSLIDER->text()));
     c.cmbMATERIEL->setAccessibleName(plain(c.lblCLASS->text()));
+    c.lstViewMATERIEL->setAccessibleName(toQt(frame.text(Message::NameOfStockList)));
+    c.lstViewMATERIEL->setEmptyHint(toQt(frame.text(Message::StockListEmpty)));
+    c.PicRAME->setAccessibleName(toQt(frame.text(Message::NameOfStrip)));
+    c.picPREVIEW->setAccessibleName(toQt(frame.text(Message::NameOfPreview)));
+    c.HScrollRAME->setAccessibleName(toQt(frame.text(Message::NameOfStripScroll)));
+    c.cmdVEHICLE->setText(toQt(frame.text(Message::CaptionVehicle)));
 }
 
 } // namespace zandor

@@ -10,6 +10,7 @@ class QPushButton;
 class QScrollBar;
 class QSlider;
 class QTimer;
+class QToolButton;
 class QWidget;
 
 namespace zandor {
@@ -32,6 +33,8 @@ struct PrincipalControls {
     QLabel *lblRESISTANCE, *lblLongueurNewRame;
     StripView* PicRAME;
     QScrollBar* HScrollRAME;
+    ElidedLabel* lblSTATUS;                                // the selected vehicle
+    QToolButton* cmdVEHICLE;                               // the menu of what can be done with it
     QLabel *lblNAME, *lblFULL_NAME, *lblSLIDER, *lblCLASS; // captions of the inputs
     QTimer* Timer1;
 };

@@ -5,8 +5,12 @@
 
 #include <QAbstractTableModel>
 #include <QColor>
+#include <QIcon>
 #include <QString>
 
+#include <array>
+#include <functional>
+#include <unordered_map>
 #include <vector>
 
 namespace zandor {
@@ -21,11 +25,14 @@ class StockModel final : public QAbstractTableModel {
 
     explicit StockModel(QObject* parent) : QAbstractTableModel(parent) {}
 
-    // Replaces the rows. Classes whose couplings the list leaves out have an empty third column.
-    void setRows(const Frame& frame, std::vector<StockListRow> rows, bool showCouplings);
+    void setRows(std::vector<StockListRow> rows);
     // Only the colours: which rows are unused.
     void updateUnused(const std::vector<StockListRow>& rows);
     void setTitles(const QStringList& titles);
+    // What a cell shows, in words: its tool tip, and what a screen reader says.
+    void setDescriber(std::function<QString(const QString& key, Column column)> describe) {
+        describe_ = std::move(describe);
+    }
     void setTextColour(const QColor& colour) { textColour_ = colour; }
 
     void sort(int column, Qt::SortOrder order) override; // always by name, whatever the column
@@ -42,21 +49,26 @@ class StockModel final : public QAbstractTableModel {
 
   private:
     struct Row {
-        QString key, sortText;
-        QString texts[ColumnCount];
-        bool hasCab = false;
+        QString key, text, sortText;
+        std::array<int, ColumnCount> icons; // 0: none
         bool unused = false;
+    };
+    // Made when they are first shown.
+    class Icons {
+      public:
+        QIcon of(int number) const;
+
+      private:
+        mutable std::unordered_map<int, QIcon> known_;
     };
     void sortRows();
 
     std::vector<Row> rows_;
+    Icons icons_;
+    std::function<QString(const QString&, Column)> describe_;
     QStringList titles_;
     QColor textColour_;
     Qt::SortOrder order_ = Qt::AscendingOrder;
 };
-
-// "Bar / Chain" for "bar_chain" and the like in the user's language; a word that has no name stays as it is.
-QString couplingText(const Frame& frame, std::string_view coupling);
-QString brakeText(const Frame& frame, std::string_view brakeSystem);
 
 } // namespace zandor

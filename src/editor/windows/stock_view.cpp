@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QPixmap>
 
 #include <memory>
@@ -68,6 +69,21 @@ void StockView::setColours(const QColor& background, const QColor& text) {
     model_->setTextColour(text);
 }
 
+void StockView::setEmptyHint(const QString& hint) {
+    emptyHint_ = hint;
+    viewport()->update();
+}
+
+void StockView::paintEvent(QPaintEvent* event) {
+    QTreeView::paintEvent(event);
+    if (model_->rowCount() > 0)
+        return;
+    QPainter painter(viewport());
+    painter.setPen(palette().color(QPalette::PlaceholderText));
+    const QRect place = viewport()->rect().adjusted(12, 12, -12, -12);
+    painter.drawText(place, Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, emptyHint_);
+}
+
 void StockView::toggleOrder() {
     QHeaderView* columns = header();
     const bool wasAscending = model_->order() == Qt::AscendingOrder;
@@ -84,8 +100,8 @@ void StockView::resizeEvent(QResizeEvent* event) {
     if (sizedByUser_)
         return;
     sizing_ = true;
-    header()->resizeSection(StockModel::BrakeColumn, viewport()->width() * 30 / 100);
-    header()->resizeSection(StockModel::CouplingColumn, viewport()->width() * 26 / 100);
+    for (const int column : {StockModel::BrakeColumn, StockModel::CouplingColumn})
+        header()->resizeSection(column, header()->sectionSizeHint(column));
     sizing_ = false;
 }
 

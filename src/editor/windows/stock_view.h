@@ -19,6 +19,7 @@ class StockView final : public QTreeView {
     void selectKey(const QString& key);
     void selectFirst();
     void setColours(const QColor& background, const QColor& text); // an invalid colour stays as it is
+    void setEmptyHint(const QString& hint);                        // shown in place of rows
     // The picture that goes with a dragged row.
     void setDragPicture(std::function<QPixmap()> picture) { dragPicture_ = std::move(picture); }
 
@@ -34,6 +35,7 @@ class StockView final : public QTreeView {
     void keyPressEvent(QKeyEvent* event) override;
     void startDrag(Qt::DropActions actions) override;
     void resizeEvent(QResizeEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
 
   private:
     void toggleOrder();
@@ -41,6 +43,7 @@ class StockView final : public QTreeView {
 
     StockModel* model_;
     std::function<QPixmap()> dragPicture_;
+    QString emptyHint_;
     bool sizing_ = false;      // the columns are being sized by the window
     bool sizedByUser_ = false; // they stay as they are
 };

@@ -1,12 +1,8 @@
 #include "editor/windows/strip_painter.h"
 
-#include "catalogue/stock_list.h"
-#include "editor/coupling.h"
-#include "editor/windows/vehicle_art.h"
+#include "editor/windows/picture_store.h"
 #include "frame/windows/qt_text.h"
-#include "frame/windows/theme.h"
 
-#include <QFontMetrics>
 #include <QPainter>
 
 #include <algorithm>
@@ -15,158 +11,134 @@ namespace zandor {
 
 namespace {
 
-constexpr QColor Red{255, 0, 0}, Green{0, 255, 0}, Blue{0, 0, 255}, Yellow{255, 255, 0};
-constexpr int CouplingMarkTop = 51;
-constexpr int NameMargin = 20;
+constexpr int WidestPixmap = 32766; // device pixels: as far as a painter reaches
+constexpr QColor DropMark{255, 0, 0};
 
-struct Bar {
-    int fromBottom; // its top, counted from the bottom of the strip
-    int thickness;  // 0: no bar
-};
-struct BrakeMark {
-    std::string_view brakeSystem;
-    QColor colour;
-    Bar bars[2];
-};
-constexpr BrakeMark BrakeMarks[] = {
-    {"air_single_pipe", Blue, {{27, 2}, {0, 0}}},   {"air_twin_pipe", Blue, {{23, 5}, {0, 0}}},
-    {"air_piped", Blue, {{27, 2}, {23, 5}}},        {"ep", Blue, {{27, 2}, {23, 5}}},
-    {"vacuum_single_pipe", Red, {{16, 2}, {0, 0}}}, {"vacuum_twin_pipe", Red, {{12, 5}, {0, 0}}},
-    {"vacuum_piped", Red, {{16, 2}, {12, 5}}},      {"ecp", Yellow, {{5, 2}, {0, 0}}},
-};
-
-// One vehicle in its place on the visible strip.
-struct Place {
-    const Vehicule& vehicule;
-    const Materiel* materiel; // nullptr for a missing one
-    QRect area;
-};
-
-void paintPicture(QPainter& painter, const Place& place) {
-    if (place.vehicule.Missing || !place.materiel)
-        return paintMissingArt(painter, place.area);
-    paintVehicleArt(painter, place.area, stockClassOf(*place.materiel), place.vehicule.Flipped);
+QColor shown(StripColour colour) {
+    return {colour.red, colour.green, colour.blue};
 }
 
-void paintFlipArrow(QPainter& painter, const QRect& area) {
-    const QPoint tip(area.left() + area.width() - 20, area.top() + 8);
-    painter.setPen(QPen(Green, 1));
-    painter.drawLine(tip, tip + QPoint(5, 4));
-    painter.drawLine(tip + QPoint(0, 6), tip + QPoint(5, 2));
-    painter.drawLine(tip, tip + QPoint(0, 7));
-    painter.fillRect(QRect(tip + QPoint(-22, 2), QSize(25, 2)), Green);
+// The width that the picture gets, and with it the most that its resolution may be.
+double reachable(const std::vector<StripStep>& steps, double pixelRatio) {
+    for (const StripStep& step : steps)
+        if (const auto* size = std::get_if<SizeStrip>(&step))
+            return std::min(pixelRatio, double(WidestPixmap) / std::max(1, size->width));
+    return pixelRatio;
 }
 
-void paintOutline(QPainter& painter, const QRect& area) {
-    painter.setPen(QPen(Yellow, 3, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
-    painter.setBrush(Qt::NoBrush);
-    painter.drawRect(area.adjusted(1, 1, -2, -2));
+QPixmap resized(const QPixmap& old, QSize size) {
+    QPixmap picture(size);
+    picture.fill(shown(StripSky));
+    if (!old.isNull())
+        QPainter(&picture).drawPixmap(0, 0, old);
+    return picture;
 }
 
-void paintTexts(QPainter& painter, const Editor& editor, const Place& place) {
-    const QFontMetrics metrics = painter.fontMetrics();
-    const QRect& area = place.area;
-    painter.setPen(Red);
-    painter.drawText(QRect(area.left(), area.top(), area.width(), metrics.height()), Qt::AlignCenter,
-                     QString::number(place.vehicule.Number));
-    if (place.vehicule.Missing) {
-        const QRect line(area.left(), area.height() / 4 - metrics.height() / 2, area.width(),
-                         metrics.height());
-        painter.drawText(line, Qt::AlignCenter, toQt(editor.frame.text(Message::VehicleMissing)));
+// Works in device pixels, to which every edge is brought.
+class Hand {
+  public:
+    Hand(QPixmap& picture, PictureStore& pictures, const QFont& font, double ratio)
+        : picture_(picture), pictures_(pictures), font_(font), ratio_(ratio) {
+        begin();
     }
-    if (!editor.frame.state.PrintName)
-        return;
-    painter.setPen(Yellow);
-    painter.drawText(area, Qt::AlignCenter, fittingName(toQt(place.vehicule.Name), metrics, area.width()));
-}
 
-void paintBrakes(QPainter& painter, const Place& place) {
-    if (!place.materiel)
-        return;
-    const std::string system = lowerCase(place.materiel->BrakeSystem);
-    const auto mark = std::ranges::find(BrakeMarks, system, &BrakeMark::brakeSystem);
-    if (mark == std::end(BrakeMarks))
-        return;
-    for (const Bar& bar : mark->bars)
-        if (bar.thickness > 0)
-            painter.fillRect(place.area.left(), place.area.height() - bar.fromBottom, place.area.width() - 1,
-                             bar.thickness, mark->colour);
-}
+    void operator()(const SizeStrip& step) {
+        const QSize size(device(step.width), device(StripHeight));
+        if (size == picture_.size())
+            return;
+        if (painter_.isActive())
+            painter_.end();
+        picture_ = resized(picture_, size);
+        begin();
+    }
+    void operator()(const ClearStrip& step) { painter_.fillRect(picture_.rect(), shown(step.colour)); }
+    void operator()(const TakeBackColour& step) {
+        const QImage& image = pictures_.image(step.picture);
+        if (!image.isNull())
+            painter_.fillRect(picture_.rect(), image.pixelColor(0, 0));
+    }
+    void operator()(const CopyPicture& step) {
+        const QRect area = device(step.area);
+        painter_.drawPixmap(area.topLeft(), pictures_.scaled(step.picture, area.size(), step.mirrored));
+    }
+    void operator()(const DrawOutline& step) {
+        const QRect area = device(step.area);
+        const int line = std::max(1, device(step.lineWidth));
+        const QColor colour = shown(step.colour);
+        painter_.fillRect(area.left(), area.top(), area.width(), line, colour);
+        painter_.fillRect(area.left(), area.bottom() - line + 1, area.width(), line, colour);
+        painter_.fillRect(area.left(), area.top(), line, area.height(), colour);
+        painter_.fillRect(area.right() - line + 1, area.top(), line, area.height(), colour);
+    }
+    void operator()(const DrawLine& step) {
+        painter_.save();
+        painter_.scale(ratio_, ratio_);
+        painter_.setPen(QPen(shown(step.colour), 1));
+        painter_.drawLine(QLineF(step.fromX + 0.5, step.fromY + 0.5, step.toX + 0.5, step.toY + 0.5));
+        painter_.restore();
+    }
+    void operator()(const FillBar& step) { painter_.fillRect(device(step.area), shown(step.colour)); }
+    void operator()(const PrintText& step) {
+        painter_.save();
+        painter_.scale(ratio_, ratio_);
+        painter_.setPen(shown(step.colour));
+        painter_.drawText(QRect(step.box.left, step.box.top, step.box.width, step.box.height),
+                          Qt::AlignCenter | Qt::TextSingleLine | Qt::TextDontClip, toQt(step.text));
+        painter_.restore();
+    }
+    void operator()(const PlaceMark& step) {
+        painter_.drawPixmap(device(step.left), device(step.top), pictures_.mark(step.mark, ratio_));
+    }
 
-std::string_view uniqueOf(const Materiel* materiel) {
-    return materiel ? std::string_view(materiel->CouplingUnique) : std::string_view();
-}
+  private:
+    void begin() {
+        if (picture_.isNull())
+            return;
+        painter_.begin(&picture_);
+        painter_.setFont(font_);
+    }
+    int device(int pixels) const { return qRound(pixels * ratio_); }
+    // Neighbours stay neighbours: it is the edges that are rounded.
+    QRect device(const StripRect& area) const {
+        return {QPoint(device(area.left), device(area.top)),
+                QPoint(device(area.left + area.width) - 1, device(area.top + area.height) - 1)};
+    }
 
-void paintJoint(QPainter& painter, const Editor& editor, const Vehicule& left, const Place& right) {
-    const double x = right.area.left() - MarkSize / 2.0;
-    if (!CouplingCompatible(left.Coupling, right.vehicule.Coupling, uniqueOf(materielOf(editor, left)),
-                            uniqueOf(right.materiel)))
-        return paintBadCouplingMark(painter, {x, 0});
-    const std::string_view name = CouplingImageName(right.vehicule.Coupling);
-    paintCouplingMark(painter, {x, CouplingMarkTop}, name.substr(0, name.find('_')));
-}
-
-void paintVehicle(QPainter& painter, const Editor& editor, const Place& place, bool held) {
-    paintPicture(painter, place);
-    if (held)
-        paintOutline(painter, place.area);
-    if (place.vehicule.Flipped && !place.vehicule.Missing)
-        paintFlipArrow(painter, place.area);
-    paintTexts(painter, editor, place);
-    if (!place.vehicule.Missing)
-        paintBrakes(painter, place);
-}
-
-void paintHint(QPainter& painter, const QSize& size, const QString& hint) {
-    painter.setPen(theme::Ink);
-    painter.drawText(QRect(QPoint(), size).adjusted(16, 0, -16, 0), Qt::AlignCenter | Qt::TextWordWrap, hint);
-}
+    QPixmap& picture_;
+    PictureStore& pictures_;
+    const QFont& font_;
+    const double ratio_;
+    QPainter painter_;
+};
 
 } // namespace
 
-QString fittingName(const QString& name, const QFontMetrics& metrics, int width) {
-    const int room = width - NameMargin;
-    if (metrics.horizontalAdvance(name) <= room)
-        return name;
-    qsizetype fits = 0, tooLong = name.size(); // widths grow with the letters: halve instead of walking
-    while (tooLong - fits > 1) {
-        const qsizetype middle = (fits + tooLong) / 2;
-        (metrics.horizontalAdvance(name, int(middle)) <= room ? fits : tooLong) = middle;
-    }
-    if (fits > 0 && name[fits - 1].isHighSurrogate())
-        --fits;
-    return name.left(fits);
+int FontMeasure::width(std::string_view text) const {
+    return metrics_.horizontalAdvance(toQt(text));
 }
 
-void paintStrip(QPainter& painter, const Editor& editor, const QSize& size, const QString& emptyHint) {
-    const ConsistDocument& document = editor.document;
-    painter.fillRect(QRect(QPoint(), size), theme::Sky);
-    if (!hasVehicles(document))
-        return paintHint(painter, size, emptyHint);
-
-    const Vehicule* previous = nullptr;
-    int x = -document.controls.scrollValue;
-    for (std::size_t i = 0; i < document.Vehicules.size() && x < size.width() + MarkSize; ++i) {
-        const Vehicule& vehicule = document.Vehicules[i];
-        if (vehicule.Name.empty())
-            continue;
-        if (x + vehicule.Width > -MarkSize) {
-            const Place place{vehicule, materielOf(editor, vehicule),
-                              QRect(x, 0, vehicule.Width, size.height())};
-            const bool held =
-                document.StripPressed && document.DragActive && document.DragSource == static_cast<int>(i);
-            paintVehicle(painter, editor, place, held);
-            if (previous)
-                paintJoint(painter, editor, *previous, place);
-        }
-        previous = &vehicule;
-        x += vehicule.Width;
+void StripPicture::carryOut(const std::vector<StripStep>& steps, PictureStore& pictures, const QFont& font,
+                            double pixelRatio) {
+    const double ratio = reachable(steps, pixelRatio);
+    imgRAME.setDevicePixelRatio(1);
+    {
+        Hand hand(imgRAME, pictures, font, ratio);
+        for (const StripStep& step : steps)
+            std::visit(hand, step);
     }
+    imgRAME.setDevicePixelRatio(ratio);
+}
+
+void StripPicture::ShowStrip(QPainter& painter, const QSize& window, int scrollValue) const {
+    if (imgRAME.deviceIndependentSize().width() < window.width())
+        painter.fillRect(QRect(QPoint(), window), shown(StripSky));
+    const double ratio = imgRAME.devicePixelRatio(); // a whole device pixel, or the copy would blur
+    painter.drawPixmap(QPointF(-qRound(scrollValue * ratio) / ratio, 0), imgRAME);
 }
 
 void paintDropMark(QPainter& painter, const ConsistDocument& document, int height) {
     if (const auto x = dropMarkPosition(document))
-        painter.fillRect(*x, 0, 3, height, Red);
+        painter.fillRect(*x, 0, 3, height, DropMark);
 }
 
 } // namespace zandor

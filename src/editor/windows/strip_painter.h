@@ -1,24 +1,48 @@
-// The strip of vehicles as it is seen: only what lies in view is drawn, so that its cost doesn't grow with
-// the consist.
+// Carries out the steps of the strip's drawing, and shows the part of it that is in sight.
 #pragma once
 
-#include "editor/consist_document.h"
+#include "editor/strip_drawing.h"
 
-#include <QString>
+#include <QFont>
+#include <QFontMetrics>
+#include <QPixmap>
 
-class QFontMetrics;
+#include <vector>
+
 class QPainter;
 class QSize;
 
 namespace zandor {
 
-// Vehicles, marks and the outline of the vehicle that the pointer holds. `emptyHint` stands on a strip
-// without any.
-void paintStrip(QPainter& painter, const Editor& editor, const QSize& size, const QString& emptyHint);
+class PictureStore;
+
+// Letters as the strip prints them.
+class FontMeasure final : public TextMeasure {
+  public:
+    explicit FontMeasure(const QFont& font) : metrics_(font) {}
+    int width(std::string_view text) const override;
+    int height() const override { return metrics_.height(); }
+
+  private:
+    QFontMetrics metrics_;
+};
+
+// The strip off the screen. It has the screen's own resolution, so that lines and letters are sharp on it.
+class StripPicture {
+  public:
+    void carryOut(const std::vector<StripStep>& steps, PictureStore& pictures, const QFont& font,
+                  double pixelRatio);
+    bool isNull() const { return imgRAME.isNull(); }
+    const QPixmap& pixmap() const { return imgRAME; }
+
+    // Copies what lies behind `scrollValue` onto a window of this size.
+    void ShowStrip(QPainter& painter, const QSize& window, int scrollValue) const;
+
+  private:
+    QPixmap imgRAME;
+};
+
 // The red line where a dragged vehicle would go, when it would go anywhere.
 void paintDropMark(QPainter& painter, const ConsistDocument& document, int height);
-
-// `name` cut from the right until it is at least 20 pixels narrower than `width`; may become empty.
-QString fittingName(const QString& name, const QFontMetrics& metrics, int width);
 
 } // namespace zandor

@@ -1,11 +1,12 @@
 #include "editor/windows/strip_view.h"
 
 #include "catalogue/stock_list.h"
+#include "editor/strip_selection.h"
+#include "editor/strip_drawing.h"
 #include "editor/windows/stock_model.h"
-#include "editor/windows/strip_painter.h"
-#include "editor/windows/vehicle_art.h"
 #include "frame/windows/cursors.h"
 #include "frame/windows/qt_text.h"
+#include "frame/windows/theme.h"
 
 #include <QApplication>
 #include <QDragEnterEvent>
@@ -51,12 +52,13 @@ int draggedStock(const QMimeData* data) {
 
 } // namespace
 
-StripView::StripView(Editor& editor, QWidget* parent) : QWidget(parent), editor_(editor) {
+StripView::StripView(Editor& editor, QWidget* parent)
+    : QWidget(parent), editor_(editor), pictures_(editor.frame.files) {
     setObjectName("PicRAME");
     setAcceptDrops(true);
     setMouseTracking(true);
     setFocusPolicy(Qt::ClickFocus);
-    setFixedHeight(ArtHeight);
+    setFixedHeight(StripHeight);
     setAttribute(Qt::WA_OpaquePaintEvent);
     scrollTimer_.setInterval(ScrollEvery);
     connect(&scrollTimer_, &QTimer::timeout, this, &StripView::scrollWhileResting);
@@ -69,9 +71,56 @@ void StripView::setEmptyHint(const QString& hint) {
     update();
 }
 
+// The drag that an outline stands for may end without another change.
+bool StripView::isOutdated() const {
+    return picture_.isNull() || drawnChanges_ != editor_.document.stripChanges ||
+           drawnRatio_ != devicePixelRatioF() || (drawnInDrag_ && !editor_.document.DragActive);
+}
+
+void StripView::DrawStrip() {
+    draw();
+    update();
+}
+
+void StripView::draw() {
+    const BusyPointer busy;
+    pictures_.beginRedraw();
+    const FontMeasure letters(font());
+    const auto steps = zandor::DrawStrip(editor_, pictures_, letters);
+    drawnRatio_ = devicePixelRatioF();
+    picture_.carryOut(steps, pictures_, font(), drawnRatio_);
+    drawnChanges_ = editor_.document.stripChanges;
+    drawnInDrag_ = editor_.document.DragActive;
+}
+
+void StripView::paintEmptyHint(QPainter& painter) const {
+    painter.setPen(theme::Ink);
+    painter.drawText(rect().adjusted(16, 0, -16, 0), Qt::AlignCenter | Qt::TextWordWrap, emptyHint_);
+}
+
+// Stronger while the keyboard is here.
+void StripView::paintSelection(QPainter& painter) const {
+    const ConsistDocument& document = editor_.document;
+    const auto selected = static_cast<std::size_t>(document.selected);
+    int left = -document.controls.scrollValue;
+    for (std::size_t i = 0; i < selected; ++i)
+        left += document.Vehicules[i].Width;
+    const int line = hasFocus() ? 2 : 1;
+    painter.setPen(QPen(theme::Accent, line, hasFocus() ? Qt::SolidLine : Qt::DashLine));
+    painter.setBrush(Qt::NoBrush);
+    const QRectF frame(left, 0, document.Vehicules[selected].Width, height());
+    painter.drawRect(frame.adjusted(line / 2.0, line / 2.0, -line / 2.0, -line / 2.0));
+}
+
 void StripView::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    paintStrip(painter, editor_, size(), emptyHint_);
+    if (isOutdated())
+        draw();
+    picture_.ShowStrip(painter, size(), editor_.document.controls.scrollValue);
+    if (!hasVehicles(editor_.document))
+        paintEmptyHint(painter);
+    else if (hasSelection(editor_.document) && !dragging())
+        paintSelection(painter);
     if (inside_ && dragging())
         paintDropMark(painter, editor_.document, height());
 }
@@ -91,8 +140,8 @@ void StripView::mousePressEvent(QMouseEvent* event) {
     pressPoint_ = lastPoint_;
     moved_ = false;
     inside_ = true;
+    DrawStrip(); // before the pointer moves on: the outline stays on this vehicle
     emit changed();
-    update();
 }
 
 void StripView::followPress(const QPoint& point) {
@@ -201,14 +250,44 @@ void StripView::updateToolTip(const QPoint& point) {
 }
 
 void StripView::keyPressEvent(QKeyEvent* event) {
+    ConsistDocument& document = editor_.document;
     if (event->key() == Qt::Key_Escape && pressed_)
-        cancelPress();
-    else
-        QWidget::keyPressEvent(event);
+        return cancelPress();
+    if (pressed_ || event->modifiers() != Qt::NoModifier)
+        return QWidget::keyPressEvent(event);
+    switch (event->key()) {
+    case Qt::Key_Left:
+        selectVehicule(document, document.selected - 1);
+        break;
+    case Qt::Key_Right:
+        selectVehicule(document, document.selected + 1);
+        break;
+    case Qt::Key_Home:
+        selectVehicule(document, 0);
+        break;
+    case Qt::Key_End:
+        selectVehicule(document, vehicleCount(document) - 1);
+        break;
+    default:
+        return QWidget::keyPressEvent(event);
+    }
+    emit changed();
+    update();
+}
+
+// The keyboard comes to a vehicle, not to nothing.
+void StripView::focusInEvent(QFocusEvent* event) {
+    QWidget::focusInEvent(event);
+    const bool byKey = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
+    if (byKey && !hasSelection(editor_.document))
+        selectVehicule(editor_.document, 0);
+    emit changed();
+    update();
 }
 
 void StripView::focusOutEvent(QFocusEvent* event) {
     cancelPress();
+    update();
     QWidget::focusOutEvent(event);
 }
 
@@ -220,7 +299,7 @@ void StripView::wheelEvent(QWheelEvent* event) {
     const QPoint turned = event->angleDelta();
     const int delta = std::abs(turned.x()) > std::abs(turned.y()) ? turned.x() : turned.y();
     controls.scrollValue =
-        std::clamp(controls.scrollValue - delta * ArtWidth / 120, 0, controls.scrollMaximum);
+        std::clamp(controls.scrollValue - delta * PlainPictureWidth / 120, 0, controls.scrollMaximum);
     emit scrolled();
     update();
 }

@@ -2,6 +2,8 @@
 #pragma once
 
 #include "editor/consist_document.h"
+#include "editor/windows/picture_store.h"
+#include "editor/windows/strip_painter.h"
 
 #include <QTimer>
 #include <QWidget>
@@ -12,6 +14,7 @@ namespace zandor {
 
 class PointerShape;
 
+// update() shows the strip as it stands; after updateStrip() it is drawn anew first.
 class StripView final : public QWidget {
     Q_OBJECT
   public:
@@ -21,6 +24,11 @@ class StripView final : public QWidget {
     void setPreview(const QWidget* preview) { preview_ = preview; } // where a vehicle is looked up; borrowed
     void setEmptyHint(const QString& hint);
     void setEmptyToolTip(const QString& tip) { emptyTip_ = tip; }
+    // Draws the strip anew at once: after a change that no operation of the document has brought, such as a
+    // setting.
+    void DrawStrip();
+    const QPixmap& imgRAME() const { return picture_.pixmap(); }
+    PictureStore& pictures() { return pictures_; }
     // Puts a vehicle in the hand back without doing anything.
     void cancelPress();
     bool dragging() const { return pressed_ || stockOver_; }
@@ -40,6 +48,7 @@ class StripView final : public QWidget {
     void mouseReleaseEvent(QMouseEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dragMoveEvent(QDragMoveEvent* event) override;
@@ -49,6 +58,10 @@ class StripView final : public QWidget {
   private:
     enum class Shape { None, Carry, Discard };
 
+    bool isOutdated() const;
+    void draw();
+    void paintEmptyHint(QPainter& painter) const;
+    void paintSelection(QPainter& painter) const;
     void followPress(const QPoint& point);
     void followStock(const QPoint& point);
     void scrollWhileResting();
@@ -59,6 +72,12 @@ class StripView final : public QWidget {
     void updateToolTip(const QPoint& point);
 
     Editor& editor_;
+    PictureStore pictures_;
+    StripPicture picture_;
+    // Of the last drawing.
+    unsigned drawnChanges_ = 0;
+    double drawnRatio_ = 0;
+    bool drawnInDrag_ = false;
     const QWidget* preview_ = nullptr;
     QString emptyHint_, emptyTip_;
     bool pressed_ = false;   // the left button is down, and the drag is on

@@ -6,10 +6,13 @@
 
 namespace zandor {
 
+class CHelp;
+
 class QtDialogs final : public Dialogs {
   public:
-    // Buttons are captioned in the language of `state`, which also gets each answer as LastAnswer.
-    QtDialogs(AppState& state, ProfileFiles& profiles);
+    // Buttons are captioned in the language of `state`, which also gets each answer as LastAnswer. Help
+    // buttons open `help`; without it they are off.
+    QtDialogs(AppState& state, ProfileFiles& profiles, CHelp* help = nullptr);
 
     int ShowMessage(const std::string& text, int style, const std::string& title,
                     const std::string& helpFile = {}, int helpContext = 0) override;
@@ -22,6 +25,7 @@ class QtDialogs final : public Dialogs {
     AppState& state_;
     FileSystem& files_;
     Language language_;
+    CHelp* help_;
 };
 
 // "text (*.x)|*.x" as a Qt file dialog takes it.

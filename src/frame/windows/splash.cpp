@@ -1,17 +1,15 @@
 #include "frame/windows/splash.h"
 
-#include "frame/windows/theme.h"
+#include "frame/windows/first_paint.h"
 
+#include <QDir>
 #include <QGuiApplication>
+#include <QImageReader>
 #include <QKeyEvent>
 #include <QLinearGradient>
 #include <QPainter>
 #include <QPainterPath>
 #include <QScreen>
-#include <QTimer>
-
-#include <algorithm>
-#include <memory>
 
 namespace zandor {
 
@@ -23,8 +21,11 @@ constexpr QColor TitleShadow{192, 192, 0};
 constexpr QColor Cyan{0, 255, 255};
 constexpr QColor NightTop{13, 33, 62}, NightBottom{30, 84, 140};
 constexpr QColor Silhouette{9, 24, 46};
-constexpr int PaintCheckEvery = 20;    // ms
-constexpr int LongestPaintWait = 1000; // ms: a window that no screen shows is never painted
+constexpr QColor BarBack{8, 22, 43}, BarFrame{120, 170, 215};
+constexpr double DotsAnInch = 96;
+constexpr int TitleSize = 40; // dots
+constexpr QPoint TitlePlace{29, 83};
+constexpr int TitleMargin = 20;
 
 // A train against the sky, from `x` to the right edge.
 void paintTrain(QPainter& painter, int x, int railY, int width) {
@@ -48,65 +49,58 @@ void paintTrain(QPainter& painter, int x, int railY, int width) {
     painter.fillRect(0, railY, width, 3, QColor(190, 205, 222));
 }
 
+// The picture of the resources, of any format, sharp on its screen; null when there is none.
+QPixmap loadArt(QSize size, qreal ratio) {
+    const QStringList found = QDir(":/art").entryList({"splash*"});
+    if (found.isEmpty())
+        return {};
+    QImageReader reader(":/art/" + found.first());
+    reader.setScaledSize(size * ratio);
+    QPixmap art = QPixmap::fromImage(reader.read());
+    art.setDevicePixelRatio(ratio);
+    return art;
+}
+
+void paintOwnArt(QPainter& painter) {
+    QLinearGradient sky(0, 0, 0, SplashSize.height());
+    sky.setColorAt(0, NightTop);
+    sky.setColorAt(1, NightBottom);
+    painter.fillRect(QRect(QPoint(), SplashSize), sky);
+    paintTrain(painter, 120, 208, SplashSize.width());
+}
+
+QPalette barColours() {
+    QPalette colours;
+    colours.setColor(QPalette::Base, BarBack);
+    colours.setColor(QPalette::Text, Cyan);
+    colours.setColor(QPalette::Highlight, Cyan);
+    colours.setColor(QPalette::HighlightedText, BarBack);
+    colours.setColor(QPalette::Mid, BarFrame);
+    return colours;
+}
+
 } // namespace
 
-ProgressBar::ProgressBar(QWidget* parent) : QWidget(parent) {
-    setObjectName("pctPROGRESS");
-}
-
-void ProgressBar::setStep(int lower, int upper, int current, const QString& text) {
-    share_ = current == lower || upper <= 0 ? 0 : std::clamp(double(current) / upper, 0.0, 1.0);
-    text_ = text;
-    update();
-}
-
-void ProgressBar::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    const QRectF frame = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5);
-    QPainterPath shape;
-    shape.addRoundedRect(frame, 6, 6);
-    painter.fillPath(shape, QColor(8, 22, 43));
-    const QString shown = painter.fontMetrics().elidedText(text_, Qt::ElideMiddle, width() - 16);
-    painter.setPen(Cyan);
-    painter.drawText(rect(), Qt::AlignCenter, shown);
-
-    painter.save();
-    painter.setClipRect(QRectF(0, 0, width() * share_, height()));
-    painter.fillPath(shape, Cyan);
-    painter.setPen(QColor(8, 22, 43));
-    painter.drawText(rect(), Qt::AlignCenter, shown);
-    painter.restore();
-
-    painter.setPen(QColor(120, 170, 215));
-    painter.setBrush(Qt::NoBrush);
-    painter.drawPath(shape);
-}
-
 frmSplash::frmSplash(const QString& title, const QString& legal)
-    : QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint), title_(title), bar_(new ProgressBar(this)) {
+    : QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint), title_(title),
+      scale_(std::max(1.0, logicalDpiX() / DotsAnInch)), bar_(new ProgressBar(this)) {
     setObjectName("frmSplash");
     setWindowTitle(title);
-    setFixedSize(SplashSize);
+    setFixedSize(SplashSize * scale_);
+    art_ = loadArt(size(), devicePixelRatioF());
     move(QGuiApplication::primaryScreen()->availableGeometry().center() - rect().center());
     setCursor(Qt::WaitCursor);
     const qsizetype cut = legal.indexOf(u'-');
     legal_ =
         cut < 0 ? QStringList{legal} : QStringList{legal.left(cut).trimmed(), legal.mid(cut + 1).trimmed()};
-    bar_->setGeometry(28, SplashSize.height() - 46, SplashSize.width() - 56, 24);
+    bar_->setPalette(barColours());
+    bar_->setAccessibleName(title);
+    const QRectF place(28, SplashSize.height() - 46, SplashSize.width() - 56, 24);
+    bar_->setGeometry(QRectF(place.topLeft() * scale_, place.size() * scale_).toRect());
 }
 
 void frmSplash::whenPainted(std::function<void()> action) {
-    auto* timer = new QTimer(this);
-    timer->setObjectName("Timer1");
-    auto waited = std::make_shared<int>(0);
-    connect(timer, &QTimer::timeout, this, [this, timer, waited, action = std::move(action)] {
-        if (!painted_ && ++*waited * PaintCheckEvery < LongestPaintWait)
-            return;
-        timer->stop();
-        action();
-    });
-    timer->start(PaintCheckEvery);
+    new FirstPaintTimer(this, std::move(action));
 }
 
 void frmSplash::showStep(int lower, int upper, int current, const QString& text) {
@@ -116,29 +110,41 @@ void frmSplash::showStep(int lower, int upper, int current, const QString& text)
 void frmSplash::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    QLinearGradient sky(0, 0, 0, height());
-    sky.setColorAt(0, NightTop);
-    sky.setColorAt(1, NightBottom);
-    painter.fillRect(rect(), sky);
-    paintTrain(painter, 120, 208, width());
+    if (!art_.isNull())
+        painter.drawPixmap(0, 0, art_);
+    painter.scale(scale_, scale_);
+    if (art_.isNull())
+        paintOwnArt(painter);
+    paintTitle(painter);
+    paintLegal(painter);
+}
 
-    QFont font("Arial Black", 30);
+// Twice: the first print is the shadow.
+void frmSplash::paintTitle(QPainter& painter) {
+    QFont font("Arial Black");
+    font.setPixelSize(TitleSize);
     font.setWeight(QFont::Black);
     font.setItalic(true);
+    const int room = SplashSize.width() - TitlePlace.x() - TitleMargin;
+    while (QFontMetrics(font).horizontalAdvance(title_) > room && font.pixelSize() > TitleSize / 2)
+        font.setPixelSize(font.pixelSize() - 1);
     painter.setFont(font);
     painter.setPen(TitleShadow.darker(180));
-    painter.drawText(QPoint(32, 86), title_);
+    painter.drawText(TitlePlace + QPoint(3, 3), title_);
     painter.setPen(TitleColour);
-    painter.drawText(QPoint(29, 83), title_);
+    painter.drawText(TitlePlace, title_);
+}
 
-    font = this->font();
+void frmSplash::paintLegal(QPainter& painter) {
+    QFont font = this->font();
+    font.setPixelSize(13);
     painter.setFont(font);
     painter.setPen(Cyan);
-    const int line = painter.fontMetrics().lineSpacing();
+    const QFontMetrics metrics(font);
+    const int line = metrics.lineSpacing(), width = SplashSize.width() - 2 * TitleMargin;
     for (int i = 0; i < legal_.size(); ++i)
-        painter.drawText(QRect(20, 226 + i * line, width() - 40, line), Qt::AlignCenter,
-                         painter.fontMetrics().elidedText(legal_[i], Qt::ElideRight, width() - 40));
-    painted_ = true;
+        painter.drawText(QRect(TitleMargin, 226 + i * line, width, line), Qt::AlignCenter,
+                         metrics.elidedText(legal_[i], Qt::ElideRight, width));
 }
 
 void frmSplash::keyPressEvent(QKeyEvent* event) {

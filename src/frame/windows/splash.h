@@ -1,30 +1,17 @@
 // What is seen while the catalogue is loaded.
 #pragma once
 
+#include "frame/windows/progress_bar.h"
 #include "frame/windows/qt_progress.h"
 
+#include <QPixmap>
 #include <QWidget>
 
 #include <functional>
 
+class QPainter;
+
 namespace zandor {
-
-// The drawn progress bar.
-class ProgressBar final : public QWidget {
-    Q_OBJECT
-  public:
-    explicit ProgressBar(QWidget* parent);
-    void setStep(int lower, int upper, int current, const QString& text);
-    QString text() const { return text_; }
-    double share() const { return share_; } // of the bar that is filled, 0 to 1
-
-  protected:
-    void paintEvent(QPaintEvent*) override;
-
-  private:
-    double share_ = 0;
-    QString text_;
-};
 
 class frmSplash final : public QWidget, public ProgressView {
     Q_OBJECT
@@ -44,10 +31,14 @@ class frmSplash final : public QWidget, public ProgressView {
     void closeEvent(QCloseEvent* event) override;
 
   private:
+    void paintTitle(QPainter& painter);
+    void paintLegal(QPainter& painter);
+
     QString title_;
     QStringList legal_;
+    double scale_; // of a dot at 96 dots an inch
+    QPixmap art_;
     ProgressBar* bar_;
-    bool painted_ = false;
     bool ended_ = false;
 };
 

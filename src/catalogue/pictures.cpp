@@ -1,0 +1,201 @@
+#include "catalogue/pictures.h"
+
+#include "catalogue/catalogue.h"
+#include "catalogue/stock_list.h"
+#include "text/decode.h"
+#include "text/lines.h"
+
+#include <algorithm>
+#include <cstdint>
+
+namespace zandor {
+
+namespace {
+
+constexpr std::string_view ListName = "Bitmaps.ini";
+constexpr std::string_view DefaultList = "oe380cardin\r\noebarcar\r\noeservcar\r\noesleepcar\r\n";
+
+// Stock whose name is a number, which as the name of a resource would mean another one.
+constexpr std::string_view NumericNames[] = {"30000", "2000", "310", "380"};
+
+constexpr std::uint64_t LargestFile = 300u << 20; // bytes: more than the largest picture takes
+constexpr int WidestBitmap = 16384;
+constexpr int HighestBitmap = 4096;
+constexpr std::size_t FileHeaderSize = 14;
+constexpr std::uint32_t CoreHeader = 12; // the oldest kind: its size is in 16 bits
+// The sizes by which the kinds of headers are told; no window shows a bitmap of another kind.
+constexpr std::uint32_t HeaderKinds[] = {CoreHeader, 40, 64, 108, 124};
+constexpr std::uint32_t PixelDepths[] = {1, 4, 8, 16, 24, 32};
+
+// The little-endian number of `count` bytes. The bytes are there.
+std::uint32_t numberAt(std::string_view bytes, std::size_t at, std::size_t count) {
+    std::uint32_t value = 0;
+    for (std::size_t i = count; i-- > 0;)
+        value = value << 8 | static_cast<unsigned char>(bytes[at + i]);
+    return value;
+}
+
+std::int64_t signedAt(std::string_view bytes, std::size_t at) {
+    return static_cast<std::int32_t>(numberAt(bytes, at, 4));
+}
+
+template <std::size_t N> bool isOneOf(const std::uint32_t (&values)[N], std::uint32_t value) {
+    return std::find(std::begin(values), std::end(values), value) != std::end(values);
+}
+
+bool hasPixelFormat(std::string_view bytes, std::size_t at) {
+    return numberAt(bytes, at, 2) == 1 && isOneOf(PixelDepths, numberAt(bytes, at + 2, 2));
+}
+
+std::optional<PictureSize> saneSize(std::int64_t width, std::int64_t height) {
+    height = height < 0 ? -height : height; // negative: the rows run from top to bottom
+    if (width < 1 || width > WidestBitmap || height < 1 || height > HighestBitmap)
+        return std::nullopt;
+    return PictureSize{static_cast<int>(width), static_cast<int>(height)};
+}
+
+std::optional<PictureSize> sizeInHeaders(std::string_view bytes) {
+    if (bytes.size() < FileHeaderSize + CoreHeader || !bytes.starts_with("BM"))
+        return std::nullopt;
+    const std::uint32_t header = numberAt(bytes, FileHeaderSize, 4);
+    const std::uint32_t pixels = numberAt(bytes, 10, 4);
+    if (!isOneOf(HeaderKinds, header) || bytes.size() < FileHeaderSize + header || pixels >= bytes.size())
+        return std::nullopt;
+    if (header == CoreHeader)
+        return hasPixelFormat(bytes, 22) ? saneSize(numberAt(bytes, 18, 2), numberAt(bytes, 20, 2))
+                                         : std::nullopt;
+    return hasPixelFormat(bytes, 26) ? saneSize(signedAt(bytes, 18), signedAt(bytes, 22)) : std::nullopt;
+}
+
+void takeLines(Catalogue& catalogue, std::string_view text) {
+    std::vector<std::string>& prefixes = catalogue.BitmapPrefixes;
+    prefixes.clear();
+    forEachLine(text, [&prefixes](std::string_view line) {
+        if (const std::string_view name = trim(line); !name.empty())
+            prefixes.emplace_back(name);
+    });
+    if (prefixes.empty())
+        prefixes.emplace_back();
+}
+
+void makeFolder(Frame& frame, const Catalogue& catalogue, const std::string& folder) {
+    if (catalogue.pictureFolders == PictureFolders::MadeAsNeeded && !FolderExists(frame.files, folder))
+        frame.files.createFolder(folder.substr(0, folder.size() - 1));
+}
+
+std::string mappedName(const Catalogue& catalogue, const Materiel& materiel) {
+    const std::string_view file = materiel.FileName;
+    return MapPictureName(catalogue, file.substr(0, file.rfind('.')));
+}
+
+// Resources bear the names of files, which hold no separator.
+bool isPath(std::string_view picture) {
+    return picture.find_first_of("\\/") != std::string_view::npos;
+}
+
+PictureRef bitmapFile(Frame& frame, Catalogue& catalogue, const std::string& path) {
+    const auto size = catalogue.pictureSizes.sizeOf(frame.files, path);
+    return size ? PictureRef{PictureRef::File, path, size->width, size->height} : PictureRef();
+}
+
+PictureRef thumbnailOf(Frame& frame, Catalogue& catalogue, Materiel& materiel) {
+    const std::string folder = thumbnailsPath(frame.state);
+    makeFolder(frame, catalogue, folder);
+    PictureRef thumbnail = bitmapFile(frame, catalogue, folder + mappedName(catalogue, materiel) + ".bmp");
+    if (thumbnail.found()) {
+        materiel.ImageIsGeneric = materiel.ImageIsResource = false;
+        materiel.Picture = thumbnail.name;
+    }
+    return thumbnail;
+}
+
+// Nothing for stock of no type, such as an engine of another kind.
+PictureRef typeImageOf(Materiel& materiel) {
+    const bool plainEngine = equalIgnoringCase(materiel.Type, "engine") && materiel.EngineType.empty();
+    const int stockClass = plainEngine ? 0 : stockClassOf(materiel);
+    if (stockClass < 0)
+        return {};
+    materiel.ImageIsGeneric = materiel.ImageIsResource = true;
+    materiel.Picture = ShippedPictures[static_cast<std::size_t>(stockClass)].name;
+    return shippedPicture(materiel.Picture);
+}
+
+} // namespace
+
+PictureRef shippedPicture(std::string_view name) {
+    for (const ShippedPicture& shipped : ShippedPictures)
+        if (shipped.name == name)
+            return {PictureRef::Resource, std::string(name), shipped.width, shipped.height};
+    return {};
+}
+
+std::optional<PictureSize> readBitmapSize(FileSystem& files, std::string_view path) {
+    const auto stamp = files.stamp(path);
+    std::string bytes;
+    if (!stamp || stamp->size > LargestFile || !files.readFile(path, bytes))
+        return std::nullopt;
+    return sizeInHeaders(bytes);
+}
+
+std::optional<PictureSize> PictureSizes::sizeOf(FileSystem& files, std::string_view path) {
+    const auto stamp = files.stamp(path);
+    if (!stamp)
+        return std::nullopt;
+    const auto known = known_.find(path);
+    if (known != known_.end() && known->second.stamp == *stamp)
+        return known->second.size;
+    const auto size = readBitmapSize(files, path);
+    known_.insert_or_assign(std::string(path), Known{*stamp, size});
+    return size;
+}
+
+std::string thumbnailsPath(const AppState& state) {
+    return state.ProgramFolder + "\\Thumbnails\\";
+}
+
+void ReadBitmapList(Frame& frame, Catalogue& catalogue) {
+    const std::string folder = thumbnailsPath(frame.state);
+    const std::string path = folder + std::string(ListName);
+    std::string bytes, text(DefaultList);
+    if (frame.files.readFile(path, bytes)) {
+        decodeSettingsText(bytes, text);
+    } else if (catalogue.pictureFolders == PictureFolders::MadeAsNeeded && !frame.files.stamp(path)) {
+        makeFolder(frame, catalogue, folder);
+        replaceFile(frame.files, path, DefaultList);
+    }
+    takeLines(catalogue, text);
+}
+
+std::string MapPictureName(const Catalogue& catalogue, std::string_view name) {
+    const bool numeric =
+        std::find(std::begin(NumericNames), std::end(NumericNames), name) != std::end(NumericNames);
+    std::string mapped = (numeric ? "S" : "") + std::string(name);
+    for (const std::string& line : catalogue.BitmapPrefixes)
+        if (!line.empty() && mapped.starts_with(line))
+            mapped.resize(line.size());
+    return mapped;
+}
+
+PictureRef LoadMaterielPicture(Frame& frame, Catalogue& catalogue, Materiel& materiel,
+                               std::string* baseName) {
+    if (baseName)
+        baseName->clear();
+    if (materiel.Picture.empty()) {
+        const std::string mapped = mappedName(catalogue, materiel);
+        if (baseName)
+            *baseName = mapped;
+        materiel.Picture = upperCase(mapped);
+        materiel.ImageIsGeneric = false;
+        materiel.ImageIsResource = true;
+    } else if (isPath(materiel.Picture)) {
+        if (PictureRef file = bitmapFile(frame, catalogue, materiel.Picture); file.found())
+            return file;
+    }
+    if (PictureRef own = shippedPicture(materiel.Picture); own.found())
+        return own;
+    if (PictureRef thumbnail = thumbnailOf(frame, catalogue, materiel); thumbnail.found())
+        return thumbnail;
+    return typeImageOf(materiel);
+}
+
+} // namespace zandor

@@ -1,0 +1,25 @@
+// The stock files of a folder, as every walk through TRAINSET sees them.
+#pragma once
+
+#include "frame/messages.h"
+#include "platform/file_system.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace zandor {
+
+// A walk through all folders for one kind of stock.
+struct StockPass {
+    std::string_view extension;
+    Message listing;
+};
+inline constexpr StockPass StockPasses[] = {{".eng", Message::ListingEngines},
+                                            {".wag", Message::ListingWagons}};
+
+// Names with their extension, in listing order, without the wagon that is no stock.
+std::vector<std::string> listStockFiles(FileSystem& files, std::string_view folder,
+                                        std::string_view extension);
+
+} // namespace zandor

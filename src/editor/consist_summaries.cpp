@@ -1,0 +1,118 @@
+#include "editor/consist_summaries.h"
+
+#include "catalogue/name_key.h"
+
+namespace zandor {
+
+const std::string& CompositionTexts::of(int engines, int wagons) {
+    const auto [place, isNew] = known_.try_emplace({engines, wagons});
+    if (!isNew)
+        return place->second;
+    const auto part = [this](int count, Message one, Message many) {
+        const std::string figure = std::to_string(count);
+        return count == 0 ? std::string() : frame_.text(count == 1 ? one : many, {{"|1", figure}});
+    };
+    place->second = part(engines, Message::OneEngine, Message::ManyEngines);
+    if (engines > 0 && wagons > 0)
+        place->second += frame_.text(Message::CompositionJoint);
+    place->second += part(wagons, Message::OneWagon, Message::ManyWagons);
+    return place->second;
+}
+
+ServiceConsists::ServiceConsists(const Catalogue& catalogue) {
+    for (const std::string& name : catalogue.RamesEnService)
+        names_.insert(lowerCase(name));
+}
+
+std::string_view ServiceConsists::markOf(std::string_view fileName) const {
+    return names_.contains(lowerCase(fileName)) ? RouteMarkYes : RouteMarkNo;
+}
+
+bool StockPresence::has(std::string_view folder, std::string_view file) {
+    makeNameKey(folder, file, key_);
+    const auto known = known_.find(key_);
+    if (known != known_.end())
+        return known->second;
+    const bool found = isIn(state_.RootMSTS, folder, file) || isIn(state_.RootTStore, folder, file);
+    known_.emplace(key_, found);
+    return found;
+}
+
+bool StockPresence::isIn(std::string_view root, std::string_view folder, std::string_view file) {
+    if (root.empty())
+        return false;
+    std::string path = trainsetPath(root);
+    path.append(folder).append(1, '\\').append(file);
+    return FileExists(files_, path);
+}
+
+SummaryReader::SummaryReader(Frame& frame, const Catalogue& catalogue)
+    : folder_(consistsPath(frame.state.RootPrimary)), reader_(frame.files, frame.language),
+      stock_(frame.files, frame.state), services_(catalogue), compositions_(frame) {}
+
+void SummaryReader::takeItem(const RameItem& item, ConsistSummary& summary) {
+    ++(item.IsEngine ? summary.Engines : summary.Wagons);
+    summary.Complete = summary.Complete && stock_.has(item.Folder, stockFileOf(item));
+}
+
+void SummaryReader::ReadConsistSummary(const std::string& fileName, std::vector<ConsistSummary>& summaries) {
+    // What is wrong with a file is told when it is opened.
+    ReadConsistFile(reader_, rame_, items_, folder_ + fileName);
+    ConsistSummary& summary = summaries.emplace_back();
+    summary.FullName = rame_.Name;
+    summary.FileName = fileName;
+    summary.RouteMark = services_.markOf(fileName);
+    for (const RameItem& item : items_)
+        if (!item.Name.empty())
+            takeItem(item, summary);
+    summary.Composition = compositions_.of(summary.Engines, summary.Wagons);
+}
+
+bool BuildConsistSummaries(Frame& frame, Catalogue& catalogue, Progress& progress) {
+    forgetSummaries(catalogue);
+    const std::vector<std::string> names = catalogue.ConsistFiles; // events are served while this runs
+    const std::string head = frame.text(Message::ReadingStock) + "   ";
+    const int last = static_cast<int>(names.size()) - 1;
+    SummaryReader reader(frame, catalogue);
+    std::vector<ConsistSummary> summaries;
+    summaries.reserve(names.size());
+    int current = -1;
+    for (const std::string& name : names) {
+        ++current;
+        if (name.empty())
+            continue;
+        progress.ShowProgress(0, last, current, head + name);
+        if (!progress.yield())
+            return false;
+        reader.ReadConsistSummary(name, summaries);
+    }
+    if (summaries.empty())
+        summaries.emplace_back();
+    catalogue.ConsistSummaries = std::move(summaries);
+    catalogue.summariesRead = true;
+    return true;
+}
+
+bool prepareSummaries(Frame& frame, Catalogue& catalogue, Progress& progress) {
+    // A load that is running has its own use for the arrays: the last table serves.
+    if (!catalogue.summariesRead && !frame.state.Busy)
+        return BuildConsistSummaries(frame, catalogue, progress);
+    CompositionTexts compositions(frame);
+    for (ConsistSummary& summary : catalogue.ConsistSummaries)
+        if (!summary.FileName.empty())
+            summary.Composition = compositions.of(summary.Engines, summary.Wagons);
+    return true;
+}
+
+std::vector<int> FillConsistList(const Catalogue& catalogue) {
+    const std::vector<ConsistSummary>& summaries = catalogue.ConsistSummaries;
+    std::vector<int> rows;
+    rows.reserve(summaries.size());
+    for (const bool complete : {true, false})
+        for (std::size_t i = 0; i < summaries.size(); ++i)
+            if (!summaries[i].FileName.empty() && summaries[i].Complete == complete)
+                rows.push_back(static_cast<int>(i));
+    return rows;
+}
+
+} // namespace zandor

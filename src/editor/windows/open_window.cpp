@@ -1,0 +1,244 @@
+#include "editor/windows/open_window.h"
+
+#include "editor/windows/elided_label.h"
+#include "editor/windows/open_model.h"
+#include "frame/windows/cursors.h"
+#include "frame/windows/qt_text.h"
+#include "frame/windows/settings_colour.h"
+
+#include <QBoxLayout>
+#include <QHeaderView>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QScreen>
+#include <QTimer>
+#include <QTreeView>
+
+#include <algorithm>
+
+namespace zandor {
+
+namespace {
+
+constexpr QSize DefaultSize{860, 560};
+constexpr int BarWidth = 260; // pixels
+
+// The columns that are as wide as their texts, and how much of the list they take at most.
+constexpr std::pair<OpenModel::Column, double> SizedColumns[] = {
+    {OpenModel::CompositionColumn, 0.34},
+    {OpenModel::FileColumn, 0.26},
+};
+
+template <class Widget> Widget* named(Widget* widget, const char* name) {
+    widget->setObjectName(name);
+    return widget;
+}
+
+// A click on the row's file or composition leaves the typed letters to the names.
+class ConsistView final : public QTreeView {
+  public:
+    using QTreeView::QTreeView;
+    void keyboardSearch(const QString& text) override {
+        if (currentIndex().column() > 0)
+            setCurrentIndex(currentIndex().siblingAtColumn(0));
+        QTreeView::keyboardSearch(text);
+    }
+};
+
+} // namespace
+
+frmOpen::frmOpen(Frame& frame, Catalogue& catalogue, Open open, QWidget* parent)
+    : QDialog(parent), frame_(frame), catalogue_(catalogue), open_(std::move(open)),
+      model_(new OpenModel(frame, this)), lsvCONSISTS_(named(new ConsistView(this), "lsvCONSISTS")),
+      Label1_(named(new ElidedLabel(this, Qt::ElideRight), "Label1")),
+      lblCOUNT_(named(new QLabel(this), "lblCOUNT")),
+      ProgressBar1_(named(new QProgressBar(this), "ProgressBar1")),
+      cmdOPEN_(named(new QPushButton(this), "cmdOPEN")),
+      cmdCANCEL_(named(new QPushButton(this), "cmdCANCEL")), Timer1_(named(new QTimer(this), "Timer1")) {
+    setObjectName("frmOpen");
+    buildList();
+    layOut();
+    connectAll();
+    applySettings();
+    resize(DefaultSize.boundedTo(screen()->availableGeometry().size()));
+}
+
+void frmOpen::buildList() {
+    lsvCONSISTS_->setModel(model_);
+    lsvCONSISTS_->setRootIsDecorated(false);
+    lsvCONSISTS_->setUniformRowHeights(true);
+    lsvCONSISTS_->setIconSize({16, 16});
+    lsvCONSISTS_->setAllColumnsShowFocus(true);
+    lsvCONSISTS_->setSelectionMode(QAbstractItemView::SingleSelection);
+    lsvCONSISTS_->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    lsvCONSISTS_->setMinimumHeight(90);
+    lsvCONSISTS_->setAccessibleName(toQt(frame_.text(Message::ConsistFilter)));
+    QHeaderView* columns = lsvCONSISTS_->header();
+    columns->setStretchLastSection(false);
+    columns->setSectionsMovable(false);
+    columns->setSectionsClickable(true);
+    columns->setSectionResizeMode(OpenModel::NameColumn, QHeaderView::Stretch);
+    columns->setMinimumSectionSize(6 * fontMetrics().averageCharWidth());
+}
+
+void frmOpen::layOut() {
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(12, 12, 12, 12);
+    column->setSpacing(10);
+    column->addWidget(lsvCONSISTS_, 1);
+
+    column->addWidget(Label1_);
+
+    auto* buttons = new QHBoxLayout;
+    ProgressBar1_->setMaximumWidth(BarWidth);
+    ProgressBar1_->setTextVisible(false);
+    lblCOUNT_->setProperty("quiet", true); // comes in the bar's place
+    buttons->addWidget(ProgressBar1_, 1);
+    buttons->addWidget(lblCOUNT_, 1);
+    buttons->addWidget(cmdOPEN_);
+    buttons->addWidget(cmdCANCEL_);
+    column->addLayout(buttons);
+
+    setTabOrder(lsvCONSISTS_, cmdOPEN_);
+    setTabOrder(cmdOPEN_, cmdCANCEL_);
+    lsvCONSISTS_->setFocus();
+}
+
+void frmOpen::connectAll() {
+    cmdOPEN_->setDefault(true); // Enter in the list
+    cmdOPEN_->setProperty("primary", true);
+    cmdOPEN_->setEnabled(false);
+    Timer1_->setSingleShot(true);
+    connect(cmdOPEN_, &QPushButton::clicked, this, &frmOpen::OpenSelectedConsist);
+    connect(cmdCANCEL_, &QPushButton::clicked, this, &QDialog::reject);
+    connect(Timer1_, &QTimer::timeout, this, &frmOpen::start);
+    connect(lsvCONSISTS_, &QTreeView::doubleClicked, this, &frmOpen::OpenSelectedConsist);
+    connect(lsvCONSISTS_->selectionModel(), &QItemSelectionModel::currentChanged, this,
+            &frmOpen::showSelected);
+    connect(lsvCONSISTS_->header(), &QHeaderView::sectionClicked, this, &frmOpen::sortBy);
+    connect(lsvCONSISTS_->header(), &QHeaderView::sectionResized, this, [this](int column) {
+        if (column != OpenModel::NameColumn && !sizing_)
+            sizedByUser_ = true;
+    });
+}
+
+void frmOpen::applySettings() {
+    setWindowTitle(toQt(frame_.text(Message::OpenTitle, {{"|1", frame_.state.Title}})));
+    cmdOPEN_->setText(toQt(frame_.text(Message::OpenVerb)));
+    cmdCANCEL_->setText(toQt(frame_.text(Message::Cancel)));
+    Label1_->setText(toQt(frame_.text(Message::ReadingStock)));
+    ProgressBar1_->setAccessibleName(Label1_->text());
+
+    const QColor background = readColour(frame_, "Color1"), text = readColour(frame_, "Color2");
+    QPalette colours = lsvCONSISTS_->palette();
+    if (background.isValid())
+        colours.setColor(QPalette::Base, background);
+    if (text.isValid())
+        colours.setColor(QPalette::Text, text);
+    lsvCONSISTS_->setPalette(colours);
+    model_->setTextColour(text);
+}
+
+void frmOpen::showEvent(QShowEvent* event) {
+    QDialog::showEvent(event);
+    if (!started_)
+        Timer1_->start(0);
+}
+
+void frmOpen::resizeEvent(QResizeEvent* event) {
+    QDialog::resizeEvent(event);
+    sizeColumns();
+}
+
+void frmOpen::start() {
+    if (std::exchange(started_, true))
+        return;
+    sizeColumns();
+    const BusyPointer busy;
+    QtProgress progress;
+    progress.setView(this);
+    if (prepareSummaries(frame_, catalogue_, progress))
+        QTimer::singleShot(0, this, &frmOpen::showList); // the events that wait go first
+}
+
+void frmOpen::showStep(int lower, int upper, int current, const QString& text) {
+    ProgressBar1_->setRange(lower, upper);
+    ProgressBar1_->setValue(current);
+    Label1_->setText(text);
+}
+
+void frmOpen::done(int result) {
+    ended_ = true;
+    QDialog::done(result);
+}
+
+void frmOpen::showList() {
+    if (ended_)
+        return;
+    model_->setRows(catalogue_.ConsistSummaries, FillConsistList(catalogue_));
+    ProgressBar1_->hide();
+    sizeColumns();
+    showCounts();
+    const bool any = model_->rowCount() > 0;
+    cmdOPEN_->setEnabled(any);
+    if (any)
+        lsvCONSISTS_->setCurrentIndex(model_->index(0, 0));
+    else
+        Label1_->setText(toQt(frame_.text(Message::OpenNone)));
+}
+
+// The names get what is left; as soon as the user has sized a column, all stay.
+void frmOpen::sizeColumns() {
+    if (sizedByUser_)
+        return;
+    QFont bold = lsvCONSISTS_->font();
+    bold.setBold(true);
+    const QFontMetrics metrics(bold);
+    const int width = lsvCONSISTS_->viewport()->width();
+    sizing_ = true;
+    for (const auto& [column, most] : SizedColumns) {
+        const int needed =
+            metrics.horizontalAdvance(model_->longestText(column)) + 3 * metrics.averageCharWidth();
+        lsvCONSISTS_->header()->resizeSection(column, std::min(needed, static_cast<int>(most * width)));
+    }
+    sizing_ = false;
+}
+
+void frmOpen::showCounts() {
+    const std::string all = std::to_string(model_->rowCount());
+    const std::string incomplete = std::to_string(model_->incompleteCount());
+    const Message message = incomplete == "0" ? Message::OpenCount : Message::OpenCountIncomplete;
+    lblCOUNT_->setText(toQt(frame_.text(message, {{"|1", all}, {"|2", incomplete}})));
+}
+
+void frmOpen::showSelected() {
+    const QModelIndex row = lsvCONSISTS_->currentIndex();
+    if (!row.isValid())
+        return;
+    const std::string name = fromQt(row.siblingAtColumn(OpenModel::NameColumn).data().toString());
+    const std::string file = fromQt(row.siblingAtColumn(OpenModel::FileColumn).data().toString());
+    Label1_->setText(toQt(frame_.text(Message::ConsistSelected, {{"|1", name}, {"|2", file}})));
+}
+
+void frmOpen::sortBy(int column) {
+    if (model_->rowCount() == 0)
+        return;
+    const QString key = lsvCONSISTS_->currentIndex().data(OpenModel::KeyRole).toString();
+    order_ = order_ == Qt::AscendingOrder ? Qt::DescendingOrder : Qt::AscendingOrder;
+    model_->sort(column, order_);
+    lsvCONSISTS_->header()->setSortIndicatorShown(true);
+    lsvCONSISTS_->header()->setSortIndicator(column, order_);
+    lsvCONSISTS_->setCurrentIndex(model_->indexOfKey(key));
+    lsvCONSISTS_->scrollTo(lsvCONSISTS_->currentIndex());
+}
+
+void frmOpen::OpenSelectedConsist() {
+    const QModelIndex row = lsvCONSISTS_->currentIndex();
+    if (!row.isValid())
+        return;
+    const QString file = row.siblingAtColumn(OpenModel::FileColumn).data().toString();
+    if (open_(consistsPath(frame_.state.RootPrimary) + fromQt(file)))
+        accept();
+}
+
+} // namespace zandor

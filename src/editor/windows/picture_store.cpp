@@ -1,0 +1,154 @@
+#include "editor/windows/picture_store.h"
+
+#include "editor/windows/vehicle_art.h"
+#include "frame/windows/qt_text.h"
+
+#include <QPainter>
+
+#include <algorithm>
+#include <numeric>
+
+namespace zandor {
+
+namespace {
+
+constexpr qsizetype KeptBytes = 64 << 20; // more goes when it isn't in use
+
+struct MarkRow {
+    CouplingMark mark;
+    const char* file;
+    std::string_view kind;
+};
+constexpr MarkRow Marks[] = {
+    {CouplingMark::Auto, "imgAUTO", "AUTO"},
+    {CouplingMark::Bar, "imgBAR", "BAR"},
+    {CouplingMark::Chain, "imgCHAIN", "CHAIN"},
+    {CouplingMark::Hydro, "imgHYDRO", "HYDRO"},
+    {CouplingMark::NotCompatible, "imgNO_COMPATIBLE", ""},
+};
+
+QImage readResource(const PictureName& picture) {
+    QImage image(QString(":/stock/%1.bmp").arg(toQt(picture.name)));
+    if (!image.isNull())
+        return image;
+    const int stockClass = numericInt16(picture.name) - 5000;
+    if (picture.name != MissingPicture && (stockClass < 0 || stockClass > 5))
+        return {};
+    image = QImage(PlainPictureWidth, PlainPictureHeight, QImage::Format_RGB32);
+    QPainter painter(&image);
+    if (picture.name == MissingPicture)
+        paintMissingArt(painter, image.rect());
+    else
+        paintVehicleArt(painter, image.rect(), stockClass, false);
+    return image;
+}
+
+QPixmap paintMark(const MarkRow& row, double ratio) {
+    const int size = qRound(MarkSize * ratio);
+    QPixmap picture(size, size);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    painter.scale(double(size) / MarkSize, double(size) / MarkSize);
+    if (row.mark == CouplingMark::NotCompatible)
+        paintBadCouplingMark(painter, {});
+    else
+        paintCouplingMark(painter, {}, row.kind);
+    return picture;
+}
+
+QPixmap drawMark(const MarkRow& row, double ratio) {
+    const QImage plain(QString(":/art/%1.png").arg(row.file)), fine(QString(":/art/%1@2x.png").arg(row.file));
+    if (plain.isNull())
+        return paintMark(row, ratio);
+    const QImage& source = ratio > 1 && !fine.isNull() ? fine : plain;
+    const QSize size(qRound(plain.width() * ratio), qRound(plain.height() * ratio));
+    return QPixmap::fromImage(source.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+}
+
+QPixmap scaledCopy(const QImage& image, QSize size, bool mirrored) {
+    const bool whole = size.width() % image.width() == 0 && size.height() % image.height() == 0;
+    const QImage copy =
+        image.scaled(size, Qt::IgnoreAspectRatio, whole ? Qt::FastTransformation : Qt::SmoothTransformation);
+    return QPixmap::fromImage(mirrored ? copy.mirrored(true, false) : copy);
+}
+
+} // namespace
+
+qsizetype PictureStore::Kept::bytes() const {
+    return std::accumulate(copies.begin(), copies.end(), image.sizeInBytes(),
+                           [](qsizetype sum, const auto& copy) {
+                               return sum + qsizetype(copy.first.width) * copy.first.height * 4;
+                           });
+}
+
+void PictureStore::beginRedraw() {
+    qsizetype bytes = 0;
+    for (const auto& [name, kept] : kept_)
+        bytes += kept.bytes();
+    if (bytes > KeptBytes)
+        std::erase_if(kept_, [this](const auto& entry) { return entry.second.asked != redraw_; });
+    ++redraw_;
+}
+
+PictureStore::Kept& PictureStore::find(const PictureName& picture) {
+    const auto [place, isNew] = kept_.try_emplace(picture);
+    Kept& kept = place->second;
+    if (isNew || kept.asked != redraw_)
+        refresh(picture, kept, isNew);
+    kept.asked = redraw_;
+    return kept;
+}
+
+void PictureStore::refresh(const PictureName& picture, Kept& kept, bool isNew) {
+    if (picture.isResource) {
+        if (isNew)
+            kept.image = readResource(picture).convertToFormat(QImage::Format_RGB32);
+        return;
+    }
+    const auto stamp = files_.stamp(picture.name);
+    if (!isNew && stamp == kept.stamp)
+        return;
+    kept.stamp = stamp;
+    kept.copies.clear();
+    kept.image = stamp ? readFile(picture) : QImage();
+}
+
+QImage PictureStore::readFile(const PictureName& picture) const {
+    std::string bytes;
+    QImage image;
+    if (files_.readFile(picture.name, bytes))
+        image.loadFromData(QByteArray::fromRawData(bytes.data(), qsizetype(bytes.size())), "BMP");
+    return image.convertToFormat(QImage::Format_RGB32);
+}
+
+std::optional<PictureSize> PictureStore::size(const PictureName& picture) {
+    const QImage& found = image(picture);
+    if (found.isNull())
+        return std::nullopt;
+    return PictureSize{found.width(), found.height()};
+}
+
+const QImage& PictureStore::image(const PictureName& picture) {
+    return find(picture).image;
+}
+
+const QPixmap& PictureStore::scaled(const PictureName& picture, QSize size, bool mirrored) {
+    Kept& kept = find(picture);
+    const auto [place, isNew] = kept.copies.try_emplace({size.width(), size.height(), mirrored});
+    if (isNew && !kept.image.isNull() && !size.isEmpty())
+        place->second = scaledCopy(kept.image, size, mirrored);
+    return place->second;
+}
+
+int PictureStore::markWidth(CouplingMark mark) {
+    return this->mark(mark, 1).width();
+}
+
+const QPixmap& PictureStore::mark(CouplingMark mark, double pixelRatio) {
+    const auto [place, isNew] = marks_.try_emplace({mark, pixelRatio});
+    if (isNew)
+        place->second = drawMark(*std::ranges::find(Marks, mark, &MarkRow::mark), pixelRatio);
+    return place->second;
+}
+
+} // namespace zandor

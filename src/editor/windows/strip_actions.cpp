@@ -1,0 +1,68 @@
+#include "editor/windows/strip_actions.h"
+
+#include "frame/windows/art.h"
+#include "frame/windows/qt_text.h"
+
+#include <QAction>
+#include <QMenu>
+#include <QWidget>
+
+namespace zandor {
+
+namespace {
+
+struct ActionRow {
+    StripActions::Id id;
+    const char* name;
+    Message caption;
+    QKeyCombination key;
+    bool ofVehicle; // its key works in the strip alone
+};
+constexpr ActionRow Rows[] = {
+    {StripActions::InsertEnd, "actINSERT_END", Message::MenuInsertEnd, Qt::CTRL | Qt::Key_E, false},
+    {StripActions::InsertBefore, "actINSERT_BEFORE", Message::MenuInsertBefore, Qt::CTRL | Qt::Key_B, false},
+    {StripActions::MoveLeft, "actMOVE_LEFT", Message::MenuMoveLeft, Qt::CTRL | Qt::Key_Left, true},
+    {StripActions::MoveRight, "actMOVE_RIGHT", Message::MenuMoveRight, Qt::CTRL | Qt::Key_Right, true},
+    {StripActions::Flip, "actFLIP", Message::MenuFlip, Qt::CTRL | Qt::Key_T, true},
+    {StripActions::Remove, "actREMOVE", Message::MenuRemove, Qt::Key_Delete, true},
+    {StripActions::FindInList, "actFIND", Message::MenuFindInList, Qt::CTRL | Qt::Key_F, false},
+    {StripActions::Renumber, "actRENUMBER", Message::MenuRenumber, Qt::CTRL | Qt::Key_U, false},
+};
+
+} // namespace
+
+StripActions::StripActions(QWidget& window, QWidget& strip)
+    : QObject(&window), stripMenu_(new QMenu(&window)), stockMenu_(new QMenu(&window)) {
+    for (const ActionRow& row : Rows) {
+        auto* action = new QAction(this);
+        action->setObjectName(row.name);
+        action->setShortcut(row.key);
+        action->setShortcutContext(row.ofVehicle ? Qt::WidgetShortcut : Qt::WindowShortcut);
+        (row.ofVehicle ? strip : window).addAction(action);
+        connect(action, &QAction::triggered, this, [this, id = row.id] { emit triggered(id); });
+        actions_[row.id] = action;
+        stripMenu_->addAction(action);
+        if (row.id == InsertBefore || row.id == FindInList)
+            stripMenu_->addSeparator();
+    }
+    stripMenu_->setObjectName("mnuSTRIP");
+    stockMenu_->setObjectName("mnuSTOCK");
+    stockMenu_->addActions({actions_[InsertEnd], actions_[InsertBefore]});
+}
+
+void StripActions::caption(const Frame& frame) {
+    for (const ActionRow& row : Rows)
+        actions_[row.id]->setText(toQt(frame.text(row.caption)));
+}
+
+void StripActions::enable(bool stockSelected, bool vehicleSelected, bool vehicleMissing, bool hasVehicles) {
+    actions_[InsertEnd]->setEnabled(stockSelected);
+    actions_[InsertBefore]->setEnabled(stockSelected && vehicleSelected);
+    for (const Id id : {MoveLeft, MoveRight, Remove})
+        actions_[id]->setEnabled(vehicleSelected);
+    for (const Id id : {Flip, FindInList})
+        actions_[id]->setEnabled(vehicleSelected && !vehicleMissing);
+    actions_[Renumber]->setEnabled(hasVehicles);
+}
+
+} // namespace zandor

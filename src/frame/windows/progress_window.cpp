@@ -1,0 +1,78 @@
+#include "frame/windows/progress_window.h"
+
+#include "frame/windows/first_paint.h"
+#include "frame/windows/help.h"
+#include "frame/windows/progress_bar.h"
+#include "frame/windows/qt_text.h"
+#include "frame/windows/window_parts.h"
+
+#include <QCloseEvent>
+#include <QVBoxLayout>
+
+namespace zandor {
+
+frmProgress::frmProgress(Frame& frame, QWidget* parent)
+    : QDialog(parent), state_(frame.state), text_(new PathLabel(this)), bar_(new ProgressBar(this)) {
+    setObjectName("frmProgress");
+    setWindowTitle(
+        toQt(frame.text(Message::ProgressTitle, {{"|1", frame.state.Title},
+                                                 {"|2", frame.files.nativePath(frame.state.RootPrimary)}})));
+    setModal(true);
+    setHelpContext(*this, helpContext::Stock);
+    setCursor(Qt::WaitCursor);
+
+    auto* head = new QLabel(toQt(frame.text(Message::ProgressHead)), this);
+    head->setObjectName("lblHEAD");
+    QFont bold = head->font();
+    bold.setBold(true);
+    head->setFont(bold);
+    head->setAlignment(Qt::AlignCenter);
+    text_->setObjectName("lblTEXT");
+    bar_->setTextVisible(false);
+    bar_->setAccessibleName(head->text());
+
+    auto* layout = new QVBoxLayout(this);
+    const int space = fontMetrics().height();
+    layout->setContentsMargins(space, space, space, space);
+    layout->setSpacing(space / 2);
+    for (QWidget* part :
+         {static_cast<QWidget*>(head), static_cast<QWidget*>(text_), static_cast<QWidget*>(bar_)})
+        layout->addWidget(part);
+    layout->setSizeConstraint(QLayout::SetFixedSize);
+}
+
+bool frmProgress::run(QtProgress& progress, std::function<void()> reload) {
+    state_.ProgressUp = true;
+    progress.setView(this);
+    new FirstPaintTimer(this, [this, reload = std::move(reload)] {
+        running_ = true;
+        reload();
+        running_ = false;
+        accept();
+    });
+    exec();
+    progress.setView(nullptr);
+    state_.ProgressUp = false;
+    return !ended_;
+}
+
+void frmProgress::showStep(int lower, int upper, int current, const QString& text) {
+    text_->setText(text);
+    bar_->setStep(lower, upper, current, text);
+}
+
+void frmProgress::reject() {
+    ended_ = true;
+    if (!running_)
+        QDialog::reject();
+}
+
+void frmProgress::closeEvent(QCloseEvent* event) {
+    ended_ = true;
+    if (running_)
+        event->ignore();
+    else
+        QDialog::closeEvent(event);
+}
+
+} // namespace zandor

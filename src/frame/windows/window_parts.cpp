@@ -1,0 +1,149 @@
+#include "frame/windows/window_parts.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QPushButton>
+#include <QScreen>
+
+#include <algorithm>
+#include <cmath>
+
+namespace zandor {
+
+namespace {
+
+constexpr int WidestLine = 78; // letters of a message's line
+constexpr double PartOfScreen = 0.6;
+
+QRect screenOf(const QWidget& widget) {
+    return widget.screen()->availableGeometry();
+}
+
+} // namespace
+
+QWidget* parentOfDialogs() {
+    if (QWidget* modal = QApplication::activeModalWidget())
+        return modal;
+    if (QWidget* active = QApplication::activeWindow())
+        return active;
+    for (QWidget* window : QApplication::topLevelWidgets())
+        if (window->isVisible() && window->isWindow())
+            return window;
+    return nullptr;
+}
+
+QLabel* makeIconLabel(QWidget* parent, const QIcon& icon) {
+    auto* label = new QLabel(parent);
+    const int size = parent->style()->pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, parent);
+    label->setPixmap(icon.pixmap(QSize(size, size), parent->devicePixelRatioF()));
+    label->setAlignment(Qt::AlignTop | Qt::AlignHCenter);
+    return label;
+}
+
+QIcon programIcon() {
+    return QApplication::windowIcon();
+}
+
+WrappedText::WrappedText(QWidget* parent) : QTextEdit(parent) {
+    setReadOnly(true);
+    setFrameShape(QFrame::NoFrame);
+    setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+    viewport()->setBackgroundRole(QPalette::Window);
+    viewport()->setCursor(Qt::IBeamCursor);
+    document()->setDocumentMargin(0);
+}
+
+void WrappedText::setText(const QString& text) {
+    setPlainText(QString(text).remove(u'\r'));
+    setAccessibleName(text);
+    measure();
+    // A text that is seen whole is no stop on the way of the Tab key.
+    setFocusPolicy(scrolls() ? Qt::StrongFocus : Qt::ClickFocus);
+    setVerticalScrollBarPolicy(scrolls() ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOff);
+}
+
+void WrappedText::copyAll() {
+    if (textCursor().hasSelection())
+        copy();
+    else
+        QApplication::clipboard()->setText(toPlainText());
+}
+
+void WrappedText::measure() {
+    const double widest = std::min<double>(WidestLine * fontMetrics().averageCharWidth(),
+                                           PartOfScreen * screenOf(*this).width());
+    QTextDocument measured;
+    measured.setDefaultFont(font());
+    measured.setDocumentMargin(0);
+    measured.setPlainText(toPlainText());
+    QTextOption option = measured.defaultTextOption();
+    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    measured.setDefaultTextOption(option);
+    const double width = std::min(std::ceil(measured.idealWidth()) + 1, widest);
+    measured.setTextWidth(width);
+    wanted_ = {static_cast<int>(width), static_cast<int>(std::ceil(measured.size().height()))};
+    updateGeometry();
+}
+
+int WrappedText::longest() const {
+    return static_cast<int>(PartOfScreen * screenOf(*this).height());
+}
+
+QSize WrappedText::sizeHint() const {
+    if (!scrolls())
+        return wanted_;
+    return {wanted_.width() + style()->pixelMetric(QStyle::PM_ScrollBarExtent), longest()};
+}
+
+QSize WrappedText::minimumSizeHint() const {
+    return scrolls() ? QSize(sizeHint().width(), fontMetrics().lineSpacing() * 5) : wanted_;
+}
+
+void WrappedText::keyPressEvent(QKeyEvent* event) {
+    if (event->matches(QKeySequence::Copy))
+        copyAll();
+    else
+        QTextEdit::keyPressEvent(event);
+}
+
+void WrappedText::changeEvent(QEvent* event) {
+    QTextEdit::changeEvent(event);
+    if (event->type() == QEvent::FontChange)
+        measure();
+}
+
+PathLabel::PathLabel(QWidget* parent) : QLabel(parent) {
+    setTextFormat(Qt::PlainText);
+    setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+}
+
+QSize PathLabel::minimumSizeHint() const {
+    return {fontMetrics().averageCharWidth() * 20, fontMetrics().height() + 2};
+}
+
+QSize PathLabel::sizeHint() const {
+    return {fontMetrics().horizontalAdvance(text()), fontMetrics().height() + 2};
+}
+
+void PathLabel::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    const QString shown = fontMetrics().elidedText(text(), Qt::ElideMiddle, width());
+    if (const QString tip = shown == text() ? QString() : text(); toolTip() != tip)
+        setToolTip(tip);
+    style()->drawItemText(&painter, rect(), Qt::AlignLeft | Qt::AlignVCenter, palette(), isEnabled(), shown,
+                          foregroundRole());
+}
+
+void makeSameWidth(const std::vector<QPushButton*>& buttons) {
+    int width = 0;
+    for (const QPushButton* button : buttons)
+        width = std::max(width, button->sizeHint().width());
+    for (QPushButton* button : buttons)
+        button->setMinimumWidth(width);
+}
+
+} // namespace zandor

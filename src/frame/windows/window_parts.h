@@ -1,0 +1,64 @@
+// Small parts that the frame's windows share.
+#pragma once
+
+#include <QLabel>
+#include <QStyle>
+#include <QTextEdit>
+
+#include <string>
+#include <vector>
+
+class QPushButton;
+
+namespace zandor {
+
+class Language;
+
+// The window that a message stands in front of, also while another program has the focus.
+QWidget* parentOfDialogs();
+
+// One of the desktop's own icons at the size of its messages.
+QLabel* makeIconLabel(QWidget* parent, const QIcon& icon);
+// The icon of the program, for messages that have none of their own; may be empty.
+QIcon programIcon();
+
+// A text to read, as large as it needs to be: it wraps between words and, in a path, between any two
+// letters, and scrolls when it would leave the screen. What is copied is the text as it was given.
+class WrappedText final : public QTextEdit {
+    Q_OBJECT
+  public:
+    explicit WrappedText(QWidget* parent);
+    void setText(const QString& text);
+    void copyAll(); // the selection, where there is one
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+    bool scrolls() const { return wanted_.height() > longest(); }
+
+  protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+  private:
+    void measure();
+    int longest() const;
+
+    QSize wanted_;
+};
+
+// A path on one line, shortened in its middle where the place is too narrow.
+class PathLabel final : public QLabel {
+    Q_OBJECT
+  public:
+    explicit PathLabel(QWidget* parent);
+    QSize minimumSizeHint() const override;
+    QSize sizeHint() const override;
+
+  protected:
+    void paintEvent(QPaintEvent*) override;
+};
+
+// Buttons as wide as the widest of them.
+void makeSameWidth(const std::vector<QPushButton*>& buttons);
+
+} // namespace zandor
