@@ -12,6 +12,12 @@ make_demo_copy() {
     mv build/demo.part build/demo
 }
 
+# The pictures of the demonstration's vehicles, drawn by the build, as its user would keep them.
+give_demo_pictures() {
+    mkdir -p "$ZANDOR_HOME/Thumbnails"
+    cp -n build/thumbnails/*.bmp "$ZANDOR_HOME/Thumbnails/"
+}
+
 # Settings that point at the work copy. The mark in front makes the file UTF-8, so that any folder name will do.
 make_demo_settings() {
     local file=$ZANDOR_HOME/Zandor.ini

@@ -144,7 +144,7 @@ DesktopAssociation::Outcome DesktopAssociation::take(const std::string& path) {
 
 // True for an entry that another copy of this program, with settings of its own, has added and still needs.
 bool DesktopAssociation::isOthers(const std::string& entry, const std::string& executable) {
-    const std::size_t mark = entry.find("\n" + std::string(Mark) + "=");
+    const std::size_t mark = entry.find(std::string("\n").append(Mark).append("="));
     if (mark == std::string::npos)
         return false;
     const std::string line = entry.substr(mark + 1, entry.find('\n', mark + 1) - mark - 1);

@@ -1,6 +1,6 @@
 #include "editor/windows/picture_store.h"
 
-#include "editor/windows/vehicle_art.h"
+#include "editor/windows/coupling_marks.h"
 #include "frame/windows/qt_text.h"
 
 #include <QPainter>
@@ -28,19 +28,7 @@ constexpr MarkRow Marks[] = {
 };
 
 QImage readResource(const PictureName& picture) {
-    QImage image(QString(":/stock/%1.bmp").arg(toQt(picture.name)));
-    if (!image.isNull())
-        return image;
-    const int stockClass = numericInt16(picture.name) - 5000;
-    if (picture.name != MissingPicture && (stockClass < 0 || stockClass > 5))
-        return {};
-    image = QImage(PlainPictureWidth, PlainPictureHeight, QImage::Format_RGB32);
-    QPainter painter(&image);
-    if (picture.name == MissingPicture)
-        paintMissingArt(painter, image.rect());
-    else
-        paintVehicleArt(painter, image.rect(), stockClass, false);
-    return image;
+    return QImage(QString(":/stock/%1.bmp").arg(toQt(picture.name)));
 }
 
 QPixmap paintMark(const MarkRow& row, double ratio) {
