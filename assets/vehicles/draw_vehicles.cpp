@@ -40,6 +40,7 @@ bool saveAll(const std::vector<art::Vehicle>& vehicles, const QDir& folder) {
 int main(int argc, char** argv) {
     if (argc != 3)
         return 2;
-    const bool saved = saveAll(art::builtInVehicles(), QDir(argv[1])) && saveAll(art::demonstrationFleet(), QDir(argv[2]));
+    const bool saved =
+        saveAll(art::builtInVehicles(), QDir(argv[1])) && saveAll(art::demonstrationFleet(), QDir(argv[2]));
     return saved ? 0 : 1;
 }

@@ -26,7 +26,8 @@ struct Spread {
 Spread widestSpread(const Shades& shades) {
     Spread widest{qRed, -1};
     for (const Channel channel : Channels) {
-        const auto [low, high] = std::ranges::minmax(shades, {}, [&](const Shade& s) { return channel(s.colour); });
+        const auto [low, high] =
+            std::ranges::minmax(shades, {}, [&](const Shade& s) { return channel(s.colour); });
         const int width = channel(high.colour) - channel(low.colour);
         if (width > widest.width)
             widest = {channel, width};
@@ -48,7 +49,8 @@ Shades shadesOf(const QImage& picture, QRgb except) {
 
 // Cuts the box of colours with the widest spread in two, at its middle pixel.
 bool splitOne(std::vector<Shades>& boxes) {
-    const auto box = std::ranges::max_element(boxes, {}, [](const Shades& s) { return widestSpread(s).width; });
+    const auto box =
+        std::ranges::max_element(boxes, {}, [](const Shades& s) { return widestSpread(s).width; });
     const Spread spread = widestSpread(*box);
     if (spread.width == 0)
         return false;
@@ -106,8 +108,9 @@ QImage toIndexed(const QImage& picture, QRgb background) {
             const QRgb colour = picture.pixel(x, y);
             const auto [known, isNew] = nearest.try_emplace(colour, 0);
             if (isNew)
-                known->second = uint(
-                    std::ranges::min_element(palette, {}, [&](QRgb p) { return distance(p, colour); }) - palette.begin());
+                known->second =
+                    uint(std::ranges::min_element(palette, {}, [&](QRgb p) { return distance(p, colour); }) -
+                         palette.begin());
             indexed.setPixel(x, y, known->second);
         }
     return indexed;

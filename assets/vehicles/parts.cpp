@@ -177,7 +177,9 @@ Part bogie(double wheelBase, int axles) {
             drawWheel(p, x, 5.75);
         for (std::size_t i = 1; i < places.size(); ++i)
             drawCoil(p, (places[i - 1] + places[i]) / 2, 73, 77);
-        fill(p, profile({{-end, 69, 1}, {end, 69, 1}, {end, 73, 1}, {end - 3, 74}, {-end + 3, 74}, {-end, 73, 1}}),
+        fill(p,
+             profile(
+                 {{-end, 69, 1}, {end, 69, 1}, {end, 73, 1}, {end - 3, 74}, {-end + 3, 74}, {-end, 73, 1}}),
              IronMid);
         line(p, {{-end + 1, 70.5}, {end - 1, 70.5}}, IronLight);
         for (const double x : places)
@@ -282,7 +284,8 @@ Part solid(QPainterPath shape, const QColor& colour, Form form, std::vector<Band
         fill(c.painter, shape, colour, form);
         const QRectF area = shape.boundingRect();
         for (const Band& band : bands) {
-            const QPainterPath part = box(area.left() - 1, band.top, area.right() + 1, band.bottom).intersected(shape);
+            const QPainterPath part =
+                box(area.left() - 1, band.top, area.right() + 1, band.bottom).intersected(shape);
             fill(c.painter, part, band.colour, band.bottom - band.top > 4 ? Form::Wall : Form::Flat);
         }
         edge(c.painter, shape, withAlpha(colour.darker(260), 170));
@@ -329,7 +332,9 @@ Part doors(Row pieces, double top, double bottom, const QColor& colour) {
         edge(p, leaf, withAlpha(colour.darker(240), 200));
         const double height = bottom - top;
         drawGlass(p, box(x + 2, top + 3, x + pieces.width - 2, top + height * 0.45, 1));
-        line(p, {{x + pieces.width - 2.5, top + height * 0.58}, {x + pieces.width - 2.5, top + height * 0.72}}, Steel);
+        line(p,
+             {{x + pieces.width - 2.5, top + height * 0.58}, {x + pieces.width - 2.5, top + height * 0.72}},
+             Steel);
     });
 }
 
@@ -386,9 +391,10 @@ Part heap(double left, double right, double base, double height, const QColor& c
     return [=](const Canvas& c) {
         const double width = right - left;
         QPainterPath shape(QPointF(left, base));
-        shape.cubicTo(left + width * 0.12, base - height, left + width * 0.28, base - height * 1.1, left + width * 0.4,
-                      base - height * 0.86);
-        shape.cubicTo(left + width * 0.55, base - height * 1.2, left + width * 0.85, base - height * 0.95, right, base);
+        shape.cubicTo(left + width * 0.12, base - height, left + width * 0.28, base - height * 1.1,
+                      left + width * 0.4, base - height * 0.86);
+        shape.cubicTo(left + width * 0.55, base - height * 1.2, left + width * 0.85, base - height * 0.95,
+                      right, base);
         shape.closeSubpath();
         fill(c.painter, shape, colour, Form::Roof);
         // Lumps, each with its light side: the same ones at every drawing.
@@ -397,7 +403,8 @@ Part heap(double left, double right, double base, double height, const QColor& c
                                base - 1 - std::fmod(i * 0.754878, 1) * height);
             if (!shape.contains(lump + QPointF(0, -2)))
                 continue;
-            fill(c.painter, box(lump.x() - 1.5, lump.y() - 1, lump.x() + 1.5, lump.y() + 1, 1), colour.darker(150));
+            fill(c.painter, box(lump.x() - 1.5, lump.y() - 1, lump.x() + 1.5, lump.y() + 1, 1),
+                 colour.darker(150));
             fill(c.painter, box(lump.x() - 1.5, lump.y() - 1.5, lump.x() + 0.5, lump.y() - 0.2, 0.6),
                  colour.lighter(150));
         }

@@ -1,5 +1,5 @@
-// What vehicles are made of. A part draws itself on a picture whose rail top, buffers and scale are the same for
-// all vehicles, so that any two of them fit together.
+// What vehicles are made of. A part draws itself on a picture whose rail top, buffers and scale are the same
+// for all vehicles, so that any two of them fit together.
 #pragma once
 
 #include "shapes.h"
@@ -9,7 +9,8 @@
 
 namespace art {
 
-// In pixels from the top: 12.5 to the metre upwards; along the rail vehicles are a little shortened, 10 to the metre.
+// In pixels from the top: 12.5 to the metre upwards; along the rail vehicles are a little shortened, 10 to
+// the metre.
 inline constexpr double PictureHeight = 96;
 inline constexpr double RailTop = 80;
 inline constexpr double BufferLine = 67;
@@ -28,9 +29,9 @@ Part atRear(Part part);                                   // in the mirror: x co
 Part both(Part part);                                     // at the front and at the rear
 
 // --- Ends, drawn at the front
-Part buffers(); // with the screw coupling between them
-Part knuckle(); // of an automatic coupling
-Part drawBar(); // of a coupling inside a unit
+Part buffers();      // with the screw coupling between them
+Part knuckle();      // of an automatic coupling
+Part drawBar();      // of a coupling inside a unit
 Part shortCoupler(); // of light stock
 Part gangway(double top = 42);
 

@@ -169,7 +169,8 @@ void ReadBitmapList(Frame& frame, Catalogue& catalogue) {
 std::string MapPictureName(const Catalogue& catalogue, std::string_view name) {
     const bool numeric =
         std::find(std::begin(NumericNames), std::end(NumericNames), name) != std::end(NumericNames);
-    std::string mapped = (numeric ? "S" : "") + std::string(name);
+    std::string mapped(numeric ? "S" : "");
+    mapped += name;
     for (const std::string& line : catalogue.BitmapPrefixes)
         if (!line.empty() && mapped.starts_with(line))
             mapped.resize(line.size());

@@ -24,7 +24,7 @@ void ElidedLabel::paintEvent(QPaintEvent*) {
     if (const QString tip = shown == whole ? QString() : whole; toolTip() != tip)
         setToolTip(tip);
     painter.setPen(palette().color(QPalette::WindowText));
-    painter.drawText(rect(), Qt::AlignLeft | Qt::AlignVCenter, shown);
+    painter.drawText(rect(), static_cast<int>(alignment()), shown);
 }
 
 } // namespace zandor

@@ -50,21 +50,21 @@ struct ButtonRow {
     Message caption;
     const char* french;
     Message tip; // NoTip: none
-    const char* picture;
+    const char* icon; // as desktops name it
 };
 constexpr Message NoTip{0};
 constexpr ButtonRow Buttons[] = {
-    {&PrincipalControls::cmdNEW, "cmdNEW", Message::CaptionNew, "&Nouveau", Message::TipNew, "new"},
-    {&PrincipalControls::cmdOPEN, "cmdOPEN", Message::CaptionOpen, "&Ouvrir", Message::TipOpen, "open"},
-    {&PrincipalControls::cmdSAVE, "cmdSAVE", Message::CaptionSave, "&Enregistrer", Message::TipSave, "save"},
+    {&PrincipalControls::cmdNEW, "cmdNEW", Message::CaptionNew, "&Nouveau", Message::TipNew, "document-new"},
+    {&PrincipalControls::cmdOPEN, "cmdOPEN", Message::CaptionOpen, "&Ouvrir", Message::TipOpen, "document-open"},
+    {&PrincipalControls::cmdSAVE, "cmdSAVE", Message::CaptionSave, "&Enregistrer", Message::TipSave, "document-save"},
     {&PrincipalControls::cmdDELETE, "cmdDELETE", Message::CaptionDelete, "&Supprimer", Message::TipDelete,
-     "delete"},
+     "edit-delete"},
     {&PrincipalControls::cmdNUMEROTATION, "cmdNUMEROTATION", Message::CaptionNumber, "N&uméroter",
-     Message::TipNumber, "renumber"},
-    {&PrincipalControls::cmdOptions, "cmdOptions", Message::CaptionOptions, "Opt&ions", NoTip, "options"},
-    {&PrincipalControls::cmdHELP, "cmdHELP", Message::CaptionHelp, "&Aide", NoTip, "help"},
-    {&PrincipalControls::cmdPROPOS, "cmdPROPOS", Message::CaptionAbout, "A &propos", NoTip, "about"},
-    {&PrincipalControls::cmdCANCEL, "cmdCANCEL", Message::CaptionQuit, "&Quitter", NoTip, "quit"},
+     Message::TipNumber, "view-sort-ascending"},
+    {&PrincipalControls::cmdOptions, "cmdOptions", Message::CaptionOptions, "Opt&ions", NoTip, "preferences-system"},
+    {&PrincipalControls::cmdHELP, "cmdHELP", Message::CaptionHelp, "&Aide", NoTip, "help-contents"},
+    {&PrincipalControls::cmdPROPOS, "cmdPROPOS", Message::CaptionAbout, "A &propos", NoTip, "help-about"},
+    {&PrincipalControls::cmdCANCEL, "cmdCANCEL", Message::CaptionQuit, "&Quitter", NoTip, "application-exit"},
 };
 
 QLayout* buildButtons(QWidget& window, PrincipalControls& c) {
@@ -73,7 +73,7 @@ QLayout* buildButtons(QWidget& window, PrincipalControls& c) {
     for (const ButtonRow& row : Buttons) {
         QPushButton* button = named(new QPushButton(&window), row.name);
         button->setAutoDefault(false);
-        button->setIcon(artIcon(row.picture));
+        button->setIcon(QIcon::fromTheme(row.icon));
         c.*row.place = button;
         if (button == c.cmdOptions)
             bar->addStretch(1);

@@ -23,7 +23,7 @@ StockView::StockView(QWidget* parent) : QTreeView(parent), model_(new StockModel
     setDragEnabled(true);
     setDragDropMode(DragOnly);
     setTextElideMode(Qt::ElideRight);
-    setIconSize({16, 16});
+    setIconSize({33, 16}); // two marks beside each other
 
     QHeaderView* columns = header();
     columns->setStretchLastSection(false);

@@ -6,7 +6,7 @@
 
 namespace zandor {
 
-// Of a button or menu entry, by its name; an empty icon when there is none.
+// By its name; an empty icon when there is none.
 inline QIcon artIcon(const char* name) {
     return QIcon(QString(":/art/%1.png").arg(name));
 }

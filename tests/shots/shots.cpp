@@ -1,0 +1,159 @@
+// zandor_shots FOLDER: opens every window on the demonstration tree and saves a picture of each, in French
+// and in English, to be looked at. The names end in the scale that QT_SCALE_FACTOR gives.
+#include "windows/strip_picture.h"
+
+#include "editor/windows/open_window.h"
+#include "editor/windows/principal.h"
+#include "frame/alert.h"
+#include "frame/windows/about.h"
+#include "frame/windows/alert.h"
+#include "frame/windows/confirmation.h"
+#include "frame/windows/folder_window.h"
+#include "frame/windows/help_window.h"
+#include "frame/windows/loading.h"
+#include "frame/windows/progress_window.h"
+#include "frame/windows/qt_text.h"
+#include "frame/windows/question.h"
+#include "frame/windows/splash.h"
+#include "frame/windows/theme.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QIcon>
+#include <QMenu>
+#include <QTest>
+
+#include <cstdio>
+
+namespace zandor {
+namespace {
+
+constexpr int Settled = 300; // ms until a window has been laid out and its folders or consists are read
+
+class Shots {
+  public:
+    Shots(const QDir& folder, const char* language, DemoStrip& demo) : folder_(folder), test_(demo.test) {
+        test_.state.Language = language;
+        test_.state.PrintName = test_.state.PrintGreen = test_.state.Optimize = true;
+        LoadCatalogue(test_.frame, catalogue_, ReadOnlyLoad);
+        initialiseDocument(editor_);
+    }
+
+    void takeAll() {
+        takePrincipal();
+        takeFrameWindows();
+        takeMessages();
+        takeFolders();
+    }
+
+  private:
+    void save(QWidget& window, const char* name) {
+        window.show();
+        QTest::qWait(Settled);
+        const QString language = toQt(test_.state.Language).left(2).toLower();
+        const QString file = QString("%1-%2-%3.png")
+                                 .arg(QLatin1String(name), language)
+                                 .arg(qRound(window.devicePixelRatioF() * 100));
+        if (!window.grab().save(folder_.filePath(file)))
+            std::fprintf(stderr, "Can't write %s\n", qPrintable(file));
+        window.hide();
+    }
+
+    void takePrincipal() {
+        frmPrincipal window(editor_);
+        window.resize(1024, 700);
+        save(window, "frmPrincipal-empty");
+        for (const char* consist : {"orme_ore_down.con", "fell_mail.con"}) {
+            window.openFile(consistsPath(test_.state.RootMSTS) + consist);
+            save(window, QByteArray("frmPrincipal-").append(consist).chopped(4));
+        }
+        window.resize(1024, 600);
+        save(window, "frmPrincipal-low");
+        if (auto* menu = window.findChild<QMenu*>("mnuSTRIP"))
+            save(*menu, "menu");
+        frmOpen open(
+            test_.frame, catalogue_, [](const std::string&) { return false; }, &window);
+        save(open, "frmOpen");
+    }
+
+    void takeFrameWindows() {
+        const Frame& frame = test_.frame;
+        frmSplash splash(toQt(test_.state.Title),
+                         toQt(frame.text(Message::SplashText,
+                                         {{"|1", "Copyright © Zandor - Microsoft Train Simulator"}})));
+        splash.showStep(0, 100, 60, toQt(frame.text(Message::ReadingConsists)));
+        save(splash, "frmSplash");
+        frmProgress progress(test_.frame);
+        progress.showStep(0, 100, 60, toQt(frame.text(Message::ListingEngines)));
+        save(progress, "frmProgress");
+        frmAbout about(test_.frame);
+        save(about, "frmAbout");
+        bool ask = true;
+        frmQuestion question(test_.frame, ask);
+        save(question, "frmQuestion");
+        frmConfirmation confirmation(test_.frame, "Orme_First.bmp");
+        save(confirmation, "frmConfirmation");
+        frmLoading loading(toQt(frame.text(Message::OpeningConsist, {{"|1", "fell_mail.con"}})));
+        save(loading, "frmLoading");
+        frmHelp help(test_.state, frame.language);
+        help.showPage(1001);
+        save(help, "CHelp");
+    }
+
+    void takeMessages() {
+        const Frame& frame = test_.frame;
+        const std::string path =
+            "C:\\Program Files\\Microsoft Games\\Train Simulator\\TRAINS\\CONSISTS\\a_long_name.con";
+        struct Case {
+            const char* name;
+            int style;
+            std::string text;
+        };
+        const Case cases[] = {
+            {"frmAlert-yesno", style::YesNo + style::Question, frame.text(Message::AskSaveNew)},
+            {"frmAlert-misfit", style::Exclamation, frame.text(Message::CouplingsDoNotFit)},
+            {"frmAlert-failed", style::Exclamation + 16384,
+             frame.text(Message::SaveFailed, {{"|1", path}, {"|2", "\n"}})},
+            {"frmAlert-three", style::AbortRetryIgnore + style::Stop, frame.text(Message::ShortNameEmpty)},
+        };
+        for (const Case& c : cases) {
+            const Alert alert = decodeAlertStyle(c.style);
+            frmAlert window(alert, alertCaptions(frame.language, alert), toQt(test_.state.Title),
+                            toQt(c.text));
+            save(window, c.name);
+        }
+    }
+
+    void takeFolders() {
+        test_.state.BackupDir = "\\usr\\share\\";
+        frmPathMSTS simulator(test_.frame);
+        save(simulator, "frmPathMSTS");
+        frmPath backup(test_.frame);
+        save(backup, "frmPath");
+    }
+
+    QDir folder_;
+    TestFrame& test_;
+    Catalogue catalogue_;
+    ConsistDocument document_;
+    Editor editor_{test_.frame, catalogue_, document_};
+};
+
+} // namespace
+} // namespace zandor
+
+int main(int argc, char** argv) {
+    if (argc != 2)
+        return 2;
+    QApplication application(argc, argv);
+    QApplication::setWindowIcon(QIcon(":/art/zandor.png"));
+    zandor::applyTheme(application);
+    const QDir folder(argv[1]);
+    folder.mkpath(".");
+    for (const char* language : {"Français", "English"}) {
+        zandor::DemoStrip demo;
+        demo.putThumbnails(ZANDOR_THUMBNAILS);
+        zandor::Shots(folder, language, demo).takeAll();
+    }
+    return 0;
+}
