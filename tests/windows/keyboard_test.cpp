@@ -5,7 +5,6 @@
 
 #include <QAction>
 #include <QMenu>
-#include <QToolButton>
 #include <QUrl>
 
 namespace zandor {
@@ -81,7 +80,7 @@ TEST_F(KeyboardTest, DeleteInATextBoxDeletesText) {
 TEST_F(KeyboardTest, TheMenuOffersWhatMakesSense) {
     const auto enabled = [this](const char* name) { return window->findChild<QAction*>(name)->isEnabled(); };
     EXPECT_FALSE(enabled("actREMOVE"));
-    EXPECT_FALSE(get<QToolButton>("cmdVEHICLE").isEnabled());
+    EXPECT_FALSE(get<QPushButton>("cmdVEHICLE").isEnabled());
     build({"BB 9288"});
     EXPECT_FALSE(enabled("actREMOVE")) << "none is selected";
     QTest::mouseClick(&strip(), Qt::LeftButton, {}, onVehicle(0));

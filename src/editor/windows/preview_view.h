@@ -18,7 +18,7 @@ class PreviewView final : public QWidget {
     void clear();
     bool isEmpty() const { return picture_.isNull(); }
     QSize sizeHint() const override { return {260, 132}; }
-    QSize minimumSizeHint() const override { return {110, 90}; }
+    QSize minimumSizeHint() const override { return {110, 56}; }
 
   protected:
     void paintEvent(QPaintEvent*) override;

@@ -35,7 +35,6 @@
 #include <QSignalBlocker>
 #include <QSlider>
 #include <QTimer>
-#include <QToolButton>
 #include <QUrl>
 
 #include <algorithm>
@@ -88,12 +87,12 @@ frmPrincipal::frmPrincipal(Editor& editor) : editor_(editor) {
     languages_->setObjectName("mnuLANGUAGE");
     setAcceptDrops(true);
     applyLanguage();
-    fillStockList();
     connectButtons();
     connectInputs();
     connectStock();
     connectStrip();
     connectActions();
+    fillStockList();
     addShortcuts();
     takePlace();
     controls_.lstViewMATERIEL->setFocus();

@@ -19,7 +19,6 @@
 #include <QSignalBlocker>
 #include <QSlider>
 #include <QTimer>
-#include <QToolButton>
 
 #include <algorithm>
 
@@ -110,7 +109,7 @@ QWidget* buildStock(QWidget& window, PrincipalControls& c) {
 QWidget* buildInfo(QWidget* parent, PrincipalControls& c) {
     QFrame* frame = card(parent);
     auto* column = new QVBoxLayout(frame);
-    column->setContentsMargins(12, 12, 12, 12);
+    column->setContentsMargins(10, 8, 10, 8);
     c.picPREVIEW = new PreviewView(frame);
     c.picPREVIEW->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     column->addWidget(c.picPREVIEW, 1);
@@ -142,7 +141,8 @@ QWidget* buildInfo(QWidget* parent, PrincipalControls& c) {
 QWidget* buildConsist(QWidget* parent, PrincipalControls& c) {
     QFrame* frame = card(parent);
     auto* grid = new QGridLayout(frame);
-    grid->setContentsMargins(12, 12, 12, 12);
+    grid->setVerticalSpacing(4);
+    grid->setContentsMargins(10, 8, 10, 8);
     grid->setHorizontalSpacing(12);
     grid->setColumnStretch(1, 1);
     c.lblFULL_NAME = named(new QLabel(frame), "lblFULL_NAME");
@@ -202,9 +202,8 @@ QWidget* buildStrip(QWidget& window, PrincipalControls& c, Editor& editor) {
     c.lblSTATUS = named(new ElidedLabel(frame, Qt::ElideMiddle), "lblSTATUS");
     c.lblSTATUS->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     theme::showAsHint(*c.lblSTATUS);
-    c.cmdVEHICLE = named(new QToolButton(frame), "cmdVEHICLE");
-    c.cmdVEHICLE->setPopupMode(QToolButton::InstantPopup);
-    c.cmdVEHICLE->setToolButtonStyle(Qt::ToolButtonTextOnly);
+    c.cmdVEHICLE = named(new QPushButton(frame), "cmdVEHICLE");
+    c.cmdVEHICLE->setAutoDefault(false);
     c.PicRAME = new StripView(editor, frame);
     c.PicRAME->setFocusPolicy(Qt::StrongFocus);
     c.HScrollRAME = named(new QScrollBar(Qt::Horizontal, frame), "HScrollRAME");

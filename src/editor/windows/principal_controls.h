@@ -10,7 +10,6 @@ class QPushButton;
 class QScrollBar;
 class QSlider;
 class QTimer;
-class QToolButton;
 class QWidget;
 
 namespace zandor {
@@ -34,7 +33,7 @@ struct PrincipalControls {
     StripView* PicRAME;
     QScrollBar* HScrollRAME;
     ElidedLabel* lblSTATUS;                                // the selected vehicle
-    QToolButton* cmdVEHICLE;                               // the menu of what can be done with it
+    QPushButton* cmdVEHICLE;                               // the menu of what can be done with it
     QLabel *lblNAME, *lblFULL_NAME, *lblSLIDER, *lblCLASS; // captions of the inputs
     QTimer* Timer1;
 };
