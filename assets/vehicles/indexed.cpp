@@ -102,6 +102,7 @@ QImage toIndexed(const QImage& picture, QRgb background) {
     const QList<QRgb> palette = paletteOf(picture, background);
     QImage indexed(picture.size(), QImage::Format_Indexed8);
     indexed.setColorTable(palette);
+    std::fill_n(indexed.bits(), indexed.sizeInBytes(), uchar(0)); // the rows' padding goes to the file too
     std::map<QRgb, uint> nearest;
     for (int y = 0; y < picture.height(); ++y)
         for (int x = 0; x < picture.width(); ++x) {

@@ -11,7 +11,7 @@ namespace art {
 namespace {
 
 constexpr QColor Iron{38, 41, 47}, IronLight{92, 99, 109}, IronMid{60, 65, 73};
-constexpr QColor Steel{168, 176, 186}, Brass{206, 170, 84}, Bellows{46, 48, 54};
+constexpr QColor Steel{168, 176, 186}, Bellows{46, 48, 54};
 constexpr QColor GlassTop{34, 48, 63}, GlassBottom{84, 112, 136}, GlassShine{208, 230, 246, 120};
 
 // Calls `draw` with the left edge of each piece of the row.

@@ -37,7 +37,8 @@ unsigned markStride(char* at) {
     const __m128i tabs = is('\t');
     // A blank differs from a tab in the bits of 0x29.
     _mm_storeu_si128(place, _mm_xor_si128(text, _mm_and_si128(tabs, _mm_set1_epi8('\t' ^ ' '))));
-    const __m128i brackets = _mm_or_si128(is('('), is(')'));
+    // The two brackets differ in the lowest bit alone.
+    const __m128i brackets = _mm_cmpeq_epi8(_mm_and_si128(text, _mm_set1_epi8('\xFE')), _mm_set1_epi8('('));
     const __m128i ends = _mm_or_si128(is('\n'), is('\r'));
     return static_cast<unsigned>(_mm_movemask_epi8(_mm_or_si128(_mm_or_si128(brackets, ends), is('"'))));
 }
