@@ -63,7 +63,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     around.files.put(path, bytes);
 
     Materiel quick = materiel;
-    QuickReadStock(around.files, quick);
+    QuickStockReader(around.files).QuickReadStock(quick);
     require(quick.FileName == materiel.FileName, "the quick reader leaves the names as they are");
     require(around.files.get(path) == bytes, "the quick reader changes no file");
 

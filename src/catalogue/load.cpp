@@ -81,6 +81,7 @@ bool LoadCatalogue(Frame& frame, Catalogue& catalogue, LoadOptions options) {
 
 bool readAllStock(Frame& frame, Catalogue& catalogue, LoadOptions options) {
     SimReader reader(frame.files, frame.language);
+    QuickStockReader quick(frame.files);
     ReadingTexts texts(frame.text(Message::ReadingStock));
     const int last = static_cast<int>(catalogue.Materiels.size()) - 1;
     int index = -1;
@@ -95,7 +96,7 @@ bool readAllStock(Frame& frame, Catalogue& catalogue, LoadOptions options) {
         if (frame.state.Optimize)
             ReadStockFile(reader, texts.path, materiel, options.repair);
         else
-            QuickReadStock(frame.files, materiel);
+            quick.QuickReadStock(materiel);
         frame.progress.ShowProgress(0, last, index, texts.shown);
     }
     return true;

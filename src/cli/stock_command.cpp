@@ -62,7 +62,7 @@ class StockCommand final : public Command {
         if (!isStockKind(path))
             reading.error = SimError{0, path, "Not an engine or a wagon file"};
         else if (quick_)
-            QuickReadStock(session.frame.files, materiel);
+            QuickStockReader(session.frame.files).QuickReadStock(materiel);
         else
             reading = readInFull(reader, path, materiel);
 

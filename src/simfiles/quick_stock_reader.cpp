@@ -26,9 +26,9 @@ bool beginsWithKey(std::string_view line, std::string_view key) {
     return bracket != std::string_view::npos && line[bracket] == '(';
 }
 
-class QuickReader {
+class QuickLines {
   public:
-    explicit QuickReader(Materiel& materiel) : materiel_(materiel) {}
+    QuickLines(Materiel& materiel, std::string& normal) : materiel_(materiel), normal_(normal) {}
 
     void take(std::string_view line) {
         line = withoutEnds(line);
@@ -134,7 +134,7 @@ class QuickReader {
     }
 
     Materiel& materiel_;
-    std::string normal_;
+    std::string& normal_;    // the line in hand in its normal form
     std::string_view value_; // of normal_, behind the bracket
     bool inEngine_ = false;
     bool inCoupling_ = false;
@@ -143,14 +143,13 @@ class QuickReader {
 
 } // namespace
 
-void QuickReadStock(FileSystem& files, Materiel& materiel) {
-    std::string bytes;
-    if (!files.readFile(materiel.BasePath + materiel.Folder + '\\' + materiel.FileName, bytes))
+void QuickStockReader::QuickReadStock(Materiel& materiel) {
+    path_.assign(materiel.BasePath).append(materiel.Folder).append(1, '\\').append(materiel.FileName);
+    if (!files_.readFile(path_, bytes_))
         return;
-    std::string text;
-    decodeSimulatorText(bytes, text);
-    QuickReader reader(materiel);
-    forEachLine(text, [&reader](std::string_view line) { reader.take(line); });
+    decodeSimulatorText(bytes_, text_);
+    QuickLines lines(materiel, line_);
+    forEachLine(text_, [&lines](std::string_view line) { lines.take(line); });
 }
 
 } // namespace zandor

@@ -26,7 +26,7 @@ constexpr std::array<std::string_view, 11> UncommentedKeys{"passengercabinfile",
 
 template <std::size_t N> bool isOneOf(std::string_view text, const std::array<std::string_view, N>& names) {
     return std::any_of(names.begin(), names.end(),
-                       [text](std::string_view name) { return equalIgnoringCase(text, name); });
+                       [text](std::string_view name) { return nameIs(text, name); });
 }
 
 } // namespace
@@ -46,21 +46,16 @@ std::string StripOccurrence(std::string_view path) {
 }
 
 bool pathIs(std::string_view path, std::string_view wanted) {
-    for (;;) {
-        const std::size_t length = std::min(wanted.find('\\'), wanted.size());
-        if (path.size() < length || !nameIs(path.substr(0, length), wanted.substr(0, length)))
-            return false;
-        path.remove_prefix(length);
-        wanted.remove_prefix(length);
-        if (path.starts_with(OccurrenceMarker))
+    if (path.size() != wanted.size() && path.find(OccurrenceMarker.front()) == std::string_view::npos)
+        return false; // most paths end here
+    for (const char letter : wanted) {
+        if (letter == '\\' && path.starts_with(OccurrenceMarker))
             path.remove_prefix(std::min(path.find('\\'), path.size()));
-        if (path.empty() || wanted.empty())
-            return path.empty() && wanted.empty();
-        if (path.front() != '\\')
+        if (path.empty() || !letterIs(path.front(), letter))
             return false;
         path.remove_prefix(1);
-        wanted.remove_prefix(1);
     }
+    return path.empty() || (path.starts_with(OccurrenceMarker) && path.find('\\') == std::string_view::npos);
 }
 
 bool commentRuleApplies(std::string_view path, std::string_view key) {

@@ -34,17 +34,19 @@ inline constexpr std::string_view OccurrenceMarker = "£¤@";
 // Without the occurrence markers and their numbers.
 std::string StripOccurrence(std::string_view path);
 
-// True when a key or a component of a path has this name, in any case. `name` is ASCII, which no other
-// character's other case is: this runs several times for every key of every file.
+// The same letter in any case; `wanted` is ASCII, which no other character's other case is.
+inline bool letterIs(char letter, char wanted) {
+    const char folded = static_cast<char>(letter | 0x20);
+    return letter == wanted || (folded >= 'a' && folded <= 'z' && folded == static_cast<char>(wanted | 0x20));
+}
+// True when a key or a component of a path has this name (ASCII), in any case: this runs several times for
+// every key of every file.
 inline bool nameIs(std::string_view text, std::string_view name) {
     if (text.size() != name.size())
         return false;
-    for (std::size_t i = 0; i < name.size(); ++i) {
-        const char folded = static_cast<char>(text[i] | 0x20);
-        const bool letter = folded >= 'a' && folded <= 'z';
-        if (text[i] != name[i] && !(letter && folded == static_cast<char>(name[i] | 0x20)))
+    for (std::size_t i = 0; i < name.size(); ++i)
+        if (!letterIs(text[i], name[i]))
             return false;
-    }
     return true;
 }
 // True when the path, its markers left out, is `wanted` (ASCII, no markers), in any case.

@@ -4,6 +4,7 @@
 
 #include <bit>
 #include <cstddef>
+#include <cstdint>
 
 #ifdef __SSE2__
 #include <emmintrin.h>
@@ -13,58 +14,79 @@ namespace zandor {
 
 namespace {
 
-constexpr std::size_t Stride = 16; // characters looked at together
+constexpr std::size_t Stride = 64; // characters looked at together
 
-// Turns the tabs of the next `count` (at most Stride) characters into blanks and tells by a bit each which of
-// them end a line or are a bracket or a quote.
-unsigned markSpecials(char* at, std::size_t count) {
-    unsigned mask = 0;
-    for (std::size_t i = 0; i < count; ++i) {
-        const char c = at[i];
-        if (c == '\t')
-            at[i] = ' ';
-        else if (c == '\n' || c == '\r' || c == '(' || c == ')' || c == '"')
-            mask |= 1u << i;
-    }
-    return mask;
-}
+// The characters of a stride that matter here, a bit each from the lowest.
+struct Marks {
+    std::uint64_t opens = 0, closes = 0, quotes = 0;
+    std::uint64_t returns = 0, feeds = 0; // CR and LF
+};
 
 #ifdef __SSE2__
-unsigned markStride(char* at) {
+// Sixteen characters, whose tabs become blanks; their marks go to the bits from `shift` on.
+void markSixteen(char* at, unsigned shift, Marks& marks) {
     const auto place = reinterpret_cast<__m128i*>(at);
     const __m128i text = _mm_loadu_si128(place);
     const auto is = [&text](char c) { return _mm_cmpeq_epi8(text, _mm_set1_epi8(c)); };
-    const __m128i tabs = is('\t');
+    const auto bits = [&is, shift](char c) {
+        return static_cast<std::uint64_t>(static_cast<unsigned>(_mm_movemask_epi8(is(c)))) << shift;
+    };
     // A blank differs from a tab in the bits of 0x29.
-    _mm_storeu_si128(place, _mm_xor_si128(text, _mm_and_si128(tabs, _mm_set1_epi8('\t' ^ ' '))));
-    // The two brackets differ in the lowest bit alone.
-    const __m128i brackets = _mm_cmpeq_epi8(_mm_and_si128(text, _mm_set1_epi8('\xFE')), _mm_set1_epi8('('));
-    const __m128i ends = _mm_or_si128(is('\n'), is('\r'));
-    return static_cast<unsigned>(_mm_movemask_epi8(_mm_or_si128(_mm_or_si128(brackets, ends), is('"'))));
+    _mm_storeu_si128(place, _mm_xor_si128(text, _mm_and_si128(is('\t'), _mm_set1_epi8('\t' ^ ' '))));
+    marks.opens |= bits('(');
+    marks.closes |= bits(')');
+    marks.quotes |= bits('"');
+    marks.returns |= bits('\r');
+    marks.feeds |= bits('\n');
+}
+
+Marks markStride(char* at) {
+    Marks marks;
+    for (unsigned shift = 0; shift < Stride; shift += 16)
+        markSixteen(at + shift, shift, marks);
+    return marks;
 }
 #else
-unsigned markStride(char* at) {
-    return markSpecials(at, Stride);
+Marks markStride(char* at) {
+    Marks marks;
+    for (unsigned i = 0; i < Stride; ++i) {
+        if (at[i] == '\t')
+            at[i] = ' ';
+        const auto bit = [&](char c) { return static_cast<std::uint64_t>(at[i] == c) << i; };
+        marks.opens |= bit('(');
+        marks.closes |= bit(')');
+        marks.quotes |= bit('"');
+        marks.returns |= bit('\r');
+        marks.feeds |= bit('\n');
+    }
+    return marks;
 }
 #endif
+
+// The first character of a kind in a line, and whether there are more.
+struct FirstOfLine {
+    const char* first = nullptr;
+    bool several = false;
+
+    void take(const char* stride, std::uint64_t marks) {
+        if (marks == 0)
+            return;
+        several = several || first || (marks & (marks - 1));
+        first = first ? first : stride + std::countr_zero(marks);
+    }
+};
 
 // Records one line while the cutter walks over it.
 struct LineScan {
     const char* begin = nullptr;
-    const char* open = nullptr;
-    const char* close = nullptr;
-    bool severalOpen = false, severalClose = false, quote = false;
+    FirstOfLine open, close;
+    bool quote = false;
 
-    void take(const char* at) {
-        if (*at == '(') {
-            severalOpen = open != nullptr;
-            open = open ? open : at;
-        } else if (*at == ')') {
-            severalClose = close != nullptr;
-            close = close ? close : at;
-        } else {
-            quote = true;
-        }
+    // What a stride has of this line: the marks within `part`.
+    void take(const char* stride, const Marks& marks, std::uint64_t part) {
+        open.take(stride, marks.opens & part);
+        close.take(stride, marks.closes & part);
+        quote = quote || (marks.quotes & part);
     }
 
     SimLine finish(const char* end) const {
@@ -75,10 +97,10 @@ struct LineScan {
             --end;
         SimLine line;
         line.text = {first, static_cast<std::size_t>(end - first)};
-        line.firstOpen = open ? static_cast<int>(open - first) : -1;
-        line.firstClose = close ? static_cast<int>(close - first) : -1;
-        line.severalOpen = severalOpen;
-        line.severalClose = severalClose;
+        line.firstOpen = open.first ? static_cast<int>(open.first - first) : -1;
+        line.firstClose = close.first ? static_cast<int>(close.first - first) : -1;
+        line.severalOpen = open.several;
+        line.severalClose = close.several;
         line.hasQuote = quote;
         return line;
     }
@@ -89,7 +111,9 @@ struct LineScan {
 std::string_view cutLines(std::string& text, std::string_view keepOnly, std::vector<SimLine>& lines) {
     lines.clear();
     lines.emplace_back();
-    char* const end = text.data() + text.size();
+    const std::size_t size = text.size();
+    text.append(Stride, ' '); // so that the last stride is whole
+    char* const end = text.data() + size;
     LineScan scan;
     scan.begin = text.data();
     const auto finishLine = [&](const char* lineEnd) {
@@ -97,23 +121,25 @@ std::string_view cutLines(std::string& text, std::string_view keepOnly, std::vec
         if (!keepOnly.empty() && lines.size() > 2 && !containsIgnoringCase(lines.back().text, keepOnly))
             lines.back() = SimLine();
     };
-    const char* skipped = nullptr; // the LF of a CR LF
+    std::uint64_t afterReturn = 0; // 1: the stride before ended in a CR
     for (char* stride = text.data(); stride < end; stride += Stride) {
-        const auto left = static_cast<std::size_t>(end - stride);
-        unsigned specials = left >= Stride ? markStride(stride) : markSpecials(stride, left);
-        for (; specials != 0; specials &= specials - 1) {
-            char* const at = stride + std::countr_zero(specials);
-            if (*at != '\r' && *at != '\n') {
-                scan.take(at);
-            } else if (at != skipped) {
-                finishLine(at);
-                const bool two = *at == '\r' && at + 1 != end && at[1] == '\n';
-                skipped = two ? at + 1 : nullptr;
-                scan = LineScan();
-                scan.begin = at + (two ? 2 : 1);
-            }
+        const Marks marks = markStride(stride);
+        const std::uint64_t secondOfTwo = marks.feeds & (marks.returns << 1 | afterReturn);
+        afterReturn = marks.returns >> (Stride - 1);
+        scan.begin += secondOfTwo & 1;
+        std::uint64_t rest = ~std::uint64_t(0); // the stride behind the line ends met so far
+        for (std::uint64_t ends = (marks.returns | marks.feeds) & ~secondOfTwo; ends != 0; ends &= ends - 1) {
+            const std::uint64_t upToEnd = ends ^ (ends - 1);
+            scan.take(stride, marks, rest & upToEnd);
+            rest = ~upToEnd;
+            const char* const lineEnd = stride + std::countr_zero(ends);
+            finishLine(lineEnd);
+            scan = LineScan();
+            scan.begin = lineEnd + 1 + ((secondOfTwo & (upToEnd + 1)) != 0);
         }
+        scan.take(stride, marks, rest);
     }
+    text.resize(size);
     if (scan.begin != end)
         finishLine(end);
     if (lines.size() < 2)

@@ -14,11 +14,18 @@ namespace {
 enum class Block { Other, Wagon, Coupling, Engine };
 
 Block blockOf(std::string_view path) {
-    if (pathIs(path, "wagon"))
-        return Block::Wagon;
-    if (pathIs(path, "engine"))
-        return Block::Engine;
-    return pathIs(path, "wagon\\coupling") ? Block::Coupling : Block::Other;
+    switch (path.empty() ? '\0' : path.front()) {
+    case 'W':
+    case 'w':
+        return pathIs(path, "wagon")             ? Block::Wagon
+               : pathIs(path, "wagon\\coupling") ? Block::Coupling
+                                                 : Block::Other;
+    case 'E':
+    case 'e':
+        return pathIs(path, "engine") ? Block::Engine : Block::Other;
+    default:
+        return Block::Other;
+    }
 }
 
 using Field = std::string Materiel::*;

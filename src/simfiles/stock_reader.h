@@ -32,8 +32,17 @@ struct StockReading {
 StockReading ReadStockFile(SimReader& reader, std::string_view path, Materiel& materiel,
                            NameRepair repair = NameRepair::Allowed);
 
-// Reads BasePath + Folder + "\" + FileName. No signature test; sees one key a line; an error ends the read
-// with what was read so far.
-void QuickReadStock(FileSystem& files, Materiel& materiel);
+// Sees one key a line, by how the line begins, and tests no signature. Keeps its storage from file to file.
+class QuickStockReader {
+  public:
+    explicit QuickStockReader(FileSystem& files) : files_(files) {}
+
+    // Reads BasePath + Folder + "\" + FileName; a file that can't be read leaves `materiel` as it was.
+    void QuickReadStock(Materiel& materiel);
+
+  private:
+    FileSystem& files_;
+    std::string path_, bytes_, text_, line_;
+};
 
 } // namespace zandor

@@ -28,7 +28,7 @@ TEST_F(SimFixture, BothReadersFillAnEngine) {
     quick.Folder = "F";
     quick.FileName = "a.eng";
     EXPECT_FALSE(ReadStockFile(reader, "\\r\\f\\A.ENG", full).error);
-    QuickReadStock(files, quick);
+    QuickStockReader(files).QuickReadStock(quick);
     for (const Materiel* read : {&full, &quick}) {
         EXPECT_EQ(read->Type, "Engine");
         EXPECT_EQ(read->Size, "3m 4m 18.5m");
