@@ -111,13 +111,17 @@ void Application::loadThenShow() {
 Application::End Application::load() {
     loadSettings(frame_, folders_);
     applyAssociation(frame_, *association_, folders_);
+    toolkitTexts_.follow(toQt(state_.Language));
     help_.serveF1();
     initialiseDocument(editor_);
     window_ = std::make_unique<frmPrincipal>(editor_);
     window_->applyListColours();
     QObject::connect(window_.get(), &frmPrincipal::helpAsked, &help_,
                      [this] { help_.Show(helpContext::Main); });
-    QObject::connect(window_.get(), &frmPrincipal::languageChosen, &help_, &CHelp::applyLanguage);
+    QObject::connect(window_.get(), &frmPrincipal::languageChosen, &help_, [this] {
+        toolkitTexts_.follow(toQt(state_.Language));
+        help_.applyLanguage();
+    });
     QObject::connect(window_.get(), &frmPrincipal::closeAsked, &help_, &CHelp::CloseWindow);
     if (!chooseRoots())
         return splash_->ended() ? End::UserEnded : End::Failed;

@@ -8,6 +8,7 @@
 #include "frame/startup.h"
 #include "frame/windows/help.h"
 #include "frame/windows/qt_progress.h"
+#include "frame/windows/toolkit_language.h"
 
 #include <memory>
 
@@ -59,6 +60,7 @@ class Application {
     Catalogue catalogue_;
     ConsistDocument document_;
     Editor editor_;
+    ToolkitLanguage toolkitTexts_;
     std::unique_ptr<frmSplash> splash_;
     std::unique_ptr<frmPrincipal> window_;
     std::unique_ptr<SingleInstance> instance_;   // none in a run that saves a picture

@@ -72,7 +72,7 @@ struct Catalogue {
     std::vector<StockUse> StockUsage{1};
     std::vector<std::string> RamesEnService{1}; // the consist files that services name
     std::vector<ConsistSummary> ConsistSummaries{1};
-    bool summariesRead = false; // ConsistSummaries has a row for every consist
+    bool summariesRead = false;     // ConsistSummaries has a row for every consist
     CatalogueSnapshot snapshots[2]; // the simulator's, the Train Store's
     bool complete = true;           // false: the user ended the last load, so it is no good as a snapshot
 

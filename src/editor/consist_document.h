@@ -73,7 +73,7 @@ struct ConsistDocument {
     bool DragAtEnd = false;
     bool StripPressed = false;
     unsigned stripChanges = 0; // grows when the picture of the strip has to be drawn anew
-    int selected = -1; // position of the vehicle that the keyboard works on; -1: none
+    int selected = -1;         // position of the vehicle that the keyboard works on; -1: none
     bool openedFromOptions = false;
     bool faultyFile = false; // a part of the opened file could not be read
     MaterielFinder finder;

@@ -19,7 +19,8 @@ std::string_view forbiddenAt(std::string_view text) {
     return {};
 }
 
-// Bytes: what a file system takes is 255, of which ".con" and the mark of a file not yet complete need their share.
+// Bytes: what a file system takes is 255, of which ".con" and the mark of a file not yet complete need their
+// share.
 constexpr std::size_t LongestShortName = 240;
 
 std::string_view withinFileName(std::string_view name) {

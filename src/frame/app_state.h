@@ -25,8 +25,8 @@ struct AppState {
     std::string LastAnswer;    // as a decimal text
     std::string ProgramFolder; // without a trailing separator; the settings file stands here
     std::string RootMSTS, RootTStore, RootPrimary, RootSecondary; // without a trailing "\"; may be empty
-    std::string BackupDir;      // with a trailing "\"
-    std::string ConsistFolder;  // where the consist under edit is saved; with a trailing "\"
+    std::string BackupDir;                                        // with a trailing "\"
+    std::string ConsistFolder; // where the consist under edit is saved; with a trailing "\"
     std::string ProgramFilesDir;
     std::string IniPath;
     std::string Language;

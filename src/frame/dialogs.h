@@ -24,7 +24,8 @@ class Dialogs {
                             const std::string& helpFile = {}, int helpContext = 0) = 0;
     // Asks for an existing file; nothing when cancelled. `filter` is "text (*.x)|*.x".
     virtual std::optional<std::string> askOpenFile(const std::string& title, const std::string& filter,
-                                                   const std::string& folder, const std::string& proposedName) = 0;
+                                                   const std::string& folder,
+                                                   const std::string& proposedName) = 0;
 };
 
 } // namespace zandor

@@ -1,5 +1,5 @@
-// What every operation may use from outside its own records: handed down by reference, owned by the application
-// (or by a test).
+// What every operation may use from outside its own records: handed down by reference, owned by the
+// application (or by a test).
 #pragma once
 
 #include "frame/app_state.h"

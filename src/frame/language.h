@@ -29,9 +29,9 @@ class Language {
   public:
     Language(ProfileFiles& profiles, const AppState& state) : profiles_(profiles), state_(state) {}
 
-    // The text of a message in AppState's language, its placeholders replaced in the order given, every occurrence of
-    // each. A number that the file lacks gives an empty text. A value that holds its own placeholder is put in once
-    // per occurrence of the text.
+    // The text of a message in AppState's language, its placeholders replaced in the order given, every
+    // occurrence of each. A number that the file lacks gives an empty text. A value that holds its own
+    // placeholder is put in once per occurrence of the text.
     std::string GetLangText(Message id, std::initializer_list<TextParam> params = {}) const;
     std::vector<LanguageChoice> ListLanguages() const;
 

@@ -99,7 +99,7 @@ enum class Message : int {
     NameOfStockList = 81,
     NameOfPreview = 82,
     NameOfStripScroll = 83,
-    VehicleMisplaced = 84, // |1 the line's number, |2 a line break, |3 the line
+    VehicleMisplaced = 84,     // |1 the line's number, |2 a line break, |3 the line
     StatusVehicle = 86,        // |1 its place, |2 how many there are, |3 its name, |4 its number
     StatusVehicleFlipped = 87, // as 86
     StatusVehicleMissing = 88, // as 86

@@ -1,6 +1,6 @@
-// Zandor.ini and every file of its form. There are no settings in memory: each reader asks the file, each writer
-// writes through. A parsed file is kept only while its time stamp and size stand. Windows-1252 unless the file begins
-// with a byte-order mark.
+// Zandor.ini and every file of its form. There are no settings in memory: each reader asks the file, each
+// writer writes through. A parsed file is kept only while its time stamp and size stand. Windows-1252 unless
+// the file begins with a byte-order mark.
 #pragma once
 
 #include "platform/file_system.h"
@@ -20,12 +20,13 @@ class ProfileFiles {
   public:
     explicit ProfileFiles(FileSystem& files) : files_(files) {}
 
-    // Section and key ignore case. Trimmed, without a pair of quotes around it, cut at 1023 characters; a missing
-    // file, section or key gives an empty text.
+    // Section and key ignore case. Trimmed, without a pair of quotes around it, cut at 1023 characters; a
+    // missing file, section or key gives an empty text.
     std::string ReadIniValue(std::string_view section, std::string_view key, std::string_view file);
-    // Keeps every other line as it stands; makes file, section and key as needed. The result isn't looked at by the
-    // operations: a read-only file keeps its values.
-    bool WriteIniValue(std::string_view section, std::string_view key, std::string_view value, std::string_view file);
+    // Keeps every other line as it stands; makes file, section and key as needed. The result isn't looked at
+    // by the operations: a read-only file keeps its values.
+    bool WriteIniValue(std::string_view section, std::string_view key, std::string_view value,
+                       std::string_view file);
 
     FileSystem& files() { return files_; }
 
@@ -42,10 +43,13 @@ class ProfileFiles {
 };
 
 // A new settings file with the default of every key. `title` goes into its first line.
-void WriteDefaultIni(FileSystem& files, std::string_view path, std::string_view title, std::string_view programFolder);
+void WriteDefaultIni(FileSystem& files, std::string_view path, std::string_view title,
+                     std::string_view programFolder);
 
 // The two ways in which a boolean is read; each reader keeps its own.
-bool readNumericFlag(ProfileFiles& profiles, std::string_view key, std::string_view file); // value is exactly 1
-bool readExactFlag(ProfileFiles& profiles, std::string_view key, std::string_view file);   // text is exactly "1"
+bool readNumericFlag(ProfileFiles& profiles, std::string_view key,
+                     std::string_view file); // value is exactly 1
+bool readExactFlag(ProfileFiles& profiles, std::string_view key,
+                   std::string_view file); // text is exactly "1"
 
 } // namespace zandor

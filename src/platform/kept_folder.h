@@ -49,7 +49,7 @@ class KeptFolder {
     const KeptName* find(std::string_view name) const;
 
     std::string path_;
-    bool kept_ = false; // names_ may be looked up as long as the folder's time stands
+    bool kept_ = false;    // names_ may be looked up as long as the folder's time stands
     timespec stamp_{};     // the folder's own time at the reading of the kept names
     bool settled_ = false; // the folder's time, as last seen, is old enough to tell a later change by it
     std::vector<KeptName> names_; // by lessIgnoringCase()

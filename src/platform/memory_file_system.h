@@ -27,7 +27,7 @@ class MemoryFileSystem final : public FileSystem {
     int calls() const { return calls_; } // since the last failAt()
     bool failed() const { return failed_; }
     std::function<void()> atEachCall; // such as the delay of a slow disk; may be empty
-    std::vector<std::string> log; // one line a call: verb and path, for tests of the order of things
+    std::vector<std::string> log;     // one line a call: verb and path, for tests of the order of things
 
     bool readFile(std::string_view path, std::string& bytes) override;
     bool fileExists(std::string_view path) override;

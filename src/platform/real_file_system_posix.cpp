@@ -153,9 +153,9 @@ int RealFileSystem::openForReading(std::string_view path) {
     return resolve(path).isFile() ? openFile(place_.real, O_RDONLY) : -1;
 }
 
-// A file is read until nothing comes: over a network a read may come short before the end. Reading at an offset fails for a pipe or
-// terminal, and for a folder; what else isn't a plain file reads as nothing or without an end, and is asked
-// what it is.
+// A file is read until nothing comes: over a network a read may come short before the end. Reading at an
+// offset fails for a pipe or terminal, and for a folder; what else isn't a plain file reads as nothing or
+// without an end, and is asked what it is.
 bool RealFileSystem::readOpened(int file, std::string& bytes) {
     const ssize_t count = readAt(file, buffer_.get(), 0);
     if (count < 0)

@@ -12,8 +12,8 @@
 namespace zandor {
 
 // A missing or unreadable file leaves the defaults (Durability from `durability`, 1 being new stock's) and
-// one free slot. Returns what the gate raised, after which the vehicles read so far stand, or that vehicles stand in
-// blocks where none belongs and were left out.
+// one free slot. Returns what the gate raised, after which the vehicles read so far stand, or that vehicles
+// stand in blocks where none belongs and were left out.
 std::optional<SimError> ReadConsistFile(SimReader& reader, Rame& rame, std::vector<RameItem>& items,
                                         std::string_view path, double durability = 1.0);
 

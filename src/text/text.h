@@ -21,13 +21,14 @@ inline std::string_view trim(std::string_view text) {
 // First `count` characters (not bytes), never cutting one in two.
 std::string_view firstCharacters(std::string_view text, std::size_t count);
 
-// The number that the text begins with: blanks, a sign, digits with "." as the decimal point, an exponent. Stops at
-// the first character that doesn't fit; 0 when none does.
+// The number that the text begins with: blanks, a sign, digits with "." as the decimal point, an exponent.
+// Stops at the first character that doesn't fit; 0 when none does.
 double numericValue(std::string_view text);
 // The same rounded (half to even) to a 16-bit number; out of range gives 0.
 int numericInt16(std::string_view text);
 
-std::string formatDurability(double value); // "###0.00000": five decimals, "." as the point: 1 gives "1.00000"
+std::string
+formatDurability(double value); // "###0.00000": five decimals, "." as the point: 1 gives "1.00000"
 
 // Trims, then drops one double quote at each end; the ends are treated apart.
 std::string_view StripQuotes(std::string_view text);
@@ -35,8 +36,8 @@ std::string_view StripQuotes(std::string_view text);
 bool QuotesBalanced(std::string_view text);
 // Drops tabs and blanks at the ends, one "(" in front, one ")" behind, trims, then balanced quotes.
 std::string_view CleanValue(std::string_view text);
-// A raw line for the quick readers: tabs become blanks, ends trimmed, and the blanks between a key and its bracket
-// become one.
+// A raw line for the quick readers: tabs become blanks, ends trimmed, and the blanks between a key and its
+// bracket become one.
 void NormalizeLine(std::string& line);
 
 // Last blank-separated token, as the length stands in a size text: "3m 4m 18.5m" gives "18.5m".

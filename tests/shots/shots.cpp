@@ -16,6 +16,7 @@
 #include "frame/windows/question.h"
 #include "frame/windows/splash.h"
 #include "frame/windows/theme.h"
+#include "frame/windows/toolkit_language.h"
 
 #include <QApplication>
 #include <QDir>
@@ -32,7 +33,8 @@ constexpr int Settled = 300; // ms until a window has been laid out and its fold
 
 class Shots {
   public:
-    Shots(const QDir& folder, const char* language, DemoStrip& demo) : folder_(folder), test_(demo.test) {
+    Shots(const QDir& folder, const char* language, bool dark, DemoStrip& demo)
+        : folder_(folder), dark_(dark), test_(demo.test) {
         test_.state.Language = language;
         test_.state.PrintName = test_.state.PrintGreen = test_.state.Optimize = true;
         LoadCatalogue(test_.frame, catalogue_, ReadOnlyLoad);
@@ -51,9 +53,10 @@ class Shots {
         window.show();
         QTest::qWait(Settled);
         const QString language = toQt(test_.state.Language).left(2).toLower();
-        const QString file = QString("%1-%2-%3.png")
-                                 .arg(QLatin1String(name), language)
-                                 .arg(qRound(window.devicePixelRatioF() * 100));
+        const QString file =
+            QString("%1-%2-%3%4.png")
+                .arg(QLatin1String(name), language, QString::number(qRound(window.devicePixelRatioF() * 100)),
+                     QLatin1String(dark_ ? "-dark" : ""));
         if (!window.grab().save(folder_.filePath(file)))
             std::fprintf(stderr, "Can't write %s\n", qPrintable(file));
         window.hide();
@@ -133,27 +136,43 @@ class Shots {
     }
 
     QDir folder_;
+    bool dark_;
     TestFrame& test_;
     Catalogue catalogue_;
     ConsistDocument document_;
     Editor editor_{test_.frame, catalogue_, document_};
 };
 
+// The colours of a dark desktop.
+QPalette darkColours() {
+    QPalette palette(QColor(49, 54, 59), QColor(41, 44, 48));
+    palette.setColor(QPalette::Base, QColor(27, 30, 32));
+    palette.setColor(QPalette::AlternateBase, QColor(35, 38, 41));
+    palette.setColor(QPalette::Highlight, QColor(61, 174, 233));
+    palette.setColor(QPalette::HighlightedText, QColor(252, 252, 252));
+    return palette;
+}
+
 } // namespace
 } // namespace zandor
 
 int main(int argc, char** argv) {
-    if (argc != 2)
+    const bool dark = argc == 3 && std::string_view(argv[2]) == "--dark";
+    if (argc != 2 && !dark)
         return 2;
     QApplication application(argc, argv);
     QApplication::setWindowIcon(QIcon(":/art/zandor.png"));
     zandor::applyTheme(application);
+    if (dark)
+        QApplication::setPalette(zandor::darkColours());
+    zandor::ToolkitLanguage toolkitTexts;
     const QDir folder(argv[1]);
     folder.mkpath(".");
     for (const char* language : {"Français", "English"}) {
+        toolkitTexts.follow(language);
         zandor::DemoStrip demo;
         demo.putThumbnails(ZANDOR_THUMBNAILS);
-        zandor::Shots(folder, language, demo).takeAll();
+        zandor::Shots(folder, language, dark, demo).takeAll();
     }
     return 0;
 }

@@ -3,8 +3,10 @@
 #include "frame/windows/qt_dialogs.h"
 #include "frame/windows/qt_progress.h"
 #include "frame/windows/splash.h"
+#include "frame/windows/toolkit_language.h"
 
 #include <QElapsedTimer>
+#include <QKeySequence>
 #include <QTest>
 #include <QTimer>
 
@@ -12,6 +14,21 @@
 
 namespace zandor {
 namespace {
+
+TEST(ToolkitLanguage, NamesKeysInTheProgramsLanguage) {
+    ToolkitLanguage toolkit;
+    const auto removeKey = [&](const char* language) {
+        toolkit.follow(QString::fromUtf8(language));
+        return QKeySequence(Qt::Key_Delete).toString(QKeySequence::NativeText).toStdString();
+    };
+    EXPECT_EQ(removeKey("Français"), "Suppr");
+    EXPECT_EQ(removeKey("Deutsch"), "Entf");
+    EXPECT_EQ(removeKey("Español"), "Supr");
+    EXPECT_EQ(removeKey("English"), "Del");
+    EXPECT_EQ(removeKey("Italiano"), "Canc");
+    EXPECT_EQ(removeKey("Klingon"), "Del");
+    EXPECT_EQ(removeKey(""), "Del");
+}
 
 TEST(FileDialogFilter, IsTurnedIntoTheToolkitsForm) {
     EXPECT_EQ(fileDialogFilter("Programmes (*.exe)|*.exe"), "Programmes (*.exe)");

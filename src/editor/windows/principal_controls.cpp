@@ -48,19 +48,22 @@ struct ButtonRow {
     const char* name;
     Message caption;
     const char* french;
-    Message tip; // NoTip: none
+    Message tip;      // NoTip: none
     const char* icon; // as desktops name it
 };
 constexpr Message NoTip{0};
 constexpr ButtonRow Buttons[] = {
     {&PrincipalControls::cmdNEW, "cmdNEW", Message::CaptionNew, "&Nouveau", Message::TipNew, "document-new"},
-    {&PrincipalControls::cmdOPEN, "cmdOPEN", Message::CaptionOpen, "&Ouvrir", Message::TipOpen, "document-open"},
-    {&PrincipalControls::cmdSAVE, "cmdSAVE", Message::CaptionSave, "&Enregistrer", Message::TipSave, "document-save"},
+    {&PrincipalControls::cmdOPEN, "cmdOPEN", Message::CaptionOpen, "&Ouvrir", Message::TipOpen,
+     "document-open"},
+    {&PrincipalControls::cmdSAVE, "cmdSAVE", Message::CaptionSave, "&Enregistrer", Message::TipSave,
+     "document-save"},
     {&PrincipalControls::cmdDELETE, "cmdDELETE", Message::CaptionDelete, "&Supprimer", Message::TipDelete,
      "edit-delete"},
     {&PrincipalControls::cmdNUMEROTATION, "cmdNUMEROTATION", Message::CaptionNumber, "N&uméroter",
      Message::TipNumber, "view-sort-ascending"},
-    {&PrincipalControls::cmdOptions, "cmdOptions", Message::CaptionOptions, "Opt&ions", NoTip, "preferences-system"},
+    {&PrincipalControls::cmdOptions, "cmdOptions", Message::CaptionOptions, "Opt&ions", NoTip,
+     "preferences-system"},
     {&PrincipalControls::cmdHELP, "cmdHELP", Message::CaptionHelp, "&Aide", NoTip, "help-contents"},
     {&PrincipalControls::cmdPROPOS, "cmdPROPOS", Message::CaptionAbout, "A &propos", NoTip, "help-about"},
     {&PrincipalControls::cmdCANCEL, "cmdCANCEL", Message::CaptionQuit, "&Quitter", NoTip, "application-exit"},
@@ -154,9 +157,9 @@ QWidget* buildConsist(QWidget* parent, PrincipalControls& c) {
     c.Slider1->setRange(0, DurabilityRange);
     c.Slider1->setPageStep(DurabilityRange / 10);
     c.Slider1->setSingleStep(DurabilityRange / 100);
-    c.lblRESISTANCE = named(new QLabel(frame), "lblRESISTANCE");
+    // No label here wraps its words: the scrolled side would then keep the preview at its full height.
+    c.lblRESISTANCE = named(new ElidedLabel(frame, Qt::ElideRight), "lblRESISTANCE");
     theme::showAsHint(*c.lblRESISTANCE);
-    c.lblRESISTANCE->setWordWrap(true);
     c.lblFULL_NAME->setBuddy(c.tbFULL_NAME);
     c.lblNAME->setBuddy(c.tbNAME);
     c.lblSLIDER->setBuddy(c.Slider1);

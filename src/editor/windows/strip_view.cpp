@@ -1,8 +1,8 @@
 #include "editor/windows/strip_view.h"
 
 #include "catalogue/stock_list.h"
-#include "editor/strip_selection.h"
 #include "editor/strip_drawing.h"
+#include "editor/strip_selection.h"
 #include "editor/windows/stock_model.h"
 #include "frame/windows/cursors.h"
 #include "frame/windows/qt_text.h"
