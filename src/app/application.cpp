@@ -72,13 +72,17 @@ bool Application::handedOver() {
     return !path.empty() && instance_->handOver(toQt(files_->nativePath(path)));
 }
 
-// A message that is open is answered first.
 void Application::takeFile(const QString& path) {
     window_->setWindowState(window_->windowState() & ~Qt::WindowMinimized);
     window_->raise();
     window_->activateWindow();
+    openGiven(path);
+}
+
+// A message that is open is answered first.
+void Application::openGiven(const QString& path) {
     if (QApplication::activeModalWidget() || QApplication::activePopupWidget())
-        QTimer::singleShot(AskAgainAfter, window_.get(), [this, path] { takeFile(path); });
+        QTimer::singleShot(AskAgainAfter, window_.get(), [this, path] { openGiven(path); });
     else
         window_->offerFile(pathFromQt(path));
 }
@@ -111,6 +115,7 @@ void Application::loadThenShow() {
 Application::End Application::load() {
     loadSettings(frame_, folders_);
     applyAssociation(frame_, *association_, folders_);
+    offerKnownLanguage(frame_);
     toolkitTexts_.follow(toQt(state_.Language));
     help_.serveF1();
     initialiseDocument(editor_);

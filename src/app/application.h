@@ -34,6 +34,7 @@ class Application {
 
     bool handedOver();
     void takeFile(const QString& path);
+    void openGiven(const QString& path);
     void reportMissingLanguages();
     void showSplash();
     void loadThenShow();

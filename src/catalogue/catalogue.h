@@ -92,7 +92,8 @@ bool LoadCatalogue(Frame& frame, Catalogue& catalogue, LoadOptions options = {})
 
 void ListConsistFiles(Frame& frame, Catalogue& catalogue, std::string_view root);
 void ListStockFolders(Frame& frame, Catalogue& catalogue, std::string_view trainsetPath, bool stopAtLimit);
-void ScanStockFiles(Frame& frame, Catalogue& catalogue);
+// False: the user ended it.
+bool ScanStockFiles(Frame& frame, Catalogue& catalogue);
 bool ScanConsists(Frame& frame, Catalogue& catalogue);
 // The reading of every stock file, the last step of the load. False: the user ended it.
 bool readAllStock(Frame& frame, Catalogue& catalogue, LoadOptions options = {});

@@ -48,7 +48,8 @@ bool loadSteps(Frame& frame, Catalogue& catalogue, LoadOptions options) {
         return false;
     ListStockFolders(frame, catalogue, trainsetPath(frame.state.RootPrimary), true);
     markStep();
-    ScanStockFiles(frame, catalogue);
+    if (!ScanStockFiles(frame, catalogue))
+        return false;
     markStep();
     if (wantsThumbnailControl(frame, catalogue)) {
         if (!ControlThumbnails(frame, catalogue))

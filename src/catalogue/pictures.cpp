@@ -98,10 +98,13 @@ PictureRef bitmapFile(Frame& frame, Catalogue& catalogue, const std::string& pat
     return size ? PictureRef{PictureRef::File, path, size->width, size->height} : PictureRef();
 }
 
+std::string thumbnailPath(const Frame& frame, const Catalogue& catalogue, const Materiel& materiel) {
+    return thumbnailsPath(frame.state) + mappedName(catalogue, materiel) + ".bmp";
+}
+
 PictureRef thumbnailOf(Frame& frame, Catalogue& catalogue, Materiel& materiel) {
-    const std::string folder = thumbnailsPath(frame.state);
-    makeFolder(frame, catalogue, folder);
-    PictureRef thumbnail = bitmapFile(frame, catalogue, folder + mappedName(catalogue, materiel) + ".bmp");
+    makeFolder(frame, catalogue, thumbnailsPath(frame.state));
+    PictureRef thumbnail = bitmapFile(frame, catalogue, thumbnailPath(frame, catalogue, materiel));
     if (thumbnail.found()) {
         materiel.ImageIsGeneric = materiel.ImageIsResource = false;
         materiel.Picture = thumbnail.name;
@@ -197,6 +200,12 @@ PictureRef LoadMaterielPicture(Frame& frame, Catalogue& catalogue, Materiel& mat
     if (PictureRef thumbnail = thumbnailOf(frame, catalogue, materiel); thumbnail.found())
         return thumbnail;
     return typeImageOf(materiel);
+}
+
+std::string unreadableThumbnail(Frame& frame, Catalogue& catalogue, const Materiel& materiel) {
+    std::string path = thumbnailPath(frame, catalogue, materiel);
+    const bool stands = frame.files.stamp(path) && !catalogue.pictureSizes.sizeOf(frame.files, path);
+    return stands ? path : std::string();
 }
 
 } // namespace zandor

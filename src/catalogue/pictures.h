@@ -84,4 +84,7 @@ std::string MapPictureName(const Catalogue& catalogue, std::string_view name);
 PictureRef LoadMaterielPicture(Frame& frame, Catalogue& catalogue, Materiel& materiel,
                                std::string* baseName = nullptr);
 
+// The thumbnail that the stock entry would have if the file were a picture; empty when there is no such file.
+std::string unreadableThumbnail(Frame& frame, Catalogue& catalogue, const Materiel& materiel);
+
 } // namespace zandor

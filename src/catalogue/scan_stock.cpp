@@ -1,6 +1,8 @@
 #include "catalogue/catalogue.h"
 #include "catalogue/stock_files.h"
 
+#include <algorithm>
+
 namespace zandor {
 
 namespace {
@@ -48,17 +50,21 @@ bool scanFolder(Frame& frame, Catalogue& catalogue, const std::string& basePath,
     return true;
 }
 
-void scanPass(Frame& frame, Catalogue& catalogue, const std::string& basePath, const StockPass& pass) {
+// False: the user ended it.
+bool scanPass(Frame& frame, Catalogue& catalogue, const std::string& basePath, const StockPass& pass) {
     const std::string shown = frame.text(pass.listing);
     const int last = static_cast<int>(catalogue.StockFolders.size()) - 1;
     for (int index = 0; index <= last; ++index) {
         const std::string& folder = catalogue.StockFolders[index];
         if (folder.empty())
             continue;
+        if (!frame.progress.yield())
+            return false;
         if (!scanFolder(frame, catalogue, basePath, folder, pass.extension))
-            return;
+            return true; // full: what fits is there
         frame.progress.ShowProgress(0, last, index, shown);
     }
+    return true;
 }
 
 } // namespace
@@ -90,12 +96,13 @@ void ListStockFolders(Frame& frame, Catalogue& catalogue, std::string_view train
     }
 }
 
-void ScanStockFiles(Frame& frame, Catalogue& catalogue) {
+bool ScanStockFiles(Frame& frame, Catalogue& catalogue) {
     catalogue.Materiels.assign(1, {});
     const std::string basePath = trainsetPath(frame.state.RootPrimary);
-    for (const StockPass& pass : StockPasses)
-        scanPass(frame, catalogue, basePath, pass);
+    const bool complete = std::ranges::all_of(
+        StockPasses, [&](const StockPass& pass) { return scanPass(frame, catalogue, basePath, pass); });
     catalogue.StockFolders.assign(1, {});
+    return complete;
 }
 
 } // namespace zandor

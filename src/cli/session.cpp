@@ -60,9 +60,14 @@ bool Session::prepareLanguage() {
     if (state.LanguagePath.empty())
         return refuse(LanguageFileMissing);
     readLanguage(frame);
-    if (options_.language.empty())
+    if (options_.language.empty()) {
+        if (const auto instead = languageInstead(frame)) {
+            err << "zandor-cli: the language " << state.Language << " isn't in Langues.lng: " << *instead
+                << " serves\n";
+            state.Language = *instead;
+        }
         return true;
-
+    }
     std::string known;
     for (const LanguageChoice& choice : frame.language.ListLanguages()) {
         if (equalIgnoringCase(choice.name, options_.language)) {

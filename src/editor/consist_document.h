@@ -49,6 +49,7 @@ struct EditorControls {
     bool numberEnabled = false;   // cmdNUMEROTATION
     int scrollValue = 0;          // HScrollRAME, pixels
     int scrollMaximum = 0;
+    int scrollSmallStep = 1, scrollLargeStep = 1;
     bool scrollEnabled = false;
     int viewWidth = 800; // inner size of PicRAME in pixels; the window keeps it up to date
     int viewHeight = StripHeight;
@@ -136,6 +137,8 @@ void AutoScrollStrip(ConsistDocument& document, int x, int y);
 
 // The width of the strip's picture in pixels.
 int stripPictureWidth(const ConsistDocument& document);
+// True when the strip is longer than its picture may be; never where no window shows it.
+bool endIsHidden(const ConsistDocument& document);
 
 // What a redraw brings besides the drawing: numbers, totals, scroll range. Asks for the drawing.
 void updateStrip(Editor& editor);

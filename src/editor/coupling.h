@@ -23,13 +23,14 @@ std::string_view CouplingImageName(std::string_view coupling);
 
 // The information panel.
 struct MaterielInfo {
-    std::string select;   // tbSELECT
-    std::string path;     // tbPATH
-    std::string brakes;   // lblFreins
-    std::string coupling; // lblATTELAGE
-    std::string length;   // lblLONGUEUR
-    std::string mass;     // lblPOIDS
-    PictureRef picture;   // picPREVIEW
+    std::string select;            // tbSELECT
+    std::string path;              // tbPATH
+    std::string brakes;            // lblFreins
+    std::string coupling;          // lblATTELAGE
+    std::string length;            // lblLONGUEUR
+    std::string mass;              // lblPOIDS
+    PictureRef picture;            // picPREVIEW
+    std::string unreadablePicture; // the path of a thumbnail that serves for nothing
 };
 // Of an entry of Materiels. Nothing for an index that is no stock's.
 MaterielInfo ShowMaterielInfo(Editor& editor, int index);

@@ -47,10 +47,13 @@ bool insertStock(Editor& editor, int pos, int index) {
     document.DragAtEnd = atEnd;
     document.DragTarget = target;
     const int scrollBefore = document.controls.scrollValue;
+    const bool wasHidden = endIsHidden(document);
     Materiel& materiel = editor.catalogue.Materiels[static_cast<std::size_t>(index)];
     document.PictureWidth = LoadMaterielPicture(editor.frame, editor.catalogue, materiel).width;
     InsertVehicule(editor, index, true, false);
     scrollAfterInsert(document, pos, scrollBefore);
+    if (endIsHidden(document) && !wasHidden)
+        showEndHidden(editor);
     return true;
 }
 

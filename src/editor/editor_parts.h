@@ -47,6 +47,9 @@ template <class T> T& addToArray(std::vector<T>& array, bool lastIsFree, T eleme
 // Tells that the strip holds as many vehicles as positions can number.
 void showStripFull(Editor& editor);
 
+// Tells that the end of the strip is out of sight from now on.
+void showEndHidden(Editor& editor);
+
 // The empty editor and a Rame with the defaults of a new consist; asks nothing.
 void beginNewConsist(Editor& editor);
 

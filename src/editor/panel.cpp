@@ -92,6 +92,7 @@ MaterielInfo ShowMaterielInfo(Editor& editor, int index) {
         return {};
     MaterielInfo info = ShowMaterielInfo(editor.frame, materiels[position]);
     info.picture = LoadMaterielPicture(editor.frame, editor.catalogue, materiels[position]);
+    info.unreadablePicture = unreadableThumbnail(editor.frame, editor.catalogue, materiels[position]);
     return info;
 }
 

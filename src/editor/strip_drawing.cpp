@@ -146,7 +146,7 @@ class StripDrawing {
 
     void drawBrakes(const Vehicule& vehicule, const StripRect& area) {
         const Materiel* materiel = materielOf(editor_, vehicule);
-        if (!materiel)
+        if (!materiel || area.width < 2)
             return;
         const auto* mark =
             std::ranges::find(BrakeMarks, lowerCase(materiel->BrakeSystem), &BrakeMark::brakeSystem);

@@ -26,6 +26,8 @@ void updateScrollRange(ConsistDocument& document) {
     if (range < LargestScroll)
         controls.scrollMaximum = range;
     controls.scrollValue = std::clamp(controls.scrollValue, 0, controls.scrollMaximum);
+    controls.scrollSmallStep = std::max(1, controls.scrollMaximum / 20);
+    controls.scrollLargeStep = std::max(1, controls.scrollMaximum / 65);
 }
 
 // Cut behind the third decimal, not rounded.
@@ -49,6 +51,11 @@ int stripPictureWidth(const ConsistDocument& document) {
         vehicles += vehicule.Width;
     }
     return std::max(document.controls.viewWidth, vehicles + RoomBehindStrip);
+}
+
+bool endIsHidden(const ConsistDocument& document) {
+    const bool shown = document.controls.viewWidth > 0;
+    return shown && document.StripWidth + RoomBehindStrip > stripPictureWidth(document);
 }
 
 StripHit HitTestStrip(const ConsistDocument& document, int x, int y) {

@@ -203,4 +203,10 @@ void showStripFull(Editor& editor) {
         style::Exclamation);
 }
 
+void showEndHidden(Editor& editor) {
+    editor.frame.show(editor.frame.text(Message::StripTooLong,
+                                        {{"|1", std::to_string(stripPictureWidth(editor.document))}}),
+                      style::Information);
+}
+
 } // namespace zandor

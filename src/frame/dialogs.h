@@ -9,6 +9,7 @@ namespace zandor {
 // Numbers of the standard message box: a style is the sum of a set of buttons, an icon and flags.
 namespace style {
 inline constexpr int Ok = 0, OkCancel = 1, AbortRetryIgnore = 2, YesNoCancel = 3, YesNo = 4, RetryCancel = 5;
+inline constexpr int SecondButton = 256; // is the default one
 inline constexpr int Stop = 16, Question = 32, Exclamation = 48, Information = 64;
 } // namespace style
 

@@ -5,6 +5,7 @@
 #include "text/text_hash.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace zandor {
 
@@ -13,6 +14,7 @@ namespace {
 constexpr std::string_view SimulatorKey = "SOFTWARE\\Microsoft\\Microsoft Games\\Train Simulator\\1.0";
 constexpr std::string_view WindowsKey = "SOFTWARE\\Microsoft\\Windows\\CurrentVersion";
 constexpr std::string_view LanguageFile = "Langues.lng";
+constexpr std::string_view DefaultLanguage = "Français";
 constexpr std::string_view SimulatorName = "Microsoft Train Simulator";
 
 std::string setting(const Frame& frame, std::string_view key) {
@@ -173,7 +175,29 @@ bool prepareStart(Frame& frame, const ProgramFolders& folders) {
 
 void readLanguage(Frame& frame) {
     const std::string language = setting(frame, "Langage");
-    frame.state.Language = language.empty() ? "Français" : language;
+    frame.state.Language = language.empty() ? std::string(DefaultLanguage) : language;
+}
+
+std::optional<std::string> languageInstead(const Frame& frame) {
+    const std::vector<LanguageChoice> known = frame.language.ListLanguages();
+    const auto listed = [&known](std::string_view name) {
+        return std::ranges::any_of(
+            known, [name](const LanguageChoice& choice) { return equalIgnoringCase(choice.name, name); });
+    };
+    if (known.empty() || listed(frame.state.Language))
+        return std::nullopt;
+    return listed(DefaultLanguage) ? std::string(DefaultLanguage) : known.front().name;
+}
+
+void offerKnownLanguage(Frame& frame) {
+    const auto instead = languageInstead(frame);
+    if (!instead)
+        return;
+    const std::string gone = std::exchange(frame.state.Language, *instead);
+    const std::string question =
+        frame.text(Message::LanguageGone, {{"|1", gone}, {"|2", "\n"}, {"|3", *instead}});
+    if (frame.show(question, style::YesNo + style::Question) != answer::Yes)
+        frame.state.Language = gone;
 }
 
 void loadSettings(Frame& frame, const ProgramFolders& folders) {

@@ -4,6 +4,7 @@
 #include "frame/frame.h"
 #include "platform/system.h"
 
+#include <optional>
 #include <string>
 
 namespace zandor {
@@ -22,6 +23,11 @@ bool prepareStart(Frame& frame, const ProgramFolders& folders);
 // What the settings say, without a write: the flags, the backup folder, the language.
 void readSettings(Frame& frame);
 void readLanguage(Frame& frame);
+// The language that can serve when the one of the settings isn't in the language file any more and would give
+// no texts; nothing when it is there.
+std::optional<std::string> languageInstead(const Frame& frame);
+// Offers that one. A user who declines it keeps the setting.
+void offerKnownLanguage(Frame& frame);
 // The settings made complete and read, what an installation left cleaned up, the backup folder made: the
 // first steps of the main window's load, in their order.
 void loadSettings(Frame& frame, const ProgramFolders& folders);

@@ -131,13 +131,23 @@ TEST_F(CatalogueTest, LoadOfAMissingRootIsEmptyAndNoError) {
 TEST_F(CatalogueTest, LoadStopsAtOnceWhenTheUserEndsIt) {
     for (const char* name : {"Parc\\a.wag", "Parc\\b.wag", "Parc\\c.wag"})
         putStock(name, WagonBody);
-    progress.cancelAtYield = progress.yields + 3;
+    // The folder is listed twice, for engines and for wagons; then one file is read.
+    progress.cancelAtYield = progress.yields + 5;
     EXPECT_FALSE(LoadCatalogue(frame, catalogue));
     EXPECT_FALSE(state.Busy);
     ASSERT_EQ(stockNames().size(), 3u);
     EXPECT_EQ(catalogue.Materiels[1].Type, "Carriage");
     EXPECT_EQ(catalogue.Materiels[2].Type, "");
     EXPECT_EQ(progressShown().back(), "0-2:1 reading b.wag");
+}
+
+TEST_F(CatalogueTest, TheListingOfFoldersStopsAtOnceWhenTheUserEndsIt) {
+    putStock("A\\a.wag", WagonBody);
+    putStock("B\\b.wag", WagonBody);
+    progress.cancelAtYield = progress.yields + 4;
+    EXPECT_FALSE(LoadCatalogue(frame, catalogue));
+    EXPECT_EQ(stockNames(), Names{"A\\a.wag"});
+    EXPECT_FALSE(state.Busy);
 }
 
 TEST_F(CatalogueTest, ScanOfConsistsStopsAtOnceWhenTheUserEndsIt) {

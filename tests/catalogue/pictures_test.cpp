@@ -192,7 +192,11 @@ TEST_F(PicturesTest, AThumbnailThatIsGoneOrNoPictureGivesWayToTheType) {
         files.put(file, bytes);
         Materiel materiel = stock("voit.wag");
         EXPECT_EQ(shown(load(materiel), materiel), type);
+        EXPECT_EQ(unreadableThumbnail(frame, catalogue, materiel), file);
+        EXPECT_EQ(unreadableThumbnail(frame, catalogue, stock("none.wag")), "");
     }
+    putThumbnail("voit", 90);
+    EXPECT_EQ(unreadableThumbnail(frame, catalogue, stock("voit.wag")), "");
     for (const bool deleted : {true, false}) {
         putThumbnail("voit", 90);
         Materiel materiel = stock("voit.wag");

@@ -114,11 +114,24 @@ TEST_F(OpenTest, WhatIsNoConsistChangesNothing) {
                                     consistPath("absent.con"), std::string("C:\\x.txt")}) {
         dialogs.shown.clear();
         EXPECT_FALSE(openConsist(editor, path)) << path;
-        EXPECT_EQ(shown(), Shown{"48 no consist " + files.nativePath(path)});
+        const bool absent = path.find("absent") != std::string::npos;
+        EXPECT_EQ(shown(), Shown{(absent ? "48 no consist " : "48 no train ") + files.nativePath(path)});
         EXPECT_EQ(order(), "AB");
         EXPECT_EQ(controls.shortName, "mine");
         EXPECT_FALSE(state.HasFile);
     }
+}
+
+TEST_F(OpenTest, AHugeFileIsOpenedOnlyWhenItsUserWantsIt) {
+    std::string text(ConsistSignature);
+    text.append("\r\nTrain (\r\nTrainCfg ( big\r\nWagon (\r\nWagonData ( Wag1 Folder1 )\r\n)\r\n)\r\n)\r\n");
+    files.put(consistPath("big.con"), text + std::string(33u << 20, '\n'));
+    dialogs.answers = {answer::No, answer::Yes};
+    EXPECT_FALSE(open("big.con"));
+    EXPECT_EQ(shown(), Shown{"292 33 MB in " + files.nativePath(consistPath("big.con")) + "?"});
+    EXPECT_FALSE(hasVehicles(document));
+    EXPECT_TRUE(open("big.con"));
+    EXPECT_EQ(vehicleCount(document), 1);
 }
 
 TEST_F(OpenTest, AFailingDiskNeverPassesForAnEmptyConsist) {
@@ -270,7 +283,7 @@ TEST_F(OpenTest, AConsistBeyondTheLimitOpensUpToIt) {
     putConsist("long.con", body + ")\r\n)\r\n");
     ASSERT_TRUE(open("long.con"));
     EXPECT_EQ(vehicleCount(document), MaxEntries);
-    EXPECT_EQ(shown(), Shown{"48 limit 32766 in long.con"});
+    EXPECT_EQ(shown(), (Shown{"48 limit 32766 in long.con", "64 shown up to 16364"}));
 }
 
 TEST_F(OpenTest, VehiclesAreAsWideAsTheirPictures) {

@@ -193,6 +193,22 @@ TEST_F(StripTest, AVeryLongStripScrollsAsFarAsItsPictureReaches) {
     compose(std::string(140, 'A'));
     const int reached = 134 * PlainPictureWidth + 150; // the most that stays under 16384
     EXPECT_EQ(controls.scrollMaximum, reached - controls.viewWidth);
+    EXPECT_EQ(controls.scrollSmallStep, controls.scrollMaximum / 20);
+    EXPECT_EQ(controls.scrollLargeStep, controls.scrollMaximum / 65);
+}
+
+TEST_F(StripTest, ThatTheEndIsOutOfSightIsToldOnce) {
+    controls.viewWidth = 0; // no window shows it
+    compose(std::string(140, 'A'));
+    EXPECT_EQ(shown(), Shown{});
+    newConsist(editor);
+    controls.viewWidth = 800;
+    dialogs.shown.clear();
+    compose(std::string(134, 'A'));
+    EXPECT_EQ(shown(), Shown{});
+    EXPECT_TRUE(appendStock(editor, stockOf('A')));
+    EXPECT_TRUE(appendStock(editor, stockOf('A')));
+    EXPECT_EQ(shown(), Shown{"64 shown up to " + std::to_string(134 * PlainPictureWidth + 150)});
 }
 
 TEST_F(StripTest, ThePointerNearAnEdgeScrolls) {

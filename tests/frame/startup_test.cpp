@@ -37,6 +37,30 @@ TEST_F(StartUp, PathsAndLanguageAreSetFirst) {
     EXPECT_EQ(state.Language, "English");
 }
 
+TEST_F(StartUp, AnotherLanguageIsOfferedForOneThatIsGone) {
+    struct Case {
+        const char *setting, *file;
+        int answer;
+        const char *question, *language;
+    };
+    const std::string texts = "[Français]\r\n99=|1 parti, |3 ?\r\n[English]\r\n99=|1 gone, |3?\r\n";
+    for (const Case& c :
+         {Case{"English", "0=1$Français\r\n1=2$English\r\n", 0, "", "English"},
+          Case{"english", "0=1$Français\r\n1=2$English\r\n", 0, "", "english"},
+          Case{"Gone", "0=2$English\r\n1=1$Français\r\n", answer::Yes, "Gone parti, Français ?", "Français"},
+          Case{"Gone", "0=1$Français\r\n", answer::No, "Gone parti, Français ?", "Gone"},
+          Case{"Gone", "0=2$English\r\n", answer::Yes, "Gone gone, English?", "English"},
+          Case{"Gone", "", 0, "", "Gone"}}) {
+        dialogs.shown.clear();
+        dialogs.answers = {c.answer};
+        state.Language = c.setting;
+        files.put(state.LanguagePath, encodeWindows1252("[Langues]\r\n" + std::string(c.file) + texts));
+        offerKnownLanguage(frame);
+        EXPECT_EQ(state.Language, c.language) << c.file;
+        EXPECT_EQ(dialogs.shown.empty() ? "" : dialogs.shown[0].text, c.question);
+    }
+}
+
 TEST_F(StartUp, WithoutTheLanguageFileNothingStarts) {
     files.deleteFile(state.LanguagePath);
     EXPECT_FALSE(prepareStart(frame, folders()));

@@ -23,7 +23,7 @@ TEST(ToolkitLanguage, NamesKeysInTheProgramsLanguage) {
     };
     EXPECT_EQ(removeKey("Français"), "Suppr");
     EXPECT_EQ(removeKey("Deutsch"), "Entf");
-    EXPECT_EQ(removeKey("Español"), "Supr");
+    EXPECT_EQ(removeKey("Español"), "Suprimir");
     EXPECT_EQ(removeKey("English"), "Del");
     EXPECT_EQ(removeKey("Italiano"), "Canc");
     EXPECT_EQ(removeKey("Klingon"), "Del");

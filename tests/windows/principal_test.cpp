@@ -258,6 +258,31 @@ TEST_F(WindowTest, ThePointerShowsWhatLettingGoWouldDo) {
     EXPECT_FALSE(QApplication::overrideCursor());
 }
 
+TEST_F(WindowTest, AHandThatTremblesOverTheEdgeRemovesNothing) {
+    build({"BB 9288", "CC 6500"});
+    const QPoint edge(onVehicle(0).x(), strip().height() - 1);
+    QTest::mousePress(&strip(), Qt::LeftButton, {}, edge);
+    QTest::mouseRelease(&strip(), Qt::LeftButton, {}, edge + QPoint(0, 3));
+    EXPECT_EQ(vehicles().size(), 2u);
+    EXPECT_FALSE(state.Modified);
+}
+
+TEST_F(WindowTest, StockOfNoListIsSaidWhenItIsLookedUp) {
+    build({"BB 9288"});
+    document.Vehicules[0].FromSimulator = true;
+    drag(onVehicle(0), fromWindow(get<QWidget>("picPREVIEW")));
+    EXPECT_TRUE(get<QLabel>("lblSTATUS").text().contains("BB 9288"));
+    EXPECT_TRUE(get<QLabel>("lblSTATUS").text().contains("list"));
+    EXPECT_EQ(get<QLabel>("tbSELECT").text(), "");
+}
+
+TEST_F(WindowTest, LettersLookForNamesAlsoBehindAClickOnAnIcon) {
+    const QModelIndex brakes = list().model()->index(0, 1);
+    QTest::mouseClick(list().viewport(), Qt::LeftButton, {}, list().visualRect(brakes).center());
+    QTest::keyClicks(&list(), "cc");
+    EXPECT_EQ(list().currentKey(), keyOf("CC 6500"));
+}
+
 TEST_F(WindowTest, AVehicleOnThePreviewIsLookedUpInTheList) {
     build({"BB 9288", "Wagon plat"});
     drag(onVehicle(1), fromWindow(get<QWidget>("picPREVIEW")));

@@ -22,7 +22,7 @@ void ElidedLabel::paintEvent(QPaintEvent*) {
     const QString whole = text().trimmed();
     const QString shown = fontMetrics().elidedText(whole, mode_, width());
     if (const QString tip = shown == whole ? QString() : whole; toolTip() != tip)
-        setToolTip(tip);
+        setToolTip(tip); // plain: the label is
     painter.setPen(palette().color(QPalette::WindowText));
     painter.drawText(rect(), static_cast<int>(alignment()), shown);
 }

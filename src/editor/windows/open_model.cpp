@@ -124,7 +124,7 @@ QVariant OpenModel::data(const QModelIndex& index, int role) const {
     case Qt::DisplayRole:
         return text;
     case Qt::ToolTipRole:
-        return text + u'\n' + toolTip(row);
+        return plainTip(text + u'\n' + toolTip(row));
     case Qt::AccessibleTextRole: // what colour and icon say
         return isName ? text + u'\n' + toolTip(row) : text;
     case Qt::DecorationRole:

@@ -2,6 +2,7 @@
 
 #include "editor/windows/elided_label.h"
 #include "editor/windows/open_model.h"
+#include "editor/windows/row_view.h"
 #include "frame/windows/cursors.h"
 #include "frame/windows/qt_text.h"
 #include "frame/windows/settings_colour.h"
@@ -12,7 +13,6 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QTimer>
-#include <QTreeView>
 
 #include <algorithm>
 
@@ -34,22 +34,11 @@ template <class Widget> Widget* named(Widget* widget, const char* name) {
     return widget;
 }
 
-// A click on the row's file or composition leaves the typed letters to the names.
-class ConsistView final : public QTreeView {
-  public:
-    using QTreeView::QTreeView;
-    void keyboardSearch(const QString& text) override {
-        if (currentIndex().column() > 0)
-            setCurrentIndex(currentIndex().siblingAtColumn(0));
-        QTreeView::keyboardSearch(text);
-    }
-};
-
 } // namespace
 
 frmOpen::frmOpen(Frame& frame, Catalogue& catalogue, Open open, QWidget* parent)
     : QDialog(parent), frame_(frame), catalogue_(catalogue), open_(std::move(open)),
-      model_(new OpenModel(frame, this)), lsvCONSISTS_(named(new ConsistView(this), "lsvCONSISTS")),
+      model_(new OpenModel(frame, this)), lsvCONSISTS_(named(new RowView(this), "lsvCONSISTS")),
       Label1_(named(new ElidedLabel(this, Qt::ElideRight), "Label1")),
       lblCOUNT_(named(new QLabel(this), "lblCOUNT")),
       ProgressBar1_(named(new QProgressBar(this), "ProgressBar1")),

@@ -74,16 +74,18 @@ void PictureStore::beginRedraw() {
     for (const auto& [name, kept] : kept_)
         bytes += kept.bytes();
     if (bytes > KeptBytes)
-        std::erase_if(kept_, [this](const auto& entry) { return entry.second.asked != redraw_; });
+        std::erase_if(kept_, [this](const auto& entry) { return entry.second.drawn != redraw_; });
     ++redraw_;
+    askAgain();
 }
 
 PictureStore::Kept& PictureStore::find(const PictureName& picture) {
     const auto [place, isNew] = kept_.try_emplace(picture);
     Kept& kept = place->second;
-    if (isNew || kept.asked != redraw_)
+    if (isNew || kept.asked != asking_)
         refresh(picture, kept, isNew);
-    kept.asked = redraw_;
+    kept.asked = asking_;
+    kept.drawn = redraw_;
     return kept;
 }
 

@@ -20,7 +20,9 @@ class PictureStore final : public PictureMeasure {
   public:
     explicit PictureStore(FileSystem& files) : files_(files) {}
 
-    // From here on each file is asked again, once, whether it has changed. Pictures not used for long go.
+    // From here on each file is asked again, once, whether it has changed.
+    void askAgain() { ++asking_; }
+    // The same for the strip. Pictures that its last redraw didn't use go when many are kept.
     void beginRedraw();
 
     std::optional<PictureSize> size(const PictureName& picture) override;
@@ -44,7 +46,7 @@ class PictureStore final : public PictureMeasure {
         QImage image;
         std::optional<FileStamp> stamp; // of a file
         std::map<Copy, QPixmap> copies;
-        unsigned asked = 0; // the redraw in which it was last used
+        unsigned asked = 0, drawn = 0; // when its file was last asked, the redraw that last used it
 
         qsizetype bytes() const;
     };
@@ -55,7 +57,7 @@ class PictureStore final : public PictureMeasure {
     FileSystem& files_;
     std::map<PictureName, Kept> kept_;
     std::map<std::pair<CouplingMark, double>, QPixmap> marks_; // by mark and resolution
-    unsigned redraw_ = 1;
+    unsigned asking_ = 1, redraw_ = 1;
 };
 
 } // namespace zandor

@@ -1,20 +1,26 @@
 #include "editor/windows/preview_view.h"
 
 #include "editor/windows/picture_store.h"
+#include "frame/windows/qt_text.h"
 #include "frame/windows/theme.h"
 
 #include <QPainter>
+#include <QStyle>
 
 #include <algorithm>
 
 namespace zandor {
+
+namespace {
+constexpr int WarningSize = 24; // pixels
+} // namespace
 
 PreviewView::PreviewView(QWidget* parent) : QWidget(parent) {
     setObjectName("picPREVIEW");
 }
 
 void PreviewView::show(PictureStore& pictures, const PictureRef& picture) {
-    pictures.beginRedraw(); // the file may have changed
+    pictures.askAgain(); // the file may have changed
     picture_ =
         picture.found() ? pictures.image({picture.kind == PictureRef::Resource, picture.name}) : QImage();
     update();
@@ -22,6 +28,13 @@ void PreviewView::show(PictureStore& pictures, const PictureRef& picture) {
 
 void PreviewView::clear() {
     picture_ = {};
+    warn({});
+    update();
+}
+
+void PreviewView::warn(const QString& text) {
+    setToolTip(plainTip(text));
+    setAccessibleDescription(text);
     update();
 }
 
@@ -36,6 +49,8 @@ void PreviewView::paintEvent(QPaintEvent*) {
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     painter.drawImage(QRectF(QPointF((width() - size.width()) / 2, (height() - size.height()) / 2), size),
                       picture_);
+    if (!toolTip().isEmpty())
+        style()->standardIcon(QStyle::SP_MessageBoxWarning).paint(&painter, {4, 4, WarningSize, WarningSize});
 }
 
 } // namespace zandor

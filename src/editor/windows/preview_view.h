@@ -16,6 +16,8 @@ class PreviewView final : public QWidget {
     explicit PreviewView(QWidget* parent);
     void show(PictureStore& pictures, const PictureRef& picture);
     void clear();
+    // A sign in the corner, which explains itself by this tool tip; empty: no sign.
+    void warn(const QString& text);
     bool isEmpty() const { return picture_.isNull(); }
     QSize sizeHint() const override { return {260, 132}; }
     QSize minimumSizeHint() const override { return {110, 56}; }

@@ -19,6 +19,7 @@
 #include "frame/windows/loading.h"
 #include "frame/windows/qt_text.h"
 #include "frame/windows/settings_colour.h"
+#include "frame/windows/window_parts.h"
 
 #include <QCloseEvent>
 #include <QComboBox>
@@ -46,11 +47,6 @@ namespace {
 
 constexpr QSize DefaultSize{1024, 700};
 constexpr int RepaintEvery = 1000; // ms: Timer1
-
-// The steps of the scroll bar: a part of its range, and never nothing.
-int scrollStep(int maximum, int parts) {
-    return maximum < parts ? 1 : maximum / parts;
-}
 
 const Materiel* materielOfKey(const Catalogue& catalogue, const QString& key) {
     const int index = indexOfKey(fromQt(key));
@@ -285,7 +281,7 @@ void frmPrincipal::openPressed() {
 bool frmPrincipal::openFile(const std::string& path) {
     const BusyPointer busy;
     const frmLoading loading(toQt(editor_.frame.text(Message::OpeningConsist, {{"|1", GetFileName(path)}})),
-                             this);
+                             parentOfDialogs());
     const std::size_t known = editor_.catalogue.Materiels.size();
     const bool opened = openConsist(editor_, path);
     if (opened)
@@ -364,7 +360,7 @@ void frmPrincipal::actionTriggered(int id) {
     case StripActions::FindInList:
         if (const auto found = lookUpSelected(editor_.document))
             lookUp(*found);
-        break;
+        return;
     case StripActions::Renumber:
         numberButtonPressed(editor_);
         break;
@@ -433,6 +429,12 @@ void frmPrincipal::showInfo(const MaterielInfo& info) {
     c.lblLONGUEUR->setText(toQt(info.length));
     c.lblPOIDS->setText(toQt(info.mass));
     c.picPREVIEW->show(c.PicRAME->pictures(), info.picture);
+    c.picPREVIEW->warn(
+        info.unreadablePicture.empty()
+            ? QString()
+            : toQt(editor_.frame.text(
+                  Message::PictureUnreadable,
+                  {{"|1", editor_.frame.files.nativePath(info.unreadablePicture)}, {"|2", "\n"}})));
 }
 
 void frmPrincipal::lookUp(int materielIndex) {
@@ -441,18 +443,26 @@ void frmPrincipal::lookUp(int materielIndex) {
         for (ElidedLabel* label : {c.tbSELECT, c.tbPATH, c.lblFreins, c.lblATTELAGE})
             label->clear();
         c.picPREVIEW->clear();
-        return;
+        return sayNotInList();
     }
     if (materielIndex >= static_cast<int>(editor_.catalogue.Materiels.size()))
         return;
     const int stockClass = stockClassOf(editor_.catalogue.Materiels[materielIndex]);
     if (stockClass < 0)
-        return;
+        return sayNotInList();
     c.cmbMATERIEL->setCurrentIndex(stockClass);
     const QString key = QString("KEY_%1").arg(materielIndex);
     c.lstViewMATERIEL->selectKey(key);
     showStockInfo(key);
     c.lstViewMATERIEL->setFocus();
+}
+
+void frmPrincipal::sayNotInList() {
+    const ConsistDocument& document = editor_.document;
+    if (!hasSelection(document))
+        return;
+    const std::string& name = document.Vehicules[static_cast<std::size_t>(document.selected)].Name;
+    controls_.lblSTATUS->setText(toQt(editor_.frame.text(Message::VehicleNotInList, {{"|1", name}})));
 }
 
 // ---- what the document shows
@@ -501,8 +511,8 @@ void frmPrincipal::refreshScrollBar() {
     QScrollBar& bar = *controls_.HScrollRAME;
     const QSignalBlocker quiet(bar);
     bar.setRange(0, shown.scrollMaximum);
-    bar.setSingleStep(scrollStep(shown.scrollMaximum, 20));
-    bar.setPageStep(scrollStep(shown.scrollMaximum, 65));
+    bar.setSingleStep(shown.scrollSmallStep);
+    bar.setPageStep(shown.scrollLargeStep);
     bar.setValue(shown.scrollValue);
     bar.setEnabled(shown.scrollEnabled);
 }

@@ -68,6 +68,7 @@ class frmPrincipal final : public QWidget {
     void showStockInfo(const QString& key);
     void showInfo(const MaterielInfo& info);
     void lookUp(int materielIndex);
+    void sayNotInList();
     void stripResized();
     void refreshNames();
     void refreshScrollBar();

@@ -87,8 +87,9 @@ QVariant StockModel::data(const QModelIndex& index, int role) const {
     case Qt::DisplayRole:
         return index.column() == NameColumn ? QVariant(row.text) : QVariant();
     case Qt::ToolTipRole:
+        return plainTip(description(row, index.column()));
     case Qt::AccessibleTextRole:
-        return describe_ ? QVariant(describe_(row.key, static_cast<Column>(index.column()))) : QVariant();
+        return description(row, index.column());
     case KeyRole:
         return row.key;
     case Qt::DecorationRole:

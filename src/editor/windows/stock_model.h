@@ -62,6 +62,9 @@ class StockModel final : public QAbstractTableModel {
         mutable std::unordered_map<int, QIcon> known_;
     };
     void sortRows();
+    QString description(const Row& row, int column) const {
+        return describe_ ? describe_(row.key, static_cast<Column>(column)) : QString();
+    }
 
     std::vector<Row> rows_;
     Icons icons_;

@@ -12,7 +12,7 @@
 
 namespace zandor {
 
-StockView::StockView(QWidget* parent) : QTreeView(parent), model_(new StockModel(this)) {
+StockView::StockView(QWidget* parent) : RowView(parent), model_(new StockModel(this)) {
     setObjectName("lstViewMATERIEL");
     setModel(model_);
     setRootIsDecorated(false);
@@ -112,10 +112,12 @@ void StockView::currentChanged(const QModelIndex& current, const QModelIndex& pr
 }
 
 void StockView::mousePressEvent(QMouseEvent* event) {
+    const QString before = currentKey();
     QTreeView::mousePressEvent(event);
     // A click on the row that is current already shows it again: the panel may have shown another vehicle
     // since.
-    if (event->button() == Qt::LeftButton && indexAt(event->position().toPoint()) == currentIndex())
+    if (event->button() == Qt::LeftButton && indexAt(event->position().toPoint()) == currentIndex() &&
+        currentKey() == before)
         emit currentKeyChanged(currentKey());
 }
 

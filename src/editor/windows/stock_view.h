@@ -1,15 +1,14 @@
 // lstViewMATERIEL: the stock of one class, from which vehicles are dragged or sent to the strip.
 #pragma once
 
+#include "editor/windows/row_view.h"
 #include "editor/windows/stock_model.h"
-
-#include <QTreeView>
 
 #include <functional>
 
 namespace zandor {
 
-class StockView final : public QTreeView {
+class StockView final : public RowView {
     Q_OBJECT
   public:
     explicit StockView(QWidget* parent);

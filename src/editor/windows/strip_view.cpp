@@ -78,12 +78,12 @@ bool StripView::isOutdated() const {
 }
 
 void StripView::DrawStrip() {
+    const BusyPointer busy;
     draw();
     update();
 }
 
 void StripView::draw() {
-    const BusyPointer busy;
     pictures_.beginRedraw();
     const FontMeasure letters(font());
     const auto steps = zandor::DrawStrip(editor_, pictures_, letters);
@@ -180,12 +180,15 @@ void StripView::mouseReleaseEvent(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton)
         return;
     const bool wasPressed = pressed_;
+    // The hand that trembles over the edge has moved nothing, and throws nothing away either.
+    const bool atRest =
+        !moved_ && (point - pressPoint_).manhattanLength() < QApplication::startDragDistance();
     endPress(); // first: a message of the operation takes the focus away
     if (!wasPressed) {
         clearDrag(editor_.document);
         return;
     }
-    const auto found = releaseStrip(editor_, zoneAt(mapToGlobal(point)));
+    const auto found = releaseStrip(editor_, atRest ? ReleaseZone::Strip : zoneAt(mapToGlobal(point)));
     emit changed();
     update();
     if (found)
@@ -208,7 +211,8 @@ void StripView::cancelPress() {
 }
 
 ReleaseZone StripView::zoneAt(const QPoint& globalPoint) const {
-    if (preview_ && preview_->isVisible() && preview_->rect().contains(preview_->mapFromGlobal(globalPoint)))
+    // Scrolled out of sight it lies under other windows.
+    if (preview_ && preview_->visibleRegion().contains(preview_->mapFromGlobal(globalPoint)))
         return ReleaseZone::Preview;
     return rect().contains(mapFromGlobal(globalPoint)) ? ReleaseZone::Strip : ReleaseZone::Elsewhere;
 }
@@ -246,7 +250,8 @@ void StripView::scrollWhileResting() {
 
 void StripView::updateToolTip(const QPoint& point) {
     const ConsistDocument& document = editor_.document;
-    setToolTip(hasVehicles(document) ? toQt(stripToolTip(document, point.x(), point.y())) : emptyTip_);
+    setToolTip(hasVehicles(document) ? plainTip(toQt(stripToolTip(document, point.x(), point.y())))
+                                     : emptyTip_);
 }
 
 void StripView::keyPressEvent(QKeyEvent* event) {

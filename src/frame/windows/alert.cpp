@@ -108,8 +108,7 @@ int frmAlert::ask() {
 void frmAlert::sound() {
     QAccessibleEvent event(this, QAccessible::Alert);
     QAccessible::updateAccessibility(&event);
-    if (alert_.icon != AlertIcon::None)
-        QApplication::beep();
+    QApplication::beep();
     QApplication::alert(this);
 }
 

@@ -6,7 +6,7 @@
 namespace zandor {
 
 // A message without buttons over its parent. It is on the screen when the constructor returns, and gone with
-// the object.
+// the object, or as soon as a message has to be answered.
 class frmLoading final : public QFrame {
     Q_OBJECT
   public:

@@ -11,6 +11,24 @@
 
 namespace zandor {
 
+namespace {
+
+constexpr QSize BarSize{445, 23};
+constexpr int Margin = 18;
+constexpr int HeadSize = 12; // points
+
+// The splash's, for the same bar.
+QPalette colours() {
+    QPalette palette(QColor(30, 84, 140), QColor(13, 33, 62));
+    palette.setColor(QPalette::WindowText, QColor(255, 255, 192));
+    palette.setColor(QPalette::Base, QColor(8, 22, 43));
+    palette.setColor(QPalette::Highlight, QColor(0, 255, 255));
+    palette.setColor(QPalette::Mid, QColor(120, 170, 215));
+    return palette;
+}
+
+} // namespace
+
 frmProgress::frmProgress(Frame& frame, QWidget* parent)
     : QDialog(parent), state_(frame.state), text_(new PathLabel(this)), bar_(new ProgressBar(this)) {
     setObjectName("frmProgress");
@@ -23,18 +41,20 @@ frmProgress::frmProgress(Frame& frame, QWidget* parent)
 
     auto* head = new QLabel(toQt(frame.text(Message::ProgressHead)), this);
     head->setObjectName("lblHEAD");
-    QFont bold = head->font();
+    QFont bold("Arial", HeadSize);
     bold.setBold(true);
     head->setFont(bold);
     head->setAlignment(Qt::AlignCenter);
     text_->setObjectName("lblTEXT");
+    text_->setAlignment(Qt::AlignCenter);
+    setPalette(colours());
     bar_->setTextVisible(false);
+    bar_->setFixedSize(BarSize);
     bar_->setAccessibleName(head->text());
 
     auto* layout = new QVBoxLayout(this);
-    const int space = fontMetrics().height();
-    layout->setContentsMargins(space, space, space, space);
-    layout->setSpacing(space / 2);
+    layout->setContentsMargins(Margin, Margin, Margin, Margin);
+    layout->setSpacing(8);
     for (QWidget* part :
          {static_cast<QWidget*>(head), static_cast<QWidget*>(text_), static_cast<QWidget*>(bar_)})
         layout->addWidget(part);

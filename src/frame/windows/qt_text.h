@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QString>
+#include <QTextDocument>
 
 #include <string>
 #include <string_view>
@@ -13,6 +14,11 @@ inline QString toQt(std::string_view text) {
 }
 inline std::string fromQt(const QString& text) {
     return text.toStdString();
+}
+
+// A tool tip that shows the text as it stands, also one with angle brackets, such as a name may hold.
+inline QString plainTip(const QString& text) {
+    return Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text) : text;
 }
 
 // A path that a file dialog gave, as the program holds paths: "\" between the components.

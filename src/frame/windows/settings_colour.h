@@ -5,6 +5,7 @@
 
 #include <QColor>
 
+#include <algorithm>
 #include <string_view>
 
 namespace zandor {
@@ -14,7 +15,7 @@ inline QColor readColour(const Frame& frame, std::string_view key) {
     const std::string text = frame.profiles.ReadIniValue(GeneralSection, key, frame.state.IniPath);
     if (text.empty())
         return {};
-    const int value = static_cast<int>(numericValue(text));
+    const int value = static_cast<int>(std::clamp(numericValue(text), 0.0, 16777215.0));
     return QColor(value & 255, (value >> 8) & 255, (value >> 16) & 255);
 }
 

@@ -1,5 +1,7 @@
 #include "frame/windows/window_parts.h"
 
+#include "frame/windows/loading.h"
+
 #include <QApplication>
 #include <QClipboard>
 #include <QKeyEvent>
@@ -24,6 +26,9 @@ QRect screenOf(const QWidget& widget) {
 } // namespace
 
 QWidget* parentOfDialogs() {
+    // What only waits makes room for a message.
+    if (auto* waiting = qobject_cast<frmLoading*>(QApplication::activeModalWidget()))
+        waiting->hide();
     if (QWidget* modal = QApplication::activeModalWidget())
         return modal;
     if (QWidget* active = QApplication::activeWindow())
@@ -134,7 +139,7 @@ void PathLabel::paintEvent(QPaintEvent*) {
     const QString shown = fontMetrics().elidedText(text(), Qt::ElideMiddle, width());
     if (const QString tip = shown == text() ? QString() : text(); toolTip() != tip)
         setToolTip(tip);
-    style()->drawItemText(&painter, rect(), Qt::AlignLeft | Qt::AlignVCenter, palette(), isEnabled(), shown,
+    style()->drawItemText(&painter, rect(), static_cast<int>(alignment()), palette(), isEnabled(), shown,
                           foregroundRole());
 }
 
