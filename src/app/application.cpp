@@ -79,9 +79,10 @@ void Application::takeFile(const QString& path) {
     openGiven(path);
 }
 
-// A message that is open is answered first.
+// A message that is open is answered first, and what the mouse holds is let go.
 void Application::openGiven(const QString& path) {
-    if (QApplication::activeModalWidget() || QApplication::activePopupWidget())
+    const bool dragging = QGuiApplication::mouseButtons() != Qt::NoButton;
+    if (dragging || QApplication::activeModalWidget() || QApplication::activePopupWidget())
         QTimer::singleShot(AskAgainAfter, window_.get(), [this, path] { openGiven(path); });
     else
         window_->offerFile(pathFromQt(path));
@@ -128,13 +129,15 @@ Application::End Application::load() {
         help_.applyLanguage();
     });
     QObject::connect(window_.get(), &frmPrincipal::closeAsked, &help_, &CHelp::CloseWindow);
+    if (splash_->ended())
+        return End::UserEnded;
     if (!chooseRoots())
         return splash_->ended() ? End::UserEnded : End::Failed;
     if (splash_->ended() || !LoadCatalogue(frame_, catalogue_) || splash_->ended())
         return End::UserEnded;
     window_->fillStockList();
     openFromCommandLine();
-    return End::GoOn;
+    return splash_->ended() ? End::UserEnded : End::GoOn;
 }
 
 bool Application::chooseRoots() {

@@ -7,9 +7,6 @@ namespace zandor {
 
 namespace {
 
-constexpr std::string_view UncataloguedWagon =
-    "default.wag"; // in this case alone; Default.wag is a wagon like any
-
 void showLimit(Frame& frame, std::string_view path) {
     const std::string shownPath = frame.files.nativePath(path);
     const std::string limit = std::to_string(MaxEntries);

@@ -18,6 +18,9 @@ struct StockPass {
 inline constexpr StockPass StockPasses[] = {{".eng", Message::ListingEngines},
                                             {".wag", Message::ListingWagons}};
 
+inline constexpr std::string_view UncataloguedWagon =
+    "default.wag"; // in this case alone; Default.wag is a wagon like any
+
 // Names with their extension, in listing order, without the wagon that is no stock.
 std::vector<std::string> listStockFiles(FileSystem& files, std::string_view folder,
                                         std::string_view extension);

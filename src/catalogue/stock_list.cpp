@@ -1,5 +1,7 @@
 #include "catalogue/stock_list.h"
 
+#include "catalogue/stock_files.h"
+
 #include <algorithm>
 #include <charconv>
 
@@ -100,7 +102,7 @@ std::vector<StockListRow> FillStockList(const AppState& state, const Catalogue& 
     int brakes = 0, coupling = 0; // they go on from one stock to the next, of whatever class
     for (std::size_t i = 0; i < catalogue.Materiels.size(); ++i) {
         const Materiel& materiel = catalogue.Materiels[i];
-        if (materiel.FileName.empty())
+        if (materiel.FileName.empty() || materiel.FileName == UncataloguedWagon)
             continue;
         if (const int own = brakeIcon(materiel.BrakeSystem))
             brakes = own;

@@ -70,6 +70,8 @@ class ComposeCommand final : public Command {
         const std::string shortName = withoutExtension(name_);
         if (filterShortName(shortName) != shortName)
             return session.cannotRun("A file's name can't hold one of the characters of " + name_);
+        if (withinFileName(shortName) != shortName)
+            return session.cannotRun("The short name is too long for a file: " + name_);
         if (hasControlCharacter(fullName_))
             return session.cannotRun("The full name must be a single line");
         session.state.PrintGreen = false; // who uses what isn't asked for

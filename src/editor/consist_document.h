@@ -146,7 +146,8 @@ void ShowTotals(Editor& editor);
 void updateResistance(Editor& editor);
 
 // Changes of the text boxes and the slider.
-std::string filterShortName(std::string_view text); // without the characters that a file name can't hold
+std::string_view withinFileName(std::string_view name); // cut to what a file's name can be long
+std::string filterShortName(std::string_view text);     // without the characters that a file name can't hold
 void changeShortName(Editor& editor, std::string_view text);
 void changeFullName(Editor& editor, std::string_view text);
 void changeDurability(Editor& editor, int value);

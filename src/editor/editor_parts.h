@@ -53,8 +53,8 @@ void showEndHidden(Editor& editor);
 // The empty editor and a Rame with the defaults of a new consist; asks nothing.
 void beginNewConsist(Editor& editor);
 
-// True when both name one folder, whatever their case, separators and end.
-bool sameFolder(std::string_view a, std::string_view b);
+// True when both name one folder, whatever their case, separators, end and drive.
+bool sameFolder(FileSystem& files, std::string_view a, std::string_view b);
 
 // What tbNAME shows of a consist whose file is named otherwise than the consist itself.
 std::string doubleName(const Rame& rame);

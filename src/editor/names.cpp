@@ -23,6 +23,12 @@ std::string_view forbiddenAt(std::string_view text) {
 // share.
 constexpr std::size_t LongestShortName = 240;
 
+bool isControl(char c) {
+    return static_cast<unsigned char>(c) < 0x20;
+}
+
+} // namespace
+
 std::string_view withinFileName(std::string_view name) {
     if (name.size() <= LongestShortName)
         return name;
@@ -31,12 +37,6 @@ std::string_view withinFileName(std::string_view name) {
         --end;
     return name.substr(0, end);
 }
-
-bool isControl(char c) {
-    return static_cast<unsigned char>(c) < 0x20;
-}
-
-} // namespace
 
 std::string filterShortName(std::string_view text) {
     std::string kept;
@@ -67,6 +67,7 @@ void changeFullName(Editor& editor, std::string_view text) {
     controls.fullName.clear();
     std::copy_if(text.begin(), text.end(), std::back_inserter(controls.fullName),
                  [](char c) { return static_cast<unsigned char>(c) >= 0x20; }); // a file has it on one line
+    std::ranges::replace(controls.fullName, '"', '\''); // and in quotes: one within would end it
     if (controls.shortNameEnabled)
         changeShortName(editor, text);
     setModified(editor, hasVehicles(editor.document));

@@ -74,9 +74,11 @@ std::string couplingNames(const Frame& frame, const Materiel& materiel) {
 }
 
 std::string couplingText(const Frame& frame, const Materiel& materiel) {
-    if (CouplingImageName(materiel.Coupling).empty())
+    const bool isPair = materiel.Coupling.find('_') != std::string::npos;
+    if (isPair && CouplingImageName(materiel.Coupling).empty())
         return {};
-    return frame.text(Message::Coupling) + " " + couplingNames(frame, materiel);
+    const std::string names = couplingNames(frame, materiel);
+    return names.empty() ? names : frame.text(Message::Coupling) + " " + names;
 }
 
 std::string figureLine(const Frame& frame, Message message, std::string_view value) {

@@ -282,7 +282,7 @@ void takeSaved(Editor& editor, const std::string& folder, Rame rame, VehicleList
     document.rame = std::move(rame);
     document.RameStockNew = std::move(list.stock);
     state.ConsistFolder = folder;
-    if (sameFolder(folder, consistsPath(state.RootPrimary)))
+    if (sameFolder(editor.frame.files, folder, consistsPath(state.RootPrimary)))
         listSavedFile(editor.catalogue, saved);
     UpdateStockUse(editor, state.HasFile, document.rame.Name, document.rame.FileName, folder);
 }

@@ -53,23 +53,24 @@ void countDifference(Catalogue& catalogue, const std::vector<StockPair>& before,
             raiseCount(catalogue, pair);
 }
 
-ConsistEntry& entryOf(Catalogue& catalogue, const std::string& fileName, const std::string& folder) {
-    std::vector<ConsistEntry>& index = catalogue.ConsistIndex;
+ConsistEntry& entryOf(Editor& editor, const std::string& fileName, const std::string& folder) {
+    std::vector<ConsistEntry>& index = editor.catalogue.ConsistIndex;
     for (ConsistEntry& entry : index)
-        if (equalIgnoringCase(entry.FileName, fileName) && sameFolder(entry.FolderPath, folder))
+        if (equalIgnoringCase(entry.FileName, fileName) &&
+            sameFolder(editor.frame.files, entry.FolderPath, folder))
             return entry;
     return addToArray(index, !index.empty() && index.back().FileName.empty(), ConsistEntry());
 }
 
 } // namespace
 
-bool sameFolder(std::string_view a, std::string_view b) {
+bool sameFolder(FileSystem& files, std::string_view a, std::string_view b) {
     const auto plain = [](std::string_view path) {
         std::string text(path);
         std::replace(text.begin(), text.end(), '/', '\\');
         return lowerCase(AddBackslash(text));
     };
-    return plain(a) == plain(b);
+    return plain(a) == plain(b) || plain(files.nativePath(a)) == plain(files.nativePath(b));
 }
 
 void UpdateStockUse(Editor& editor, bool hadFile, const std::string& fullName, const std::string& fileName,
@@ -81,7 +82,7 @@ void UpdateStockUse(Editor& editor, bool hadFile, const std::string& fullName, c
     countDifference(editor.catalogue, hadFile ? document.RameStockOld : std::vector<StockPair>(),
                     document.RameStockNew);
 
-    ConsistEntry& entry = entryOf(editor.catalogue, fileName, folder);
+    ConsistEntry& entry = entryOf(editor, fileName, folder);
     entry.FileName = fileName;
     entry.DisplayName = fullName;
     entry.FolderPath = folder;

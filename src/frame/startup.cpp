@@ -244,7 +244,9 @@ bool findRoots(Frame& frame) {
 }
 
 void assignRoots(Frame& frame) {
-    assignRoots(frame.state, readNumericFlag(frame.profiles, "InitialiseMSTS", frame.state.IniPath));
+    // A Train Store that there isn't can't come first.
+    assignRoots(frame.state, frame.state.RootTStore.empty() ||
+                                 readNumericFlag(frame.profiles, "InitialiseMSTS", frame.state.IniPath));
 }
 
 void assignRoots(AppState& state, bool simulatorFirst) {

@@ -9,19 +9,17 @@ namespace {
 
 enum class Block { Other, TrainCfg, Engine, Wagon, EngineVariables };
 
-// Which block a path is. `train` keeps the spelling of Train\TrainCfg from call to call: every vehicle's path
-// begins with it.
+// Which block a path is. `train` keeps the spelling of the last Train\TrainCfg from call to call: every
+// vehicle's path begins with it.
 Block blockOf(std::string_view path, std::string_view& train) {
-    if (train.empty() || !path.starts_with(train) || path.size() == train.size()) {
+    if (train.empty() || !path.starts_with(train) || path.size() == train.size() ||
+        path[train.size()] != '\\') {
         if (pathIs(path, "Train\\TrainCfg")) {
             train = path;
             return Block::TrainCfg;
         }
-        if (train.empty() || !path.starts_with(train))
-            return Block::Other;
-    }
-    if (path[train.size()] != '\\')
         return Block::Other;
+    }
     const std::string_view vehicle = path.substr(train.size() + 1);
     if (pathIs(vehicle, "Engine"))
         return Block::Engine;

@@ -36,7 +36,8 @@ struct StockListTest : CatalogueTest {
 
 TEST_F(StockListTest, HoldsTheClassInCatalogueOrder) {
     add("z.eng", "Engine", "Diesel").EngineName = "Zed";
-    add("", "Engine", "Diesel"); // a free slot
+    add("", "Engine", "Diesel");            // a free slot
+    add("default.wag", "Engine", "Diesel"); // a consist that uses it was opened
     add("a.wag", "Freight").WagonName = "Box";
     Materiel& last = add("a.eng", "engine", "DIESEL");
     last.WagonName = "Shell";
@@ -46,7 +47,7 @@ TEST_F(StockListTest, HoldsTheClassInCatalogueOrder) {
     ASSERT_EQ(rows.size(), 2u);
     EXPECT_EQ(rows[0].key + rows[0].text, "KEY_0Zed");
     EXPECT_EQ(rows[0].icon, NoCabIcon);
-    EXPECT_EQ(rows[1].key + rows[1].text, "KEY_3Shell");
+    EXPECT_EQ(rows[1].key + rows[1].text, "KEY_4Shell");
     EXPECT_EQ(rows[1].icon, CabIcon);
     EXPECT_EQ(FillStockList(state, catalogue, 1, true)[0].text, "z.eng");
     EXPECT_TRUE(FillStockList(state, catalogue, 0, false).empty());

@@ -161,7 +161,8 @@ TEST_F(CouplingTest, ThePanelNamesBrakesAndCouplings) {
              Case{"ECP", "chain_bar", "", "Brakes ECP", "Coupled chain, bar"},
              Case{"ep", "chain_bar", "x", "Brakes EP", "Coupled chain (x), bar"},
              Case{"handbrake", "hydraulic_bar", "x_END", "", "Coupled hydro, bar (x)"},
-             Case{"", "", "x", "", ""},
+             Case{"", "", "x", "", "Coupled  (x)"},
+             Case{"", "Own", "", "", ""},
              Case{"", "bar_bar", "", "", ""},
          }) {
         Materiel materiel;

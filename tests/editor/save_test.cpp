@@ -98,6 +98,24 @@ TEST_F(SaveTest, ABadNameStopsTheSave) {
     }
 }
 
+TEST_F(SaveTest, AFullNameOfAnyLettersKeepsTheVehicles) {
+    for (const std::string name : {"5\" gauge (test", "\"", "a ) b", "( ( \"x\" )", "# one", "\"(\""}) {
+        newConsist(editor);
+        appendStock(editor, addStock("Wag1.wag"));
+        changeFullName(editor, name);
+        changeShortName(editor, "full");
+        settings("0", "0");
+        SaveFileRame(editor);
+        const std::string kept = controls.fullName;
+        newConsist(editor);
+        ASSERT_TRUE(openConsist(editor, consistPath("full.con"))) << name;
+        EXPECT_EQ(vehicleCount(document), 1) << name;
+        EXPECT_EQ(controls.fullName, kept);
+        files.deleteFile(consistPath("full.con"));
+        catalogue.ConsistFiles.assign(1, {});
+    }
+}
+
 TEST_F(SaveTest, BlanksAndBracketsInNamesAreQuotedOnceHoweverOftenItIsSaved) {
     appendStock(editor, addStock("My Wagon.wag", "", "My Folder"));
     nameConsist("My Train");

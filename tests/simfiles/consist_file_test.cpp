@@ -83,6 +83,14 @@ TEST_F(ConsistFixture, AMalformedVehicleKeepsThoseBeforeIt) {
     EXPECT_EQ(items[0].Name, "Car");
 }
 
+TEST_F(ConsistFixture, ASecondConsistOfTheFileJoinsTheFirst) {
+    EXPECT_FALSE(read("TrainCfg ( A\nWagon (\nWagonData ( W1 Park )\n)\n)\n"
+                      "TrainCfg ( B\nWagon (\nWagonData ( W2 Park )\n)\n)\n"));
+    EXPECT_EQ(rame.CfgName, "B");
+    ASSERT_EQ(items.size(), 2u);
+    EXPECT_EQ(items[0].Name + items[1].Name, "W1W2");
+}
+
 TEST_F(ConsistFixture, NumbersOverSeveralLinesAreKept) {
     read("TrainCfg ( A\nEngine (\nEngineData ( Loco Park )\nEngineVariables ( 1 2\n3 4 )\nUiD ( 2 )\n)\n)\n");
     EXPECT_EQ(items[0].EngineVariables, "EngineVariables(1 2 3 4)");

@@ -4,8 +4,10 @@
 #include "editor/windows/open_model.h"
 #include "editor/windows/row_view.h"
 #include "frame/windows/cursors.h"
+#include "frame/windows/help.h"
 #include "frame/windows/qt_text.h"
 #include "frame/windows/settings_colour.h"
+#include "frame/windows/window_parts.h"
 
 #include <QBoxLayout>
 #include <QHeaderView>
@@ -45,6 +47,7 @@ frmOpen::frmOpen(Frame& frame, Catalogue& catalogue, Open open, QWidget* parent)
       cmdOPEN_(named(new QPushButton(this), "cmdOPEN")),
       cmdCANCEL_(named(new QPushButton(this), "cmdCANCEL")), Timer1_(named(new QTimer(this), "Timer1")) {
     setObjectName("frmOpen");
+    setHelpContext(*this, helpContext::OpenConsist);
     buildList();
     layOut();
     connectAll();
@@ -113,8 +116,8 @@ void frmOpen::connectAll() {
 
 void frmOpen::applySettings() {
     setWindowTitle(toQt(frame_.text(Message::OpenTitle, {{"|1", frame_.state.Title}})));
-    cmdOPEN_->setText(toQt(frame_.text(Message::OpenVerb)));
-    cmdCANCEL_->setText(toQt(frame_.text(Message::Cancel)));
+    cmdOPEN_->setText(textOr(frame_, Message::OpenVerb, "&Ouvrir"));
+    cmdCANCEL_->setText(textOr(frame_, Message::Cancel, "Annuler"));
     Label1_->setText(toQt(frame_.text(Message::ReadingStock)));
     ProgressBar1_->setAccessibleName(Label1_->text());
 

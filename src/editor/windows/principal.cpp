@@ -16,6 +16,7 @@
 #include "frame/windows/about.h"
 #include "frame/windows/art.h"
 #include "frame/windows/cursors.h"
+#include "frame/windows/help.h"
 #include "frame/windows/loading.h"
 #include "frame/windows/qt_text.h"
 #include "frame/windows/settings_colour.h"
@@ -77,6 +78,7 @@ void setIfDifferent(QLineEdit& edit, const std::string& text) {
 frmPrincipal::frmPrincipal(Editor& editor) : editor_(editor) {
     setObjectName("frmPrincipal");
     setWindowTitle(toQt(editor.frame.state.Title));
+    setHelpContext(*this, helpContext::Main);
     controls_ = buildPrincipal(*this, editor);
     actions_ = new StripActions(*this, *controls_.PicRAME);
     languages_ = new QMenu(this);
@@ -296,6 +298,7 @@ bool frmPrincipal::openFile(const std::string& path) {
 }
 
 void frmPrincipal::savePressed() {
+    const BusyPointer busy;
     SaveFileRame(editor_);
     updateUnusedStock();
     refresh();

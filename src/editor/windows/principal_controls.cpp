@@ -8,6 +8,7 @@
 #include "frame/windows/art.h"
 #include "frame/windows/qt_text.h"
 #include "frame/windows/theme.h"
+#include "frame/windows/window_parts.h"
 
 #include <QBoxLayout>
 #include <QComboBox>
@@ -230,12 +231,6 @@ void setTabOrder(const PrincipalControls& c) {
         QWidget::setTabOrder(order[i - 1], order[i]);
 }
 
-// The text of a message, or the French one that serves when the language lacks it.
-QString textOr(const Frame& frame, Message message, const char* french) {
-    const std::string text = frame.text(message);
-    return text.empty() ? QString::fromUtf8(french) : toQt(text);
-}
-
 struct LabelRow {
     QLabel* PrincipalControls::*label;
     Message message;
@@ -308,7 +303,7 @@ void captionPrincipal(const PrincipalControls& c, const Frame& frame) {
     c.PicRAME->setAccessibleName(toQt(frame.text(Message::NameOfStrip)));
     c.picPREVIEW->setAccessibleName(toQt(frame.text(Message::NameOfPreview)));
     c.HScrollRAME->setAccessibleName(toQt(frame.text(Message::NameOfStripScroll)));
-    c.cmdVEHICLE->setText(toQt(frame.text(Message::CaptionVehicle)));
+    c.cmdVEHICLE->setText(textOr(frame, Message::CaptionVehicle, "&Véhicule"));
 }
 
 } // namespace zandor

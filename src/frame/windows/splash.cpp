@@ -1,6 +1,7 @@
 #include "frame/windows/splash.h"
 
 #include "frame/windows/first_paint.h"
+#include "frame/windows/help.h"
 
 #include <QDir>
 #include <QGuiApplication>
@@ -89,6 +90,7 @@ frmSplash::frmSplash(const QString& title, const QString& legal)
     setFixedSize(SplashSize * scale_);
     art_ = loadArt(size(), devicePixelRatioF());
     move(QGuiApplication::primaryScreen()->availableGeometry().center() - rect().center());
+    setHelpContext(*this, helpContext::Main);
     setCursor(Qt::WaitCursor);
     const qsizetype cut = legal.indexOf(u'-');
     legal_ =
@@ -129,7 +131,7 @@ void frmSplash::paintTitle(QPainter& painter) {
     while (QFontMetrics(font).horizontalAdvance(title_) > room && font.pixelSize() > TitleSize / 2)
         font.setPixelSize(font.pixelSize() - 1);
     painter.setFont(font);
-    painter.setPen(TitleShadow.darker(180));
+    painter.setPen(TitleShadow);
     painter.drawText(TitlePlace + QPoint(3, 3), title_);
     painter.setPen(TitleColour);
     painter.drawText(TitlePlace, title_);

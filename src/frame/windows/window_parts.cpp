@@ -1,6 +1,7 @@
 #include "frame/windows/window_parts.h"
 
 #include "frame/windows/loading.h"
+#include "frame/windows/qt_text.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -37,6 +38,11 @@ QWidget* parentOfDialogs() {
         if (window->isVisible() && window->isWindow())
             return window;
     return nullptr;
+}
+
+QString textOr(const Frame& frame, Message message, const char* french) {
+    const std::string text = frame.text(message);
+    return text.empty() ? QString::fromUtf8(french) : toQt(text);
 }
 
 QLabel* makeIconLabel(QWidget* parent, const QIcon& icon) {

@@ -1,6 +1,8 @@
 // Small parts that the frame's windows share.
 #pragma once
 
+#include "frame/frame.h"
+
 #include <QLabel>
 #include <QStyle>
 #include <QTextEdit>
@@ -12,10 +14,12 @@ class QPushButton;
 
 namespace zandor {
 
-class Language;
 
 // The window that a message stands in front of, also while another program has the focus.
 QWidget* parentOfDialogs();
+
+// The text of a message, or the French one that serves when the language lacks it.
+QString textOr(const Frame& frame, Message message, const char* french);
 
 // One of the desktop's own icons at the size of its messages.
 QLabel* makeIconLabel(QWidget* parent, const QIcon& icon);
