@@ -36,8 +36,8 @@ std::string StripOccurrence(std::string_view path);
 
 // The same letter in any case; `wanted` is ASCII, which no other character's other case is.
 inline bool letterIs(char letter, char wanted) {
-    const char folded = static_cast<char>(letter | 0x20);
-    return letter == wanted || (folded >= 'a' && folded <= 'z' && folded == static_cast<char>(wanted | 0x20));
+    const char folded = static_cast<char>(wanted | 0x20);
+    return letter == wanted || (static_cast<char>(letter | 0x20) == folded && folded >= 'a' && folded <= 'z');
 }
 // True when a key or a component of a path has this name (ASCII), in any case: this runs several times for
 // every key of every file.

@@ -13,7 +13,16 @@ namespace {
 
 enum class Block { Other, Wagon, Coupling, Engine };
 
+// Most of a file's blocks stand deeper, where nothing is of use.
+bool isDeep(std::string_view path) {
+    constexpr std::size_t wagonLength = 5, engineLength = 6;
+    return path.size() > engineLength &&
+           (path[engineLength] == '\\' || (path[wagonLength] == '\\' && (path[engineLength] | 0x20) != 'c'));
+}
+
 Block blockOf(std::string_view path) {
+    if (isDeep(path))
+        return Block::Other;
     switch (path.empty() ? '\0' : path.front()) {
     case 'W':
     case 'w':

@@ -20,16 +20,6 @@ bool hasMarker(std::string_view path) {
 // square.
 constexpr std::size_t MaxPathLength = 512;
 
-std::string_view lastComponent(std::string_view path) {
-    const std::size_t slash = path.rfind('\\');
-    return slash == std::string_view::npos ? path : path.substr(slash + 1);
-}
-
-// The path of the block above; empty for a block at the top.
-std::string_view parentOf(std::string_view path, std::size_t leafLength) {
-    return path.size() > leafLength ? path.substr(0, path.size() - leafLength - 1) : std::string_view();
-}
-
 bool endsInPlus(std::string_view text) {
     return !text.empty() && text.back() == '+';
 }
@@ -66,9 +56,7 @@ Tokeniser::Outcome Tokeniser::run(const std::vector<SimLine>& lines, const Searc
     paths_.clear();
     table_.assign(256, -1);
     deepBlocks_ = 0;
-    path_.clear();
-    leafLength_ = 0;
-    pathId_ = -1;
+    openBlocks_.clear();
     quotedIn_ = -1;
     joining_ = false;
     skipLine_ = 0;
@@ -243,26 +231,27 @@ bool Tokeniser::openWithRest(std::string_view& line, const Brackets& at) {
 bool Tokeniser::openBlock(std::string_view name, std::string_view value, std::string_view tail) {
     if (name.empty())
         return false;
-    if (path_.size() + name.size() > MaxPathLength) {
+    const std::string_view parent = textOf(currentPath());
+    if (parent.size() + name.size() > MaxPathLength) {
         ++deepBlocks_;
         addRecord(currentPath(), {}, value, tail);
         return matchLast();
     }
-    if (!path_.empty())
+    path_.assign(parent);
+    if (!parent.empty())
         path_ += '\\';
     path_ += name;
-    leafLength_ = name.size();
-    pathId_ = internPath(path_);
-    if (paths_[static_cast<std::size_t>(pathId_)].records > 0) {
+    int path = internPath(path_);
+    if (paths_[static_cast<std::size_t>(path)].records > 0) {
         char digits[16];
         const auto end = std::to_chars(digits, digits + sizeof digits, keys_.size() - 1).ptr;
         const std::string_view number(digits, static_cast<std::size_t>(end - digits));
         path_ += OccurrenceMarker;
         path_ += number;
-        leafLength_ += OccurrenceMarker.size() + number.size();
-        pathId_ = internPath(path_);
+        path = internPath(path_);
     }
-    addRecord(pathId_, {}, value, tail);
+    openBlocks_.push_back(path);
+    addRecord(path, {}, value, tail);
     return matchLast();
 }
 
@@ -310,21 +299,19 @@ bool Tokeniser::continueQuoted(std::string_view line) {
     SimKey& last = keys_.back();
     if (!last.Key.empty())
         return appendQuoted(line);
-    if (last.pathId != currentPath() || path_.empty())
-        return false; // the block has been closed: the text belongs to nothing
-    const std::string_view parent = parentOf(path_, leafLength_);
-    if (parent.empty()) { // a block at the top keeps its keys: the text is its own value
+    if (last.pathId != currentPath() || openBlocks_.empty())
+        return false;              // the block has been closed: the text belongs to nothing
+    if (openBlocks_.size() == 1) { // a block at the top keeps its keys: the text is its own value
         settleValue();
         last.Value = endsInPlus(last.Value) ? last.Value : line;
         return false;
     }
     // The block was in truth a key with a long value.
     settleValue();
-    std::string name = path_.substr(path_.size() - leafLength_);
-    if (hasMarker(name))
-        name = StripOccurrence(name);
-    last.Key = arena_.keep(name);
-    setCurrentPath(std::string(parent));
+    const std::string_view whole = textOf(currentPath());
+    openBlocks_.pop_back();
+    const std::string_view name = whole.substr(textOf(currentPath()).size() + 1);
+    last.Key = hasMarker(name) ? arena_.keep(StripOccurrence(name)) : name;
     setPath(last, currentPath());
     quotedIn_ = currentPath();
     if (endsInPlus(last.Value))
@@ -391,7 +378,7 @@ bool Tokeniser::bareWord(std::string_view& rest) {
     }
     SimKey& last = keys_.back();
     if (following.firstOpen < 0) {
-        if (last.Key.empty() && !path_.empty()) {
+        if (last.Key.empty() && !openBlocks_.empty()) {
             setPath(last, currentPath());
             last.Tail = line;
             last.Line = static_cast<int>(lineNumber_);
@@ -518,26 +505,11 @@ void Tokeniser::addHit(const SimKey& key, std::string_view section, std::string_
     hit.LastLine = static_cast<int>(std::min(lineNumber_, lines_->size() - 1));
 }
 
-int Tokeniser::currentPath() {
-    if (pathId_ < 0)
-        pathId_ = internPath(path_);
-    return pathId_;
-}
-
-void Tokeniser::setCurrentPath(std::string_view path) {
-    path_.assign(path);
-    leafLength_ = lastComponent(path_).size();
-    pathId_ = -1;
-}
-
 void Tokeniser::popPath() {
-    if (deepBlocks_ > 0) {
+    if (deepBlocks_ > 0)
         --deepBlocks_;
-        return;
-    }
-    path_.resize(parentOf(path_, leafLength_).size());
-    leafLength_ = lastComponent(path_).size();
-    pathId_ = -1;
+    else if (!openBlocks_.empty())
+        openBlocks_.pop_back();
 }
 
 bool Tokeniser::isWanted(int path) {

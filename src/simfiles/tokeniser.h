@@ -1,5 +1,5 @@
-// Lines of a simulator text file to keys: walks the lines with the block's path and its last component as its
-// only stack.
+// Lines of a simulator text file to keys: walks the lines with the paths of the open blocks as its only
+// stack.
 #pragma once
 
 #include "simfiles/sim_keys.h"
@@ -70,8 +70,8 @@ class Tokeniser {
     void settleValue(); // makes the value being joined the last record's
 
     int internPath(std::string_view text);
-    int currentPath();
-    void setCurrentPath(std::string_view path);
+    int currentPath() const { return openBlocks_.empty() ? TopPath : openBlocks_.back(); }
+    std::string_view textOf(int path) const { return paths_[static_cast<std::size_t>(path)].text; }
     void popPath();
     bool isWanted(int path);
     void growTable();
@@ -85,12 +85,12 @@ class Tokeniser {
     SearchRequest request_;
     bool searching_ = false;
 
-    std::string path_;
-    std::size_t leafLength_ = 0;
-    std::size_t deepBlocks_ = 0; // blocks open below the deepest path that is kept apart
-    int pathId_ = -1;            // of path_; -1: not looked up yet
-    int quotedIn_ = -1;          // the path in which a quoted value's bracket is still open
-    std::string joined_;         // the last record's value while pieces are being joined
+    static constexpr int TopPath = 0; // the empty one, which is the first to be interned
+    std::vector<int> openBlocks_;     // the paths of the blocks that are open, outermost first
+    std::string path_;                // while one is put together
+    std::size_t deepBlocks_ = 0;      // blocks open below the deepest path that is kept apart
+    int quotedIn_ = -1;               // the path in which a quoted value's bracket is still open
+    std::string joined_;              // the last record's value while pieces are being joined
     bool joining_ = false;
     std::size_t lineNumber_ = 0;
     std::size_t skipLine_ = 0;          // already worked on together with the line above
