@@ -20,6 +20,7 @@ constexpr std::size_t Stride = 64; // characters looked at together
 struct Marks {
     std::uint64_t opens = 0, closes = 0, quotes = 0;
     std::uint64_t returns = 0, feeds = 0; // CR and LF
+    std::uint64_t blanks = 0;             // and tabs
 };
 
 #ifdef __SSE2__
@@ -28,16 +29,18 @@ void markSixteen(char* at, unsigned shift, Marks& marks) {
     const auto place = reinterpret_cast<__m128i*>(at);
     const __m128i text = _mm_loadu_si128(place);
     const auto is = [&text](char c) { return _mm_cmpeq_epi8(text, _mm_set1_epi8(c)); };
-    const auto bits = [&is, shift](char c) {
-        return static_cast<std::uint64_t>(static_cast<unsigned>(_mm_movemask_epi8(is(c)))) << shift;
+    const auto bits = [shift](__m128i found) {
+        return static_cast<std::uint64_t>(static_cast<unsigned>(_mm_movemask_epi8(found))) << shift;
     };
+    const __m128i tabs = is('\t');
     // A blank differs from a tab in the bits of 0x29.
-    _mm_storeu_si128(place, _mm_xor_si128(text, _mm_and_si128(is('\t'), _mm_set1_epi8('\t' ^ ' '))));
-    marks.opens |= bits('(');
-    marks.closes |= bits(')');
-    marks.quotes |= bits('"');
-    marks.returns |= bits('\r');
-    marks.feeds |= bits('\n');
+    _mm_storeu_si128(place, _mm_xor_si128(text, _mm_and_si128(tabs, _mm_set1_epi8('\t' ^ ' '))));
+    marks.opens |= bits(is('('));
+    marks.closes |= bits(is(')'));
+    marks.quotes |= bits(is('"'));
+    marks.returns |= bits(is('\r'));
+    marks.feeds |= bits(is('\n'));
+    marks.blanks |= bits(_mm_or_si128(tabs, is(' ')));
 }
 
 Marks markStride(char* at) {
@@ -58,10 +61,28 @@ Marks markStride(char* at) {
         marks.quotes |= bit('"');
         marks.returns |= bit('\r');
         marks.feeds |= bit('\n');
+        marks.blanks |= bit(' ');
     }
     return marks;
 }
 #endif
+
+// A line that stands in one stride. `part`: its characters.
+SimLine lineWithin(const char* stride, const Marks& marks, std::uint64_t part) {
+    SimLine line;
+    const std::uint64_t text = part & ~marks.blanks;
+    if (text == 0)
+        return line;
+    const int first = std::countr_zero(text);
+    line.text = {stride + first, static_cast<std::size_t>(std::bit_width(text) - first)};
+    const std::uint64_t opens = marks.opens & part, closes = marks.closes & part;
+    line.firstOpen = opens == 0 ? -1 : std::countr_zero(opens) - first;
+    line.firstClose = closes == 0 ? -1 : std::countr_zero(closes) - first;
+    line.severalOpen = (opens & (opens - 1)) != 0;
+    line.severalClose = (closes & (closes - 1)) != 0;
+    line.hasQuote = (marks.quotes & part) != 0;
+    return line;
+}
 
 // The first character of a kind in a line, and whether there are more.
 struct FirstOfLine {
@@ -76,7 +97,7 @@ struct FirstOfLine {
     }
 };
 
-// Records one line while the cutter walks over it.
+// Records a line that reaches over the end of a stride.
 struct LineScan {
     const char* begin = nullptr;
     FirstOfLine open, close;
@@ -116,9 +137,9 @@ std::string_view cutLines(std::string& text, std::string_view keepOnly, std::vec
     char* const end = text.data() + size;
     LineScan scan;
     scan.begin = text.data();
-    const auto finishLine = [&](const char* lineEnd) {
-        lines.push_back(scan.finish(lineEnd));
-        if (!keepOnly.empty() && lines.size() > 2 && !containsIgnoringCase(lines.back().text, keepOnly))
+    const auto add = [&](const SimLine& line) {
+        lines.push_back(line);
+        if (!keepOnly.empty() && lines.size() > 2 && !containsIgnoringCase(line.text, keepOnly))
             lines.back() = SimLine();
     };
     std::uint64_t afterReturn = 0; // 1: the stride before ended in a CR
@@ -127,21 +148,27 @@ std::string_view cutLines(std::string& text, std::string_view keepOnly, std::vec
         const std::uint64_t secondOfTwo = marks.feeds & (marks.returns << 1 | afterReturn);
         afterReturn = marks.returns >> (Stride - 1);
         scan.begin += secondOfTwo & 1;
-        std::uint64_t rest = ~std::uint64_t(0); // the stride behind the line ends met so far
+        std::uint64_t rest = ~(secondOfTwo & 1); // the stride behind the line ends met so far
         for (std::uint64_t ends = (marks.returns | marks.feeds) & ~secondOfTwo; ends != 0; ends &= ends - 1) {
             const std::uint64_t upToEnd = ends ^ (ends - 1);
-            scan.take(stride, marks, rest & upToEnd);
-            rest = ~upToEnd;
+            const std::uint64_t part = rest & (upToEnd >> 1);
             const char* const lineEnd = stride + std::countr_zero(ends);
-            finishLine(lineEnd);
-            scan = LineScan();
-            scan.begin = lineEnd + 1 + ((secondOfTwo & (upToEnd + 1)) != 0);
+            if (scan.begin >= stride) {
+                add(lineWithin(stride, marks, part));
+            } else {
+                scan.take(stride, marks, part);
+                add(scan.finish(lineEnd));
+                scan = LineScan();
+            }
+            const std::uint64_t second = secondOfTwo & (upToEnd + 1);
+            rest = ~(upToEnd | second);
+            scan.begin = lineEnd + 1 + (second != 0);
         }
         scan.take(stride, marks, rest);
     }
     text.resize(size);
     if (scan.begin != end)
-        finishLine(end);
+        add(scan.finish(end));
     if (lines.size() < 2)
         return {};
     const std::string_view signature = lines[1].text;
