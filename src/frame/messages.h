@@ -51,12 +51,9 @@ enum class Message : int {
     KeepAll = 45,
 
     // the list of consists to open
-    OpenFilter = 46,          // the label of the box that narrows the list
-    OpenFilterHint = 47,      // shown in that box while it is empty
     OpenCount = 48,           // |1 how many consists
     OpenCountIncomplete = 49, // |1 how many consists, |2 how many of them lack stock
     OpenNone = 50,
-    OpenNothingFits = 51,
     TipUsedByService = 52,
     TipUsedByNoService = 53,
     TipIncomplete = 54,
@@ -86,9 +83,6 @@ enum class Message : int {
     MenuRenumber = 72,
 
     // the list of stock and its context menu
-    MenuStockAddEnd = 73,
-    MenuStockInsertBefore = 74,
-    MenuStockClass = 75, // the sub-menu of the classes
     StockListEmpty = 76, // instead of rows
     TipUnusedStock = 77,
     TipCab = 78,
@@ -113,7 +107,6 @@ enum class Message : int {
     ThumbnailFolderFailed = 93, // |1 the folder, |2 a line break
     PictureUnreadable = 94,     // |1 the file, |2 a line break
     NotAConsist = 95,           // |1 the file, |2 a line break
-    ConsistHasNoVehicle = 96,   // |1 the file, |2 a line break
     AskOpenHuge = 97,           // |1 the file, |2 a line break, |3 its size in megabytes
     StripTooLong = 98,          // |1 the most pixels that the strip can show
     LanguageGone = 99,          // |1 the language, |2 a line break, |3 the one that serves instead
