@@ -57,6 +57,19 @@ TEST_F(KeyboardTest, AConsistIsMadeWithoutTheMouse) {
     EXPECT_TRUE(get<QPushButton>("cmdSAVE").isEnabled());
 }
 
+TEST_F(KeyboardTest, TheMenusOpenWithoutAMenuKey) {
+    build({"BB 9288"});
+    for (const auto& [place, menu] : {std::pair<QWidget*, const char*>{&strip(), "mnuSTRIP"},
+                                      std::pair<QWidget*, const char*>{&list(), "mnuSTOCK"}}) {
+        place->setFocus();
+        QTest::keyClick(place, Qt::Key_F10, Qt::ShiftModifier);
+        QWidget* const open = QApplication::activePopupWidget();
+        ASSERT_TRUE(open) << menu;
+        EXPECT_EQ(open->objectName(), menu);
+        open->close();
+    }
+}
+
 TEST_F(KeyboardTest, TheSelectedVehicleIsFoundInTheList) {
     build({"BB 9288", "Wagon plat"});
     strip().setFocus();

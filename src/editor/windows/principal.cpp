@@ -227,6 +227,18 @@ void frmPrincipal::addShortcuts() {
          {Row{QKeySequence::New, controls_.cmdNEW}, Row{QKeySequence::Open, controls_.cmdOPEN},
           Row{QKeySequence::Save, controls_.cmdSAVE}, Row{QKeySequence::Quit, controls_.cmdCANCEL}})
         connect(new QShortcut(row.key, this), &QShortcut::activated, row.button, &QPushButton::click);
+    connect(new QShortcut(QKeySequence(Qt::SHIFT | Qt::Key_F10), this), &QShortcut::activated, this,
+            &frmPrincipal::openContextMenu);
+}
+
+// For keyboards without a Menu key.
+void frmPrincipal::openContextMenu() {
+    QWidget* const focused = focusWidget();
+    if (!focused)
+        return;
+    const QPoint middle = focused->rect().center();
+    QContextMenuEvent asked(QContextMenuEvent::Keyboard, middle, focused->mapToGlobal(middle));
+    QCoreApplication::sendEvent(focused, &asked);
 }
 
 void frmPrincipal::applyLanguage() {

@@ -50,6 +50,7 @@ class frmPrincipal final : public QWidget {
     void connectStrip();
     void connectActions();
     void addShortcuts();
+    void openContextMenu();
     void takePlace();
     void keepPlace() const;
     void captionLanguages();
