@@ -1,5 +1,8 @@
-// Draws the small pictures of lists, menus and the desktop: draw_glyphs <folder>. Each is drawn in a box of
-// 16 units, and saved once for a plain screen and once ("@2x") for one of double resolution.
+// Draws the pictures of lists, menus, the strip, the splash and the desktop: draw_glyphs <folder>. Each is
+// saved once for a plain screen and once ("@2x") for one of double resolution, the splash for the latter
+// alone.
+#include "art.h"
+
 #include <QDir>
 #include <QFileInfo>
 #include <QImage>
@@ -9,20 +12,13 @@
 #include <cstdio>
 #include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace {
 
 constexpr QColor Air{0, 70, 200}, Vacuum{200, 30, 30}, Electronic{225, 165, 0}, Steel{70, 80, 95};
 constexpr QColor Paper{255, 255, 255}, Ink{31, 41, 55}, Accent{31, 95, 160};
-
-using Drawing = std::function<void(QPainter&)>;
-
-struct Glyph {
-    std::string name;
-    QSize size;
-    Drawing draw;
-};
 
 void stroke(QPainter& p, const QColor& colour, double width) {
     p.setPen(QPen(colour, width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
@@ -235,6 +231,8 @@ std::vector<Glyph> glyphs() {
     for (const CouplingRow& row : Couplings)
         all.push_back(
             {"list-" + std::to_string(row.number), row.rear ? pair : small, coupling(row.front, row.rear)});
+    for (Glyph& glyph : stripGlyphs())
+        all.push_back(std::move(glyph));
     return all;
 }
 
@@ -274,5 +272,6 @@ int main(int argc, char** argv) {
             !save(glyph.draw, glyph.size, 2, base + "@2x.png"))
             return 1;
     }
-    return saveDesktopIcons(folder) ? 0 : 1;
+    return save(drawSplash, SplashSize, 2, folder.filePath("art/splash.png")) && saveDesktopIcons(folder) ? 0
+                                                                                                          : 1;
 }

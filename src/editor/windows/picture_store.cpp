@@ -1,6 +1,5 @@
 #include "editor/windows/picture_store.h"
 
-#include "editor/windows/coupling_marks.h"
 #include "frame/windows/qt_text.h"
 
 #include <QPainter>
@@ -17,40 +16,24 @@ constexpr qsizetype KeptBytes = 64 << 20; // more goes when it isn't in use
 struct MarkRow {
     CouplingMark mark;
     const char* file;
-    std::string_view kind;
 };
 constexpr MarkRow Marks[] = {
-    {CouplingMark::Auto, "imgAUTO", "AUTO"},
-    {CouplingMark::Bar, "imgBAR", "BAR"},
-    {CouplingMark::Chain, "imgCHAIN", "CHAIN"},
-    {CouplingMark::Hydro, "imgHYDRO", "HYDRO"},
-    {CouplingMark::NotCompatible, "imgNO_COMPATIBLE", ""},
+    {CouplingMark::Auto, "imgAUTO"},
+    {CouplingMark::Bar, "imgBAR"},
+    {CouplingMark::Chain, "imgCHAIN"},
+    {CouplingMark::Hydro, "imgHYDRO"},
+    {CouplingMark::NotCompatible, "imgNO_COMPATIBLE"},
 };
 
 QImage readResource(const PictureName& picture) {
     return QImage(QString(":/stock/%1.bmp").arg(toQt(picture.name)));
 }
 
-QPixmap paintMark(const MarkRow& row, double ratio) {
-    const int size = qRound(MarkSize * ratio);
-    QPixmap picture(size, size);
-    picture.fill(Qt::transparent);
-    QPainter painter(&picture);
-    painter.scale(double(size) / MarkSize, double(size) / MarkSize);
-    if (row.mark == CouplingMark::NotCompatible)
-        paintBadCouplingMark(painter, {});
-    else
-        paintCouplingMark(painter, {}, row.kind);
-    return picture;
-}
-
-QPixmap drawMark(const MarkRow& row, double ratio) {
+QPixmap readMark(const MarkRow& row, double ratio) {
     const QImage plain(QString(":/art/%1.png").arg(row.file)), fine(QString(":/art/%1@2x.png").arg(row.file));
-    if (plain.isNull())
-        return paintMark(row, ratio);
-    const QImage& source = ratio > 1 && !fine.isNull() ? fine : plain;
     const QSize size(qRound(plain.width() * ratio), qRound(plain.height() * ratio));
-    return QPixmap::fromImage(source.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+    return QPixmap::fromImage(
+        (ratio > 1 ? fine : plain).scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
 }
 
 QPixmap scaledCopy(const QImage& image, QSize size, bool mirrored) {
@@ -137,7 +120,7 @@ int PictureStore::markWidth(CouplingMark mark) {
 const QPixmap& PictureStore::mark(CouplingMark mark, double pixelRatio) {
     const auto [place, isNew] = marks_.try_emplace({mark, pixelRatio});
     if (isNew)
-        place->second = drawMark(*std::ranges::find(Marks, mark, &MarkRow::mark), pixelRatio);
+        place->second = readMark(*std::ranges::find(Marks, mark, &MarkRow::mark), pixelRatio);
     return place->second;
 }
 

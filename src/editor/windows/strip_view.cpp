@@ -28,18 +28,8 @@ constexpr QMargins PreviewSurroundings{192, 192, 384, 384};
 
 // The throw-away sign: a bin under the pointer's tip.
 QCursor discardCursor() {
-    QPixmap picture(64, 64);
+    QPixmap picture(":/art/discard@2x.png");
     picture.setDevicePixelRatio(2);
-    picture.fill(Qt::transparent);
-    QPainter painter(&picture);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(Qt::white, 1.2));
-    painter.setBrush(QColor(200, 30, 30));
-    painter.drawRoundedRect(QRectF(8, 12, 16, 17), 2, 2);
-    painter.drawRoundedRect(QRectF(6, 8, 20, 3.5), 1, 1);
-    painter.drawRoundedRect(QRectF(13, 4.5, 6, 3), 1, 1);
-    painter.drawLine(QPointF(13, 15), QPointF(13, 26));
-    painter.drawLine(QPointF(19, 15), QPointF(19, 26));
     return QCursor(picture, 16, 16);
 }
 

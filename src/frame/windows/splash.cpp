@@ -3,13 +3,10 @@
 #include "frame/windows/first_paint.h"
 #include "frame/windows/help.h"
 
-#include <QDir>
 #include <QGuiApplication>
 #include <QImageReader>
 #include <QKeyEvent>
-#include <QLinearGradient>
 #include <QPainter>
-#include <QPainterPath>
 #include <QScreen>
 
 namespace zandor {
@@ -20,54 +17,19 @@ constexpr QSize SplashSize{480, 320};
 constexpr QColor TitleColour{255, 255, 0};
 constexpr QColor TitleShadow{192, 192, 0};
 constexpr QColor Cyan{0, 255, 255};
-constexpr QColor NightTop{13, 33, 62}, NightBottom{30, 84, 140};
-constexpr QColor Silhouette{9, 24, 46};
 constexpr QColor BarBack{8, 22, 43}, BarFrame{120, 170, 215};
 constexpr double DotsAnInch = 96;
 constexpr int TitleSize = 40; // dots
 constexpr QPoint TitlePlace{29, 83};
 constexpr int TitleMargin = 20;
 
-// A train against the sky, from `x` to the right edge.
-void paintTrain(QPainter& painter, int x, int railY, int width) {
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(Silhouette);
-    QPainterPath nose;
-    nose.moveTo(x, railY - 8);
-    nose.quadTo(x + 6, railY - 34, x + 44, railY - 40);
-    nose.lineTo(x + 140, railY - 40);
-    nose.lineTo(x + 140, railY - 8);
-    nose.closeSubpath();
-    painter.drawPath(nose);
-    for (int car = x + 144; car < width; car += 118)
-        painter.drawRoundedRect(car, railY - 40, 114, 32, 3, 3);
-    for (int wheel = x + 22; wheel < width; wheel += 29)
-        painter.drawEllipse(QPoint(wheel, railY - 6), 6, 6);
-    painter.setBrush(QColor(255, 214, 120, 210));
-    for (int window = x + 58; window < width; window += 16)
-        if ((window - x) % 118 > 24)
-            painter.drawRect(window, railY - 33, 9, 8);
-    painter.fillRect(0, railY, width, 3, QColor(190, 205, 222));
-}
-
-// The picture of the resources, of any format, sharp on its screen; null when there is none.
+// Sharp on its screen.
 QPixmap loadArt(QSize size, qreal ratio) {
-    const QStringList found = QDir(":/art").entryList({"splash*"});
-    if (found.isEmpty())
-        return {};
-    QImageReader reader(":/art/" + found.first());
+    QImageReader reader(":/art/splash.png");
     reader.setScaledSize(size * ratio);
     QPixmap art = QPixmap::fromImage(reader.read());
     art.setDevicePixelRatio(ratio);
     return art;
-}
-
-void paintOwnArt(QPainter& painter) {
-    QLinearGradient sky(0, 0, 0, SplashSize.height());
-    sky.setColorAt(0, NightTop);
-    sky.setColorAt(1, NightBottom);
-    painter.fillRect(QRect(QPoint(), SplashSize), sky);
-    paintTrain(painter, 120, 208, SplashSize.width());
 }
 
 QPalette barColours() {
@@ -112,11 +74,8 @@ void frmSplash::showStep(int lower, int upper, int current, const QString& text)
 void frmSplash::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    if (!art_.isNull())
-        painter.drawPixmap(0, 0, art_);
+    painter.drawPixmap(0, 0, art_);
     painter.scale(scale_, scale_);
-    if (art_.isNull())
-        paintOwnArt(painter);
     paintTitle(painter);
     paintLegal(painter);
 }
