@@ -21,10 +21,10 @@ Block blockOf(std::string_view path, std::string_view& train) {
         return Block::Other;
     }
     const std::string_view vehicle = path.substr(train.size() + 1);
+    if (!vehicle.empty() && letterIs(vehicle.front(), 'w'))
+        return pathIs(vehicle, "Wagon") ? Block::Wagon : Block::Other;
     if (pathIs(vehicle, "Engine"))
         return Block::Engine;
-    if (pathIs(vehicle, "Wagon"))
-        return Block::Wagon;
     return pathIs(vehicle, "Engine\\EngineVariables") ? Block::EngineVariables : Block::Other;
 }
 
