@@ -69,8 +69,9 @@ class QuickLines {
 
     // The value of a line that begins with the key; false when it doesn't.
     bool value(std::string_view line, std::string_view key) {
-        if (!beginsWithKey(line, key))
-            return false;
+        return (line.front() | 0x20) == key.front() && beginsWithKey(line, key) && takeValue(line);
+    }
+    bool takeValue(std::string_view line) {
         normal_.assign(line);
         NormalizeLine(normal_);
         const std::size_t begin = normal_.find('(') + 1;
