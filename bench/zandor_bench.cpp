@@ -1,5 +1,5 @@
 // zandor-bench: the load of the catalogue and the scan of the consists, measured beside a plain read of the
-// same files in the same run: by default seven repetitions in random order. Takes Google Benchmark's flags.
+// same files in the same run: by default fifteen repetitions in random order. Takes Google Benchmark's flags.
 #include "bench_session.h"
 #include "bench_sizes.h"
 #include "bench_trees.h"
@@ -66,7 +66,7 @@ void addAll(Trees& trees) {
 }
 
 int run(int argc, char** argv) {
-    char repetitions[] = "--benchmark_repetitions=7";
+    char repetitions[] = "--benchmark_repetitions=15";
     char interleaving[] = "--benchmark_enable_random_interleaving=true";
     std::vector<char*> arguments{argv[0], repetitions, interleaving};
     arguments.insert(arguments.end(), argv + 1, argv + argc); // given ones come last and win
