@@ -116,7 +116,10 @@ void Application::loadThenShow() {
 Application::End Application::load() {
     loadSettings(frame_, folders_);
     applyAssociation(frame_, *association_, folders_);
-    offerKnownLanguage(frame_);
+    if (options_.picture.isEmpty())
+        offerKnownLanguage(frame_);
+    else
+        state_.Language = languageInstead(frame_).value_or(state_.Language);
     toolkitTexts_.follow(toQt(state_.Language));
     help_.serveF1();
     initialiseDocument(editor_);

@@ -203,6 +203,17 @@ TEST_F(PictureTest, WhatIsNoPictureShowsNothing) {
     EXPECT_EQ(pictures.size({true, "GP38"}), std::nullopt);
 }
 
+TEST_F(PictureTest, MarksGrowWithTheScale) {
+    for (const CouplingMark mark : {CouplingMark::Auto, CouplingMark::Bar, CouplingMark::Chain,
+                                    CouplingMark::Hydro, CouplingMark::NotCompatible})
+        for (const double ratio : {1.0, 1.5, 2.0}) {
+            const QPixmap& drawn = pictures.mark(mark, ratio);
+            EXPECT_EQ(drawn.deviceIndependentSize().toSize(), QSize(18, 18) * ratio);
+            EXPECT_EQ(drawn.size(), QSize(18, 18) * ratio);
+            EXPECT_GT(drawn.toImage().pixelColor(drawn.width() / 2, 3).alpha(), 0);
+        }
+}
+
 TEST_F(PictureTest, TheStripIsSharpAtEveryScale) {
     files.put("C:\\p.bmp", bitmap(halves()));
     const PictureName name{false, "C:\\p.bmp"};

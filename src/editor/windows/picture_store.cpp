@@ -30,7 +30,9 @@ QImage readResource(const PictureName& picture) {
 }
 
 QPixmap readMark(const MarkRow& row, double ratio) {
-    const QImage plain(QString(":/art/%1.png").arg(row.file)), fine(QString(":/art/%1@2x.png").arg(row.file));
+    const QImage plain(QString(":/art/%1.png").arg(row.file));
+    QImage fine(QString(":/art/%1@2x.png").arg(row.file));
+    fine.setDevicePixelRatio(1); // the strip counts in device pixels
     const QSize size(qRound(plain.width() * ratio), qRound(plain.height() * ratio));
     return QPixmap::fromImage(
         (ratio > 1 ? fine : plain).scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
