@@ -57,11 +57,6 @@ int takeOff(int& rest, std::span<const int> values) {
     return 0;
 }
 
-std::string caption(const Language& language, Message message, const char* fixed) {
-    const std::string text = language.GetLangText(message);
-    return text.empty() ? fixed : text;
-}
-
 bool isLetter(char c) {
     return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
 }
@@ -122,13 +117,13 @@ AlertCaptions alertCaptions(const Language& language, const Alert& alert) {
     AlertCaptions captions;
     for (const int wanted : alert.answers) {
         const auto row = std::ranges::find(Captions, wanted, &CaptionRow::answer);
-        captions.buttons.push_back(caption(language, row->message, row->fixed));
+        captions.buttons.push_back(textOr(language, row->message, row->fixed));
     }
     std::vector<std::string*> all;
     for (std::string& text : captions.buttons)
         all.push_back(&text);
     if (alert.help) {
-        captions.help = caption(language, Message::HelpButton, "Aide");
+        captions.help = textOr(language, Message::HelpButton, "Aide");
         all.push_back(&captions.help);
     }
     makeMnemonicsUnique(all);

@@ -40,4 +40,10 @@ class Language {
     const AppState& state_;
 };
 
+// The text of a message, or the French one that serves when the language lacks it.
+inline std::string textOr(const Language& language, Message message, const char* french) {
+    const std::string text = language.GetLangText(message);
+    return text.empty() ? french : text;
+}
+
 } // namespace zandor

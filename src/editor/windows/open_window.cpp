@@ -1,9 +1,9 @@
 #include "editor/windows/open_window.h"
 
-#include "editor/windows/elided_label.h"
 #include "editor/windows/open_model.h"
 #include "editor/windows/row_view.h"
 #include "frame/windows/cursors.h"
+#include "frame/windows/elided_label.h"
 #include "frame/windows/help.h"
 #include "frame/windows/qt_text.h"
 #include "frame/windows/settings_colour.h"
@@ -31,11 +31,6 @@ constexpr std::pair<OpenModel::Column, double> SizedColumns[] = {
     {OpenModel::FileColumn, 0.26},
 };
 
-template <class Widget> Widget* named(Widget* widget, const char* name) {
-    widget->setObjectName(name);
-    return widget;
-}
-
 } // namespace
 
 frmOpen::frmOpen(Frame& frame, Catalogue& catalogue, Open open, QWidget* parent)
@@ -57,20 +52,9 @@ frmOpen::frmOpen(Frame& frame, Catalogue& catalogue, Open open, QWidget* parent)
 
 void frmOpen::buildList() {
     lsvCONSISTS_->setModel(model_);
-    lsvCONSISTS_->setRootIsDecorated(false);
-    lsvCONSISTS_->setUniformRowHeights(true);
     lsvCONSISTS_->setIconSize({16, 16});
-    lsvCONSISTS_->setAllColumnsShowFocus(true);
-    lsvCONSISTS_->setSelectionMode(QAbstractItemView::SingleSelection);
-    lsvCONSISTS_->setEditTriggers(QAbstractItemView::NoEditTriggers);
     lsvCONSISTS_->setMinimumHeight(90);
     lsvCONSISTS_->setAccessibleName(toQt(frame_.text(Message::ConsistFilter)));
-    QHeaderView* columns = lsvCONSISTS_->header();
-    columns->setStretchLastSection(false);
-    columns->setSectionsMovable(false);
-    columns->setSectionsClickable(true);
-    columns->setSectionResizeMode(OpenModel::NameColumn, QHeaderView::Stretch);
-    columns->setMinimumSectionSize(6 * fontMetrics().averageCharWidth());
 }
 
 void frmOpen::layOut() {
@@ -84,7 +68,6 @@ void frmOpen::layOut() {
     auto* buttons = new QHBoxLayout;
     ProgressBar1_->setMaximumWidth(BarWidth);
     ProgressBar1_->setTextVisible(false);
-    lblCOUNT_->setProperty("quiet", true); // comes in the bar's place
     buttons->addWidget(ProgressBar1_, 1);
     buttons->addWidget(lblCOUNT_, 1);
     buttons->addWidget(cmdOPEN_);
@@ -98,7 +81,6 @@ void frmOpen::layOut() {
 
 void frmOpen::connectAll() {
     cmdOPEN_->setDefault(true); // Enter in the list
-    cmdOPEN_->setProperty("primary", true);
     cmdOPEN_->setEnabled(false);
     Timer1_->setSingleShot(true);
     connect(cmdOPEN_, &QPushButton::clicked, this, &frmOpen::OpenSelectedConsist);
@@ -108,10 +90,6 @@ void frmOpen::connectAll() {
     connect(lsvCONSISTS_->selectionModel(), &QItemSelectionModel::currentChanged, this,
             &frmOpen::showSelected);
     connect(lsvCONSISTS_->header(), &QHeaderView::sectionClicked, this, &frmOpen::sortBy);
-    connect(lsvCONSISTS_->header(), &QHeaderView::sectionResized, this, [this](int column) {
-        if (column != OpenModel::NameColumn && !sizing_)
-            sizedByUser_ = true;
-    });
 }
 
 void frmOpen::applySettings() {
@@ -122,12 +100,7 @@ void frmOpen::applySettings() {
     ProgressBar1_->setAccessibleName(Label1_->text());
 
     const QColor background = readColour(frame_, "Color1"), text = readColour(frame_, "Color2");
-    QPalette colours = lsvCONSISTS_->palette();
-    if (background.isValid())
-        colours.setColor(QPalette::Base, background);
-    if (text.isValid())
-        colours.setColor(QPalette::Text, text);
-    lsvCONSISTS_->setPalette(colours);
+    lsvCONSISTS_->showColours(background, text);
     model_->setTextColour(text);
 }
 
@@ -181,19 +154,17 @@ void frmOpen::showList() {
 
 // The names get what is left; as soon as the user has sized a column, all stay.
 void frmOpen::sizeColumns() {
-    if (sizedByUser_)
+    if (lsvCONSISTS_->sizedByUser())
         return;
     QFont bold = lsvCONSISTS_->font();
     bold.setBold(true);
     const QFontMetrics metrics(bold);
     const int width = lsvCONSISTS_->viewport()->width();
-    sizing_ = true;
     for (const auto& [column, most] : SizedColumns) {
         const int needed =
             metrics.horizontalAdvance(model_->longestText(column)) + 3 * metrics.averageCharWidth();
-        lsvCONSISTS_->header()->resizeSection(column, std::min(needed, static_cast<int>(most * width)));
+        lsvCONSISTS_->sizeColumn(column, std::min(needed, static_cast<int>(most * width)));
     }
-    sizing_ = false;
 }
 
 void frmOpen::showCounts() {

@@ -12,12 +12,12 @@ class QLabel;
 class QProgressBar;
 class QPushButton;
 class QTimer;
-class QTreeView;
 
 namespace zandor {
 
 class ElidedLabel;
 class OpenModel;
+class RowView;
 
 // exec() gives Accepted when a consist has been opened. Otherwise the consist under edit is what it was,
 // HasFile included. A reading that the user ends isn't kept.
@@ -55,7 +55,7 @@ class frmOpen final : public QDialog, public ProgressView {
     Catalogue& catalogue_;
     Open open_;
     OpenModel* model_;
-    QTreeView* lsvCONSISTS_;
+    RowView* lsvCONSISTS_;
     ElidedLabel* Label1_;
     QLabel* lblCOUNT_;
     QProgressBar* ProgressBar1_;
@@ -63,8 +63,6 @@ class frmOpen final : public QDialog, public ProgressView {
     QTimer* Timer1_;
     bool started_ = false;
     bool ended_ = false;
-    bool sizing_ = false;                       // the columns are being sized by the window
-    bool sizedByUser_ = false;                  // they stay as they are
     Qt::SortOrder order_ = Qt::DescendingOrder; // of the last column click; the first one sorts upwards
 };
 

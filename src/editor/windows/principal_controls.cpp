@@ -1,11 +1,11 @@
 #include "editor/windows/principal_controls.h"
 
 #include "catalogue/stock_list.h"
-#include "editor/windows/elided_label.h"
 #include "editor/windows/preview_view.h"
 #include "editor/windows/stock_view.h"
 #include "editor/windows/strip_view.h"
 #include "frame/windows/art.h"
+#include "frame/windows/elided_label.h"
 #include "frame/windows/qt_text.h"
 #include "frame/windows/theme.h"
 #include "frame/windows/window_parts.h"
@@ -29,11 +29,6 @@ namespace {
 
 constexpr int Gap = 10; // pixels between cards
 constexpr int DurabilityRange = 1000;
-
-template <class Widget> Widget* named(Widget* widget, const char* name) {
-    widget->setObjectName(name);
-    return widget;
-}
 
 // A pane of the window.
 QFrame* card(QWidget* parent) {

@@ -1,21 +1,29 @@
-// A list of rows in columns, in which typed letters look for names.
+// A list of rows in columns: the names in the first one, which gets the room that the others leave.
 #pragma once
 
 #include <QTreeView>
+
+class QColor;
 
 namespace zandor {
 
 class RowView : public QTreeView {
     Q_OBJECT
   public:
-    using QTreeView::QTreeView;
+    explicit RowView(QWidget* parent);
 
-    // A click on another column of the row leaves the letters to the names, in the first one.
-    void keyboardSearch(const QString& text) override {
-        if (currentIndex().column() > 0)
-            setCurrentIndex(currentIndex().siblingAtColumn(0));
-        QTreeView::keyboardSearch(text);
-    }
+    void setModel(QAbstractItemModel* model) override;
+    // Background and text; an invalid colour stays as it is.
+    void showColours(const QColor& background, const QColor& text);
+    // From then on the columns stay as they are.
+    bool sizedByUser() const { return sizedByUser_; }
+    void sizeColumn(int column, int width);
+    // Typed letters look for names, also after a click on another column of the row.
+    void keyboardSearch(const QString& text) override;
+
+  private:
+    bool sizing_ = false; // not the user is sizing a column
+    bool sizedByUser_ = false;
 };
 
 } // namespace zandor

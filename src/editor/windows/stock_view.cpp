@@ -15,29 +15,15 @@ namespace zandor {
 StockView::StockView(QWidget* parent) : RowView(parent), model_(new StockModel(this)) {
     setObjectName("lstViewMATERIEL");
     setModel(model_);
-    setRootIsDecorated(false);
-    setUniformRowHeights(true);
-    setAllColumnsShowFocus(true);
-    setSelectionMode(SingleSelection);
-    setEditTriggers(NoEditTriggers);
     setDragEnabled(true);
     setDragDropMode(DragOnly);
     setTextElideMode(Qt::ElideRight);
     setIconSize({33, 16}); // two marks beside each other
 
     QHeaderView* columns = header();
-    columns->setStretchLastSection(false);
-    columns->setSectionsMovable(false);
-    columns->setSectionsClickable(true);
     columns->setSortIndicatorShown(true);
     columns->setSortIndicator(StockModel::NameColumn, Qt::AscendingOrder);
-    columns->setSectionResizeMode(StockModel::NameColumn, QHeaderView::Stretch);
-    columns->setMinimumSectionSize(6 * fontMetrics().averageCharWidth());
     connect(columns, &QHeaderView::sectionClicked, this, &StockView::toggleOrder);
-    connect(columns, &QHeaderView::sectionResized, this, [this](int section) {
-        if (section != StockModel::NameColumn && !sizing_)
-            sizedByUser_ = true;
-    });
 }
 
 QString StockView::currentKey() const {
@@ -60,12 +46,7 @@ void StockView::selectFirst() {
 }
 
 void StockView::setColours(const QColor& background, const QColor& text) {
-    QPalette colours = palette();
-    if (background.isValid())
-        colours.setColor(QPalette::Base, background);
-    if (text.isValid())
-        colours.setColor(QPalette::Text, text);
-    setPalette(colours);
+    showColours(background, text);
     model_->setTextColour(text);
 }
 
@@ -97,12 +78,10 @@ void StockView::toggleOrder() {
 // The names get what the two other columns leave; as soon as the user has sized one, they stay.
 void StockView::resizeEvent(QResizeEvent* event) {
     QTreeView::resizeEvent(event);
-    if (sizedByUser_)
+    if (sizedByUser())
         return;
-    sizing_ = true;
     for (const int column : {StockModel::BrakeColumn, StockModel::CouplingColumn})
-        header()->resizeSection(column, header()->sectionSizeHint(column));
-    sizing_ = false;
+        sizeColumn(column, header()->sectionSizeHint(column));
 }
 
 void StockView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {

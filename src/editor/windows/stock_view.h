@@ -43,8 +43,6 @@ class StockView final : public RowView {
     StockModel* model_;
     std::function<QPixmap()> dragPicture_;
     QString emptyHint_;
-    bool sizing_ = false;      // the columns are being sized by the window
-    bool sizedByUser_ = false; // they stay as they are
 };
 
 } // namespace zandor

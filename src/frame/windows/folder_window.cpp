@@ -2,6 +2,7 @@
 
 #include "frame/alert.h"
 #include "frame/windows/background.h"
+#include "frame/windows/elided_label.h"
 #include "frame/windows/help.h"
 #include "frame/windows/qt_text.h"
 #include "frame/windows/window_parts.h"
@@ -101,7 +102,7 @@ void FolderList::keyPressEvent(QKeyEvent* event) {
 
 FolderWindow::FolderWindow(Frame& frame, const FolderChoice& choice, DiskMaker disks, QWidget* parent)
     : QDialog(parent), files_(frame.files), drives_(new QComboBox(this)), list_(new FolderList(disks, this)),
-      path_(new PathLabel(this)), ok_(new QPushButton(this)) {
+      path_(new ElidedLabel(this, Qt::ElideMiddle)), ok_(new QPushButton(this)) {
     setWindowTitle(toQt(frame.text(choice.title)));
     setHelpContext(*this, helpContext::Folders);
     setModal(true);

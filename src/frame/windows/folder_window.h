@@ -14,7 +14,7 @@ class QPushButton;
 
 namespace zandor {
 
-class PathLabel;
+class ElidedLabel;
 
 // A disk of its own for each folder that is read, since that happens aside from the program's own disk.
 using DiskMaker = std::function<std::shared_ptr<FileSystem>()>;
@@ -61,7 +61,7 @@ class FolderWindow : public QDialog {
     std::vector<FolderPlace> driveList_;
     QComboBox* drives_;
     FolderList* list_;
-    PathLabel* path_;
+    ElidedLabel* path_;
     QPushButton* ok_;
 };
 

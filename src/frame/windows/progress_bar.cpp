@@ -9,10 +9,22 @@ namespace zandor {
 
 namespace {
 constexpr int Steps = 1000; // what an assistive program is told
+constexpr QColor Cyan{0, 255, 255}, Back{8, 22, 43}, Frame{120, 170, 215};
+
+QPalette colours() {
+    QPalette palette;
+    palette.setColor(QPalette::Base, Back);
+    palette.setColor(QPalette::Text, Cyan);
+    palette.setColor(QPalette::Highlight, Cyan);
+    palette.setColor(QPalette::HighlightedText, Back);
+    palette.setColor(QPalette::Mid, Frame);
+    return palette;
+}
 } // namespace
 
 ProgressBar::ProgressBar(QWidget* parent) : QProgressBar(parent) {
     setObjectName("pctPROGRESS");
+    setPalette(colours());
     setRange(0, Steps);
     setValue(0);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);

@@ -5,7 +5,7 @@
 
 namespace zandor {
 
-// In the colours of its palette: Base behind, Highlight for the share that is done, the text on both.
+// Cyan for the share that is done, dark behind, the text on both.
 class ProgressBar final : public QProgressBar {
     Q_OBJECT
   public:

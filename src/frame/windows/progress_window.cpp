@@ -1,5 +1,6 @@
 #include "frame/windows/progress_window.h"
 
+#include "frame/windows/elided_label.h"
 #include "frame/windows/first_paint.h"
 #include "frame/windows/help.h"
 #include "frame/windows/progress_bar.h"
@@ -17,20 +18,18 @@ constexpr QSize BarSize{445, 23};
 constexpr int Margin = 18;
 constexpr int HeadSize = 12; // points
 
-// The splash's, for the same bar.
+// The night of the splash, behind the same bar.
 QPalette colours() {
     QPalette palette(QColor(30, 84, 140), QColor(13, 33, 62));
     palette.setColor(QPalette::WindowText, QColor(255, 255, 192));
-    palette.setColor(QPalette::Base, QColor(8, 22, 43));
-    palette.setColor(QPalette::Highlight, QColor(0, 255, 255));
-    palette.setColor(QPalette::Mid, QColor(120, 170, 215));
     return palette;
 }
 
 } // namespace
 
 frmProgress::frmProgress(Frame& frame, QWidget* parent)
-    : QDialog(parent), state_(frame.state), text_(new PathLabel(this)), bar_(new ProgressBar(this)) {
+    : QDialog(parent), state_(frame.state), text_(new ElidedLabel(this, Qt::ElideMiddle)),
+      bar_(new ProgressBar(this)) {
     setObjectName("frmProgress");
     setWindowTitle(
         toQt(frame.text(Message::ProgressTitle, {{"|1", frame.state.Title},

@@ -17,7 +17,6 @@ constexpr QSize SplashSize{480, 320};
 constexpr QColor TitleColour{255, 255, 0};
 constexpr QColor TitleShadow{192, 192, 0};
 constexpr QColor Cyan{0, 255, 255};
-constexpr QColor BarBack{8, 22, 43}, BarFrame{120, 170, 215};
 constexpr double DotsAnInch = 96;
 constexpr int TitleSize = 40; // dots
 constexpr QPoint TitlePlace{29, 83};
@@ -30,16 +29,6 @@ QPixmap loadArt(QSize size, qreal ratio) {
     QPixmap art = QPixmap::fromImage(reader.read());
     art.setDevicePixelRatio(ratio);
     return art;
-}
-
-QPalette barColours() {
-    QPalette colours;
-    colours.setColor(QPalette::Base, BarBack);
-    colours.setColor(QPalette::Text, Cyan);
-    colours.setColor(QPalette::Highlight, Cyan);
-    colours.setColor(QPalette::HighlightedText, BarBack);
-    colours.setColor(QPalette::Mid, BarFrame);
-    return colours;
 }
 
 } // namespace
@@ -57,7 +46,6 @@ frmSplash::frmSplash(const QString& title, const QString& legal)
     const qsizetype cut = legal.indexOf(u'-');
     legal_ =
         cut < 0 ? QStringList{legal} : QStringList{legal.left(cut).trimmed(), legal.mid(cut + 1).trimmed()};
-    bar_->setPalette(barColours());
     bar_->setAccessibleName(title);
     const QRectF place(28, SplashSize.height() - 46, SplashSize.width() - 56, 24);
     bar_->setGeometry(QRectF(place.topLeft() * scale_, place.size() * scale_).toRect());

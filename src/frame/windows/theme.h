@@ -12,11 +12,10 @@ namespace zandor {
 namespace theme {
 // Fixed colours of what the program draws itself. Texts and backgrounds of windows take theirs from the
 // palette.
-inline constexpr QColor Sky{148, 198, 239};     // the strip and everything drawn on it
-inline constexpr QColor Accent{31, 95, 160};    // marks on the sky
-inline constexpr QColor Ink{31, 41, 55};        // text on the sky
-inline constexpr QColor QuietInk{91, 103, 120}; // secondary text on the sky
-inline constexpr QColor Unused{0, 128, 0};      // stock that no consist uses
+inline constexpr QColor Sky{148, 198, 239};  // the strip and everything drawn on it
+inline constexpr QColor Accent{31, 95, 160}; // marks on the sky
+inline constexpr QColor Ink{31, 41, 55};     // text on the sky
+inline constexpr QColor Unused{0, 128, 0};   // stock that no consist uses
 
 // Secondary text in a window: quieter than the text, and still easy to read.
 QColor hintText(const QPalette& palette);

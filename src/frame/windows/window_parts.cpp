@@ -41,8 +41,7 @@ QWidget* parentOfDialogs() {
 }
 
 QString textOr(const Frame& frame, Message message, const char* french) {
-    const std::string text = frame.text(message);
-    return text.empty() ? QString::fromUtf8(french) : toQt(text);
+    return toQt(textOr(frame.language, message, french));
 }
 
 QLabel* makeIconLabel(QWidget* parent, const QIcon& icon) {
@@ -125,28 +124,6 @@ void WrappedText::changeEvent(QEvent* event) {
     QTextEdit::changeEvent(event);
     if (event->type() == QEvent::FontChange)
         measure();
-}
-
-PathLabel::PathLabel(QWidget* parent) : QLabel(parent) {
-    setTextFormat(Qt::PlainText);
-    setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-}
-
-QSize PathLabel::minimumSizeHint() const {
-    return {fontMetrics().averageCharWidth() * 20, fontMetrics().height() + 2};
-}
-
-QSize PathLabel::sizeHint() const {
-    return {fontMetrics().horizontalAdvance(text()), fontMetrics().height() + 2};
-}
-
-void PathLabel::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
-    const QString shown = fontMetrics().elidedText(text(), Qt::ElideMiddle, width());
-    if (const QString tip = shown == text() ? QString() : text(); toolTip() != tip)
-        setToolTip(tip);
-    style()->drawItemText(&painter, rect(), static_cast<int>(alignment()), palette(), isEnabled(), shown,
-                          foregroundRole());
 }
 
 void makeSameWidth(const std::vector<QPushButton*>& buttons) {

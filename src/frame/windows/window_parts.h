@@ -14,6 +14,10 @@ class QPushButton;
 
 namespace zandor {
 
+template <class Widget> Widget* named(Widget* widget, const char* name) {
+    widget->setObjectName(name);
+    return widget;
+}
 
 // The window that a message stands in front of, also while another program has the focus.
 QWidget* parentOfDialogs();
@@ -48,18 +52,6 @@ class WrappedText final : public QTextEdit {
     int longest() const;
 
     QSize wanted_;
-};
-
-// A path on one line, shortened in its middle where the place is too narrow.
-class PathLabel final : public QLabel {
-    Q_OBJECT
-  public:
-    explicit PathLabel(QWidget* parent);
-    QSize minimumSizeHint() const override;
-    QSize sizeHint() const override;
-
-  protected:
-    void paintEvent(QPaintEvent*) override;
 };
 
 // Buttons as wide as the widest of them.

@@ -1,4 +1,6 @@
-#include "editor/windows/elided_label.h"
+#include "frame/windows/elided_label.h"
+
+#include "frame/windows/qt_text.h"
 
 #include <QPainter>
 
@@ -21,8 +23,8 @@ void ElidedLabel::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     const QString whole = text().trimmed();
     const QString shown = fontMetrics().elidedText(whole, mode_, width());
-    if (const QString tip = shown == whole ? QString() : whole; toolTip() != tip)
-        setToolTip(tip); // plain: the label is
+    if (const QString tip = shown == whole ? QString() : plainTip(whole); toolTip() != tip)
+        setToolTip(tip);
     painter.setPen(palette().color(QPalette::WindowText));
     painter.drawText(rect(), static_cast<int>(alignment()), shown);
 }
