@@ -58,6 +58,7 @@ int Application::run() {
     splash_->whenPainted([this] { loadThenShow(); });
     const int result = QApplication::exec();
     putRootsBack();
+    passOnGiven();
     return result;
 }
 
@@ -73,19 +74,33 @@ bool Application::handedOver() {
 }
 
 void Application::takeFile(const QString& path) {
+    given_.append(path);
     window_->setWindowState(window_->windowState() & ~Qt::WindowMinimized);
     window_->raise();
     window_->activateWindow();
-    openGiven(path);
+    openNextGiven();
 }
 
 // A message that is open is answered first, and what the mouse holds is let go.
-void Application::openGiven(const QString& path) {
+void Application::openNextGiven() {
+    if (given_.isEmpty())
+        return;
     const bool dragging = QGuiApplication::mouseButtons() != Qt::NoButton;
-    if (dragging || QApplication::activeModalWidget() || QApplication::activePopupWidget())
-        QTimer::singleShot(AskAgainAfter, window_.get(), [this, path] { openGiven(path); });
-    else
-        window_->offerFile(pathFromQt(path));
+    if (!dragging && !QApplication::activeModalWidget() && !QApplication::activePopupWidget())
+        window_->offerFile(pathFromQt(given_.takeFirst()));
+    if (!given_.isEmpty())
+        QTimer::singleShot(AskAgainAfter, window_.get(), [this] { openNextGiven(); });
+}
+
+// The answer to the message may have been to end the program: the files that wait get one of their own.
+void Application::passOnGiven() {
+    instance_.reset();
+    for (const QString& path : std::exchange(given_, {})) {
+        std::vector<std::string> arguments{fromQt(path)};
+        if (!options_.root.isEmpty())
+            arguments.insert(arguments.begin(), {"--root", fromQt(options_.root)});
+        processes_->start(executablePath(folders_), arguments);
+    }
 }
 
 void Application::reportMissingLanguages() {

@@ -34,7 +34,8 @@ class Application {
 
     bool handedOver();
     void takeFile(const QString& path);
-    void openGiven(const QString& path);
+    void openNextGiven();
+    void passOnGiven();
     void reportMissingLanguages();
     void showSplash();
     void loadThenShow();
@@ -65,6 +66,7 @@ class Application {
     std::unique_ptr<frmSplash> splash_;
     std::unique_ptr<frmPrincipal> window_;
     std::unique_ptr<SingleInstance> instance_;   // none in a run that saves a picture
+    QStringList given_;                          // by later starts, and not yet opened
     std::string keptInstallDir_, keptTStoreDir_; // of the settings, in a run with a root of its own
 };
 

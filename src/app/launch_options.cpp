@@ -1,34 +1,48 @@
 #include "app/launch_options.h"
 
+#include "frame/startup.h"
+
+#include <QCommandLineParser>
+
 namespace zandor {
 
 namespace {
 
-struct OptionRow {
-    const char* name;
-    QString LaunchOptions::*place;
-};
-constexpr OptionRow Options[] = {{"--root", &LaunchOptions::root}, {"--picture", &LaunchOptions::picture}};
+constexpr const char *Root = "root", *Picture = "picture", *Help = "help", *Version = "version";
 
-const OptionRow* optionNamed(const QString& name) {
-    for (const OptionRow& row : Options)
-        if (name == QLatin1String(row.name))
-            return &row;
-    return nullptr;
+void describe(QCommandLineParser& parser) {
+    parser.setApplicationDescription("Puts trains together for Microsoft Train Simulator.");
+    parser.addPositionalArgument("FILE.con", "The consist to open; anything else is ignored.", "[FILE.con]");
+    parser.addOptions({{Root, "Use the simulator in this folder, for this run only.", "DIR"},
+                       {Picture, "Save a picture of the main window (PNG) after the start, and end.", "FILE"},
+                       {{"h", Help}, "Print this text and end."},
+                       {{"v", Version}, "Print the version and end."}});
+}
+
+// The parser wants the program's name in front; what it doesn't know it passes over.
+void parse(QCommandLineParser& parser, const QStringList& arguments) {
+    describe(parser);
+    parser.parse(QStringList{"zandor"} + arguments);
 }
 
 } // namespace
 
 LaunchOptions parseLaunchOptions(const QStringList& arguments) {
-    LaunchOptions options;
-    for (qsizetype i = 0; i < arguments.size(); ++i) {
-        const QString& argument = arguments[i];
-        if (const OptionRow* row = optionNamed(argument.section(u'=', 0, 0)))
-            options.*row->place = argument.contains(u'=') ? argument.section(u'=', 1) : arguments.value(++i);
-        else if (!argument.startsWith(u"--") && options.consist.isEmpty())
-            options.consist = argument;
-    }
-    return options;
+    QCommandLineParser parser;
+    parse(parser, arguments);
+    return {parser.positionalArguments().value(0), parser.value(Root), parser.value(Picture)};
+}
+
+bool asksForText(const QStringList& arguments) {
+    QCommandLineParser parser;
+    parse(parser, arguments);
+    return parser.isSet(Help) || parser.isSet(Version);
+}
+
+QString launchAnswer(const QStringList& arguments) {
+    QCommandLineParser parser;
+    parse(parser, arguments);
+    return parser.isSet(Version) ? QString::fromStdString(makeTitle()) + u'\n' : parser.helpText();
 }
 
 } // namespace zandor

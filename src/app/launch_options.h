@@ -15,4 +15,8 @@ struct LaunchOptions {
 // `arguments` without the program's name. Unknown options are ignored.
 LaunchOptions parseLaunchOptions(const QStringList& arguments);
 
+// True: the program isn't to start, but to print the answer to `--help` or `--version`.
+bool asksForText(const QStringList& arguments);
+QString launchAnswer(const QStringList& arguments);
+
 } // namespace zandor
