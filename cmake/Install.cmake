@@ -4,15 +4,15 @@ include(GNUInstallDirs)
 install(TARGETS zandor-cli RUNTIME)
 install(FILES src/frame/Langues.lng DESTINATION ${CMAKE_INSTALL_DATADIR}/zandor)
 install(FILES README.md packaging/copyright DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/zandor)
-install(FILES packaging/man/zandor-cli.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+install(FILES "${generated}/zandor-cli.1" DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
 
 if(ZANDOR_WINDOWS)
   install(TARGETS zandor RUNTIME)
-  install(FILES packaging/man/zandor.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
-  install(FILES packaging/zandor.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
-  install(FILES packaging/zandor.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo
+  install(FILES "${generated}/zandor.1" DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+  install(FILES "${generated}/zandor.desktop" DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
+  install(FILES "${generated}/zandor.metainfo.xml" DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo
     RENAME invalid.zandor.zandor.metainfo.xml)
-  install(FILES packaging/zandor.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/mime/packages)
+  install(FILES "${generated}/zandor.xml" DESTINATION ${CMAKE_INSTALL_DATADIR}/mime/packages)
   # the drawn icons: SIZExSIZE/apps/zandor.png, and scalable/apps/zandor.svg
   install(DIRECTORY "${CMAKE_BINARY_DIR}/assets/hicolor/" DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor OPTIONAL)
 endif()

@@ -1,5 +1,6 @@
 #include "frame/startup.h"
 
+#include "frame/version.h"
 #include "text/decode.h"
 #include "text/lines.h"
 #include "text/text_hash.h"

@@ -9,7 +9,6 @@
 
 namespace zandor {
 
-inline constexpr int VersionMajor = 1, VersionMinor = 0, VersionRevision = 0;
 std::string makeTitle(); // "Zandor 1.00": major, ".", minor and revision without a separator
 
 // The only text that isn't in the language file.

@@ -2,9 +2,12 @@
 // program opens it. Each bears a mark of ours; a file without it is another program's, or the user's own.
 #include "platform/association.h"
 
+#include "platform/desktop_templates.h"
 #include "platform/system.h"
 
+#include <initializer_list>
 #include <string_view>
+#include <utility>
 
 namespace zandor {
 
@@ -60,34 +63,29 @@ std::string markLine(const std::string& executable) {
     return std::string(Mark) + "=" + escapedValue(executable);
 }
 
-// A desktop hides the entry when the program that it names has gone.
-std::string desktopEntry(const std::string& executable, const AssociationNames& names) {
-    return "[Desktop Entry]\nType=Application\nName=Zandor\nComment=" + escapedValue(names.fileType) +
-           "\nExec=" + escapedValue(quotedWord(executable)) + " %f\nTryExec=" + escapedValue(executable) +
-           "\nIcon=zandor\nTerminal=false\nCategories=Game;Simulation;\n"
-           "MimeType=application/x-msts-consist;\n" +
-           markLine(executable) + "\n";
+using Fills = std::initializer_list<std::pair<std::string_view, std::string>>;
+
+// The template with each @NAME@ replaced.
+std::string filled(std::string_view text, Fills fills) {
+    std::string result(text);
+    for (const auto& [name, value] : fills)
+        if (const std::size_t at = result.find(name); at != std::string::npos)
+            result.replace(at, name.size(), value);
+    return result;
 }
 
-// The contents count only for a file without the ending: others end in ".con" too, and the simulator's other
-// files begin alike.
+// A desktop hides the entry when the program that it names has gone.
+std::string desktopEntry(const std::string& executable, const AssociationNames& names) {
+    return filled(DesktopEntryTemplate, {{"@NAMES@", "Comment=" + escapedValue(names.fileType)},
+                                         {"@EXEC@", escapedValue(quotedWord(executable))},
+                                         {"@TRY_EXEC@", escapedValue(executable)},
+                                         {"@MARK@", markLine(executable)}});
+}
+
 std::string typeDescription(const AssociationNames& names) {
-    return R"(<?xml version="1.0" encoding="UTF-8"?>
-<!-- X-Zandor: written by Zandor, which replaces and removes it -->
-<mime-info xmlns="http://www.freedesktop.org/standards/shared-mime-info">
-  <mime-type type="application/x-msts-consist">
-    <comment>)" +
-           escapedXml(names.fileType) + R"(</comment>
-    <icon name="zandor"/>
-    <magic priority="40">
-      <match type="string" offset="0" value="\xFF\xFES\0I\0M\0I\0S\0A\0">
-        <match type="string" offset="62:128" value="T\0r\0a\0i\0n\0 \0(\0"/>
-      </match>
-    </magic>
-    <glob pattern="*.con"/>
-  </mime-type>
-</mime-info>
-)";
+    return filled(FileTypeTemplate,
+                  {{"@MARK@", std::string(Mark) + ": written by Zandor, which replaces and removes it"},
+                   {"@NAMES@", "    <comment>" + escapedXml(names.fileType) + "</comment>"}});
 }
 
 class DesktopAssociation final : public FileAssociation {

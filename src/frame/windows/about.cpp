@@ -1,6 +1,6 @@
 #include "frame/windows/about.h"
 
-#include "frame/startup.h"
+#include "frame/version.h"
 #include "frame/windows/qt_text.h"
 #include "frame/windows/theme.h"
 #include "frame/windows/window_parts.h"
