@@ -66,6 +66,13 @@ test_release() {
     QT_QPA_PLATFORM=offscreen run_tests build/bin/zandor_window_tests
 }
 
+# Every source file stands as clang-format would write it.
+test_style() {
+    install_packages style
+    check "the layout of the source" bash -c \
+        'git ls-files -z "*.cpp" "*.h" | xargs -0 clang-format-14 --dry-run --Werror'
+}
+
 test_clang() {
     install_packages build test clang
     if build_preset clang build/clang; then pass; fi
