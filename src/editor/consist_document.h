@@ -77,6 +77,7 @@ struct ConsistDocument {
     int selected = -1;         // position of the vehicle that the keyboard works on; -1: none
     bool openedFromOptions = false;
     bool faultyFile = false; // a part of the opened file could not be read
+    bool noBackup = false;   // the user wants no copy of a file that a save replaces
     MaterielFinder finder;
 };
 
@@ -142,6 +143,8 @@ bool endIsHidden(const ConsistDocument& document);
 
 // What a redraw brings besides the drawing: numbers, totals, scroll range. Asks for the drawing.
 void updateStrip(Editor& editor);
+// Length and mass of all vehicles, in figures with this decimal mark; without what isn't known.
+std::string totalsText(const Editor& editor, std::string_view mark);
 void ShowTotals(Editor& editor);
 void updateResistance(Editor& editor);
 

@@ -27,7 +27,8 @@ inline void setModified(Editor& editor, bool modified) {
     editor.document.controls.saveEnabled = modified;
 }
 
-// A figure as messages show it: up to 15 significant digits, "." as the point in every locale.
+// A figure of up to 15 significant digits, "." as the point in every locale. Texts of the screen give it the
+// mark of their language.
 inline std::string figureText(double value) {
     char text[64];
     const auto end = std::to_chars(text, text + sizeof text, value, std::chars_format::general, 15).ptr;

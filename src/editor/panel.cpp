@@ -82,7 +82,8 @@ std::string couplingText(const Frame& frame, const Materiel& materiel) {
 }
 
 std::string figureLine(const Frame& frame, Message message, std::string_view value) {
-    return frame.text(message, {{"|1", figureText(numericValue(value))}});
+    const std::string figure = figureText(numericValue(value));
+    return frame.text(message, {{"|1", withDecimalMark(figure, decimalMark(frame.language))}});
 }
 
 } // namespace

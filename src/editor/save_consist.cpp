@@ -12,8 +12,10 @@ namespace {
 constexpr std::string_view BackupFolder = "Sauvegarde des fichiers de rames\\";
 constexpr std::size_t DoubleNameLength = 40; // characters that tbNAME is compared by
 
+// Without blanks at their ends: the simulator's files don't keep them, and the names of files shouldn't.
 struct SaveNames {
     std::string shortName;
+    std::string fullName;
     std::string file; // with .con
 };
 
@@ -48,14 +50,24 @@ std::string targetFolder(const AppState& state) {
                                                          : consistsPath(state.RootPrimary);
 }
 
+// Also one that can't be opened.
+bool isThere(FileSystem& files, const std::string& path) {
+    return FileExists(files, path) || files.stamp(path).has_value();
+}
+
+SaveNames enteredNames(const EditorControls& controls) {
+    const std::string shortName(trim(controls.shortName));
+    return {shortName, std::string(trim(controls.fullName)), shortName + ".con"};
+}
+
 std::optional<SaveNames> namesWithFile(Editor& editor) {
     const ConsistDocument& document = editor.document;
-    const std::string cfgName(StripQuotes(document.rame.CfgName));
+    const std::string cfgName(trim(StripQuotes(document.rame.CfgName)));
+    SaveNames names = enteredNames(document.controls);
     if (showsDoubleName(document))
-        return SaveNames{cfgName, document.rame.FileName};
-    SaveNames names{document.controls.shortName, document.controls.shortName + ".con"};
+        return SaveNames{cfgName, names.fullName, document.rame.FileName};
     if (!equalIgnoringCase(names.shortName, cfgName) &&
-        FileExists(editor.frame.files, targetFolder(editor.frame.state) + names.file)) {
+        isThere(editor.frame.files, targetFolder(editor.frame.state) + names.file)) {
         showNameTaken(editor, names.file);
         return std::nullopt;
     }
@@ -64,10 +76,9 @@ std::optional<SaveNames> namesWithFile(Editor& editor) {
 
 // A file that another program has made since the load isn't listed, and would be lost all the same.
 std::optional<SaveNames> namesOfNew(Editor& editor) {
-    const std::string& shortName = editor.document.controls.shortName;
-    SaveNames names{shortName, shortName + ".con"};
+    SaveNames names = enteredNames(editor.document.controls);
     if (isListed(editor.catalogue, names.file) ||
-        FileExists(editor.frame.files, targetFolder(editor.frame.state) + names.file)) {
+        isThere(editor.frame.files, targetFolder(editor.frame.state) + names.file)) {
         showNameTaken(editor, names.file);
         return std::nullopt;
     }
@@ -162,7 +173,7 @@ Rame rameToWrite(const Editor& editor, const SaveNames& names, bool hasEngine) {
     rame.MaxVelocity = velocityFor(rame, hasEngine, hasFile);
     rame.Durability = formatDurability(document.controls.durability / 1000.0);
     rame.NextWagonUID = document.NextNumber;
-    rame.Name = document.controls.fullName;
+    rame.Name = names.fullName;
     rame.CfgName = quotedName(names.shortName);
     rame.FileName = names.file;
     return rame;
@@ -191,6 +202,7 @@ bool ensureFolder(FileSystem& files, std::string_view path) {
 
 // The copy of the file that is about to be replaced.
 struct Backup {
+    std::string folder;
     std::string path;    // empty: there is none
     bool failed = false; // one was wanted and could not be made
 };
@@ -199,14 +211,26 @@ Backup keepBackup(Editor& editor, const std::string& folder, const std::string& 
     Frame& frame = editor.frame;
     const AppState& state = frame.state;
     const bool wanted =
-        editor.document.faultyFile || readNumericFlag(frame.profiles, "BakFile", state.IniPath);
-    if (!state.HasFile || !wanted || !FileExists(frame.files, folder + file))
+        !editor.document.noBackup &&
+        (editor.document.faultyFile || readNumericFlag(frame.profiles, "BakFile", state.IniPath));
+    if (!state.HasFile || !wanted || !isThere(frame.files, folder + file))
         return {};
     const std::string keptIn = AddBackslash(state.BackupDir) + std::string(BackupFolder);
     const std::string copy = keptIn + file + ".old";
     const bool kept = !state.BackupDir.empty() && ensureFolder(frame.files, keptIn) &&
                       CopyFileOver(frame.files, folder + file, copy);
-    return kept ? Backup{copy, false} : Backup{{}, true};
+    return kept ? Backup{keptIn, copy, false} : Backup{keptIn, {}, true};
+}
+
+// Asks before the only copy of a consist is replaced.
+bool mayReplaceUnkept(Editor& editor, const Backup& backup) {
+    if (!backup.failed)
+        return true;
+    Frame& frame = editor.frame;
+    const std::string folder = frame.files.nativePath(backup.folder);
+    const std::string question = frame.text(
+        Message::AskNoBackup, {{"|1", editor.document.rame.Name}, {"|2", folder}, {"|3", LineBreak}});
+    return frame.show(question, style::YesNo + style::Exclamation + style::SecondButton) == answer::Yes;
 }
 
 bool writeConsist(Editor& editor, const std::string& folder, const Rame& rame, const VehicleList& list) {
@@ -251,14 +275,9 @@ void listSavedFile(Catalogue& catalogue, ConsistSummary saved) {
 void reportSaved(Editor& editor, bool hadFile, const Backup& backup, bool hasMissing) {
     Frame& frame = editor.frame;
     std::string text = frame.text(Message::ConsistSaved);
-    if (!backup.path.empty()) {
-        const std::string native = frame.files.nativePath(backup.path);
-        text += frame.text(Message::BackupKept, {{"|1", LineBreak}, {"|2", native}});
-    } else if (backup.failed) {
-        const std::string native = frame.files.nativePath(frame.state.BackupDir);
+    if (!backup.path.empty())
         text +=
-            std::string(LineBreak) + frame.text(Message::BackupFailed, {{"|1", native}, {"|2", LineBreak}});
-    }
+            frame.text(Message::BackupKept, {{"|1", LineBreak}, {"|2", frame.files.nativePath(backup.path)}});
     if (hadFile && hasMissing)
         text += std::string(LineBreak) + frame.text(Message::StockMissing);
     frame.show(text, style::Information);
@@ -287,12 +306,16 @@ void takeSaved(Editor& editor, const std::string& folder, Rame rame, VehicleList
     UpdateStockUse(editor, state.HasFile, document.rame.Name, document.rame.FileName, folder);
 }
 
-void showSaved(Editor& editor) {
+void showSaved(Editor& editor, const SaveNames& names) {
+    EditorControls& controls = editor.document.controls;
+    controls.fullName = names.fullName;
+    if (trim(controls.shortName) == names.shortName) // otherwise it shows the double name
+        controls.shortName = names.shortName;
     editor.frame.state.HasFile = true;
     setModified(editor, false);
     editor.document.faultyFile = false;
-    editor.document.controls.deleteEnabled = true;
-    editor.document.controls.shortNameEnabled = false;
+    controls.deleteEnabled = true;
+    controls.shortNameEnabled = false;
 }
 
 } // namespace
@@ -309,13 +332,15 @@ void SaveFileRame(Editor& editor) {
     Rame rame = rameToWrite(editor, *names, list.hasEngine);
 
     const Backup backup = keepBackup(editor, folder, names->file);
+    if (!mayReplaceUnkept(editor, backup))
+        return;
     if (!writeConsist(editor, folder, rame, list)) {
         reportFailure(editor, folder + names->file);
         return;
     }
     takeSaved(editor, folder, std::move(rame), std::move(list));
     reportSaved(editor, hadFile, backup, hasMissing);
-    showSaved(editor);
+    showSaved(editor, *names);
     if (editor.document.openedFromOptions || readNumericFlag(frame.profiles, "NewFile", frame.state.IniPath))
         beginNewConsist(editor);
 }

@@ -121,7 +121,7 @@ void updateStrip(Editor& editor) {
     ++document.stripChanges;
 }
 
-void ShowTotals(Editor& editor) {
+std::string totalsText(const Editor& editor, std::string_view mark) {
     double length = 0, mass = 0;
     for (const Vehicule& vehicule : editor.document.Vehicules) {
         if (!vehicule.Size.empty())
@@ -129,18 +129,24 @@ void ShowTotals(Editor& editor) {
         if (!vehicule.Mass.empty())
             mass += numericValue(vehicule.Mass);
     }
-    std::string& label = editor.document.controls.totals;
-    label.clear();
+    const auto figure = [mark](double value) { return withDecimalMark(cutFigure(value), mark); };
+    std::string text;
     if (length > 0)
-        label = editor.frame.text(Message::TotalLength, {{"|1", cutFigure(length)}});
+        text = editor.frame.text(Message::TotalLength, {{"|1", figure(length)}});
     if (mass > 0)
-        label = editor.frame.text(Message::TotalMass, {{"|1", label}, {"|2", cutFigure(mass)}});
+        text = editor.frame.text(Message::TotalMass, {{"|1", text}, {"|2", figure(mass)}});
+    return text;
+}
+
+void ShowTotals(Editor& editor) {
+    editor.document.controls.totals = totalsText(editor, decimalMark(editor.frame.language));
 }
 
 void updateResistance(Editor& editor) {
     EditorControls& controls = editor.document.controls;
     const double value = controls.durability / 1000.0 * 29.4;
-    controls.resistance = editor.frame.text(Message::Resistance, {{"|1", figureText(value)}});
+    const std::string figure = withDecimalMark(figureText(value), decimalMark(editor.frame.language));
+    controls.resistance = editor.frame.text(Message::Resistance, {{"|1", figure}});
 }
 
 } // namespace zandor

@@ -41,4 +41,14 @@ std::vector<LanguageChoice> Language::ListLanguages() const {
     }
 }
 
+std::string decimalMark(const Language& language) {
+    const std::string mark = language.GetLangText(Message::DecimalMark);
+    return mark.empty() ? "." : mark;
+}
+
+std::string withDecimalMark(std::string figure, std::string_view mark) {
+    const std::size_t point = figure.find('.');
+    return point == std::string::npos ? figure : figure.replace(point, 1, mark);
+}
+
 } // namespace zandor

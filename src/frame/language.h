@@ -46,4 +46,9 @@ inline std::string textOr(const Language& language, Message message, const char*
     return text.empty() ? french : text;
 }
 
+// The decimal mark that figures have in the language; "." when it doesn't say.
+std::string decimalMark(const Language& language);
+// A figure whose decimal point has become that mark.
+std::string withDecimalMark(std::string figure, std::string_view mark);
+
 } // namespace zandor

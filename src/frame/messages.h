@@ -34,7 +34,6 @@ enum class Message : int {
     OpenFailed = 31,    // |1 the file, |2 a line break
     ConsistFilter = 32, // "Consists"
     AboutText = 33,     // |1 the title, |2 a line break
-    BackupFailed = 34,  // |1 the backup folder, |2 a line break
 
     // buttons of the message window and of others; 145, 219, 496 and 497 get their "&" from the window
     ButtonOk = 35,
@@ -515,6 +514,10 @@ enum class Message : int {
     CanvasDistance = 764,
     ExportTitle = 780,  // the title of the file dialog and of the workbook
     DeleteFailed = 790, // |1 the file, |2 a line break
+
+    // saving, and figures
+    AskNoBackup = 830, // |1 the consist's name, |2 the backup folder, |3 a line break
+    DecimalMark = 831, // "." or ","
 };
 
 } // namespace zandor

@@ -4,8 +4,10 @@
 #include "text/decode.h"
 #include "text/lines.h"
 
-#include <optional>
+#include <algorithm>
+#include <iterator>
 #include <unordered_set>
+#include <utility>
 
 namespace zandor {
 
@@ -201,7 +203,8 @@ const ProfileFiles::Parsed* ProfileFiles::load(std::string_view file) {
             return;
         }
         const Entry entry = entryOf(line);
-        if (section && !entry.key.empty())
+        const bool cutOff = entry.rawValue.data() == text.data() + text.size();
+        if (section && !entry.key.empty() && !cutOff)
             parsed.values.emplace(lookupKey(*section, entry.key), valueOf(entry.rawValue));
     });
     return &kept_.emplace(std::string(file), std::move(parsed)).first->second;
@@ -209,11 +212,16 @@ const ProfileFiles::Parsed* ProfileFiles::load(std::string_view file) {
 
 std::string ProfileFiles::ReadIniValue(std::string_view section, std::string_view key,
                                        std::string_view file) {
+    return findIniValue(section, key, file).value_or(std::string());
+}
+
+std::optional<std::string> ProfileFiles::findIniValue(std::string_view section, std::string_view key,
+                                                      std::string_view file) {
     const Parsed* parsed = load(file);
     if (!parsed)
-        return {};
+        return std::nullopt;
     const auto found = parsed->values.find(lookupKey(withoutSpace(section), withoutSpace(key)));
-    return found == parsed->values.end() ? std::string() : found->second;
+    return found == parsed->values.end() ? std::nullopt : std::optional(found->second);
 }
 
 bool ProfileFiles::WriteIniValue(std::string_view section, std::string_view key, std::string_view value,
@@ -242,7 +250,10 @@ struct DefaultValue {
     std::string_view key, value;
 };
 
-constexpr DefaultValue FirstDefaults[] = {
+constexpr std::string_view BackupKey = "Backup";
+
+// In the order of a new file.
+constexpr DefaultValue Defaults[] = {
     {"Inst", "1"},
     {"Associate", "0"},
     {"PrintName", "1"},
@@ -266,13 +277,11 @@ constexpr DefaultValue FirstDefaults[] = {
     {"NewFile", "1"},
     {"BakFile", "1"},
     {"CPBakFile", "1"},
-};
-
-constexpr DefaultValue LastDefaults[] = {
+    {BackupKey, ""}, // stands for the folder of that name in the program folder
     {"InstallDir", ""},
     {"TStoreDir", ""},
     {"InitialiseMSTS", "1"},
-    {"Langage", "Français"},
+    {"Langage", DefaultLanguage},
 };
 
 void appendLine(std::string& text, std::initializer_list<std::string_view> parts) {
@@ -290,22 +299,28 @@ void WriteDefaultIni(FileSystem& files, std::string_view path, std::string_view 
                       " un éditeur de rames pour Microsoft Train Simulator"});
     appendLine(text, {});
     appendLine(text, {"[", GeneralSection, "]"});
-    for (const DefaultValue& row : FirstDefaults)
-        appendLine(text, {row.key, "=", row.value});
-    appendLine(text, {"Backup=", files.nativePath(std::string(programFolder) + "\\Backup\\")});
-    for (const DefaultValue& row : LastDefaults)
-        appendLine(text, {row.key, "=", row.value});
+    const std::string backup = files.nativePath(std::string(programFolder) + "\\Backup\\");
+    for (const DefaultValue& row : Defaults)
+        appendLine(text, {row.key, "=", row.key == BackupKey ? std::string_view(backup) : row.value});
     appendLine(text, {});
     const TextEncoding encoding = fitsWindows1252(text) ? TextEncoding::Windows1252 : TextEncoding::Utf8;
     replaceFile(files, path, encodeText(text, encoding));
 }
 
+std::string readSetting(ProfileFiles& profiles, std::string_view key, std::string_view file) {
+    if (auto value = profiles.findIniValue(GeneralSection, key, file))
+        return *std::move(value);
+    const auto row = std::ranges::find_if(
+        Defaults, [key](const DefaultValue& value) { return equalIgnoringCase(value.key, key); });
+    return row == std::end(Defaults) ? std::string() : std::string(row->value);
+}
+
 bool readNumericFlag(ProfileFiles& profiles, std::string_view key, std::string_view file) {
-    return numericValue(profiles.ReadIniValue(GeneralSection, key, file)) == 1;
+    return numericValue(readSetting(profiles, key, file)) == 1;
 }
 
 bool readExactFlag(ProfileFiles& profiles, std::string_view key, std::string_view file) {
-    return profiles.ReadIniValue(GeneralSection, key, file) == "1";
+    return readSetting(profiles, key, file) == "1";
 }
 
 } // namespace zandor

@@ -7,6 +7,7 @@
 #include "text/text.h"
 
 #include <map>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -15,6 +16,7 @@
 namespace zandor {
 
 inline constexpr std::string_view GeneralSection = "General";
+inline constexpr std::string_view DefaultLanguage = "Français";
 
 class ProfileFiles {
   public:
@@ -23,6 +25,9 @@ class ProfileFiles {
     // Section and key ignore case. Trimmed, without a pair of quotes around it, cut at 1023 characters; a
     // missing file, section or key gives an empty text.
     std::string ReadIniValue(std::string_view section, std::string_view key, std::string_view file);
+    // The same; nothing when the key is missing, as is one at which the file was cut off before its value.
+    std::optional<std::string> findIniValue(std::string_view section, std::string_view key,
+                                            std::string_view file);
     // Keeps every other line as it stands; makes file, section and key as needed. The result isn't looked at
     // by the operations: a read-only file keeps its values.
     bool WriteIniValue(std::string_view section, std::string_view key, std::string_view value,
@@ -46,6 +51,9 @@ class ProfileFiles {
 void WriteDefaultIni(FileSystem& files, std::string_view path, std::string_view title,
                      std::string_view programFolder);
 
+// A setting of [General]: what the file says, or the default of a key that it lacks. A file that is missing,
+// empty or cut off means the same as a new one.
+std::string readSetting(ProfileFiles& profiles, std::string_view key, std::string_view file);
 // The two ways in which a boolean is read; each reader keeps its own.
 bool readNumericFlag(ProfileFiles& profiles, std::string_view key,
                      std::string_view file); // value is exactly 1

@@ -15,11 +15,10 @@ namespace {
 constexpr std::string_view SimulatorKey = "SOFTWARE\\Microsoft\\Microsoft Games\\Train Simulator\\1.0";
 constexpr std::string_view WindowsKey = "SOFTWARE\\Microsoft\\Windows\\CurrentVersion";
 constexpr std::string_view LanguageFile = "Langues.lng";
-constexpr std::string_view DefaultLanguage = "Français";
 constexpr std::string_view SimulatorName = "Microsoft Train Simulator";
 
 std::string setting(const Frame& frame, std::string_view key) {
-    return frame.profiles.ReadIniValue(GeneralSection, key, frame.state.IniPath);
+    return readSetting(frame.profiles, key, frame.state.IniPath);
 }
 
 void writeSetting(Frame& frame, std::string_view key, std::string_view value) {
@@ -47,7 +46,8 @@ std::string markOf(std::string_view bytes) {
 }
 
 // The program folder gets a copy of the shipped language file, which its user may change; as long as he
-// hasn't, it follows the file of each new release. What was copied last is noted beside it.
+// hasn't, it follows the file of each new release. What was shipped when both were last the same is noted
+// beside it.
 void provideLanguageFile(Frame& frame, const ProgramFolders& folders) {
     constexpr std::string_view section = "Shipped";
     const std::string own = inProgramFolder(frame, LanguageFile),
@@ -58,10 +58,12 @@ void provideLanguageFile(Frame& frame, const ProgramFolders& folders) {
     if (folders.program == folders.executable || !frame.files.readFile(shipped, newBytes))
         return;
     const std::string noted = frame.profiles.ReadIniValue(section, LanguageFile, notes);
-    const bool isThere = frame.files.readFile(own, ownBytes);
-    if (isThere && (ownBytes == newBytes || markOf(ownBytes) != noted))
+    const bool isRead = frame.files.readFile(own, ownBytes);
+    const bool isSame = isRead && ownBytes == newBytes;
+    const bool isHisOwn = isRead ? markOf(ownBytes) != noted : frame.files.stamp(own).has_value();
+    if (isHisOwn && !isSame)
         return;
-    if (replaceFile(frame.files, own, newBytes))
+    if (isSame || replaceFile(frame.files, own, newBytes))
         frame.profiles.WriteIniValue(section, LanguageFile, markOf(newBytes), notes);
 }
 

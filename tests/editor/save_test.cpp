@@ -178,16 +178,45 @@ TEST_F(SaveTest, TheOldFileIsKeptAndTheCopyReplacedByTheNextOne) {
     EXPECT_EQ(files.get(copy), second);
 }
 
-TEST_F(SaveTest, ACopyThatCannotBeMadeIsTold) {
+TEST_F(SaveTest, TheOnlyCopyIsReplacedWhenTheUserSaysSo) {
     composeExample();
     SaveFileRame(editor);
+    const std::string first = *files.get(consistPath("Test.con"));
     files.put("\\program\\Backup\\Sauvegarde des fichiers de rames", "a file in the folder's place");
-    dialogs.shown.clear();
     appendStock(editor, wagon);
+    const std::string question = "308 Test unkept in " + files.nativePath(BackupOf);
+    for (const bool saved : {false, true}) {
+        dialogs.shown.clear();
+        dialogs.answers = {saved ? answer::Yes : answer::No};
+        SaveFileRame(editor);
+        EXPECT_EQ(shown(), saved ? (Shown{question, "64 saved"}) : Shown{question});
+        EXPECT_EQ(files.get(consistPath("Test.con")) == first, !saved);
+        EXPECT_EQ(state.Modified, !saved);
+        EXPECT_EQ(controls.saveEnabled, !saved);
+    }
+    document.noBackup = true;
+    dialogs.shown.clear();
     SaveFileRame(editor);
-    ASSERT_EQ(shown().size(), 1u);
-    EXPECT_NE(shown()[0].find("no copy"), std::string::npos) << shown()[0];
-    EXPECT_TRUE(savedHas("Test.con", "NextWagonUID ( 3 )"));
+    EXPECT_EQ(shown(), Shown{"64 saved"});
+}
+
+TEST_F(SaveTest, BlanksAtTheEndsOfNamesAreNotKept) {
+    composeExample();
+    changeFullName(editor, "  In full ");
+    changeShortName(editor, " Short  ");
+    files.put(consistPath("Short.con"), "of another program");
+    SaveFileRame(editor);
+    EXPECT_EQ(shown(), Shown{"48 Short.con taken"});
+    files.deleteFile(consistPath("Short.con"));
+    for (int i = 0; i < 2; ++i) {
+        SaveFileRame(editor);
+        EXPECT_TRUE(savedHas("Short.con", "TrainCfg ( Short"));
+        EXPECT_TRUE(savedHas("Short.con", "Name ( \"In full\" )"));
+        EXPECT_EQ(controls.shortName + '|' + controls.fullName, "Short|In full");
+        ASSERT_TRUE(openConsist(editor, consistPath("Short.con")));
+        EXPECT_FALSE(controls.shortNameRed);
+        changeFullName(editor, "In full ");
+    }
 }
 
 TEST_F(SaveTest, AnotherNameMakesAnotherFile) {
@@ -252,11 +281,12 @@ TEST_F(SaveTest, AFailureAnywhereLosesNothing) {
             dialogs.shown.clear();
             files.writeShort(40);
             files.failAt(call, c.allAfter);
+            dialogs.defaultAnswer = answer::No;
             SaveFileRame(editor);
             const bool failed = files.failed();
             files.failAt(0);
 
-            ASSERT_EQ(shown().size(), 1u);
+            ASSERT_EQ(shown().size(), 1u) << "a failure is told or asked about, once";
             const bool saved = shown()[0].starts_with("64");
             const auto now = files.get(consistPath("Test.con"));
             const bool isOld = now == old;

@@ -240,6 +240,23 @@ TEST_F(StripTest, TotalsAreCutNotRounded) {
     }
 }
 
+TEST_F(StripTest, FiguresHaveTheMarkOfTheLanguage) {
+    files.put(state.LanguagePath, *files.get(state.LanguagePath) + "831=,\r\n");
+    Materiel& materiel = catalogue.Materiels[static_cast<std::size_t>(stockOf('A'))];
+    materiel.Size = "3m 4m 18.98765m";
+    materiel.Mass = "80.5t";
+    compose("A");
+    changeDurability(editor, 500);
+    EXPECT_EQ(controls.totals, "long 18,987 heavy 80,5");
+    EXPECT_EQ(totalsText(editor, "."), "long 18.987 heavy 80.5");
+    EXPECT_EQ(controls.resistance, "R 14,7");
+    const MaterielInfo info = ShowMaterielInfo(frame, materiel);
+    EXPECT_EQ(info.length + info.mass, "18,98765 m80,5 t");
+    nameConsist("comma");
+    SaveFileRame(editor);
+    EXPECT_TRUE(savedHas("comma.con", "Durability ( 0.50000 )"));
+}
+
 TEST_F(StripTest, AFullStripTakesNoMore) {
     document.Vehicules.assign(MaxEntries, Vehicule());
     for (Vehicule& vehicule : document.Vehicules)

@@ -204,6 +204,30 @@ TEST_F(Settings, ADefaultFileHoldsEveryKeyInItsPlace) {
     EXPECT_EQ(files.get(Path), encodeWindows1252(expected));
 }
 
+// Cut off anywhere, a new file still means what it meant.
+TEST_F(Settings, AKeyThatIsMissingHasItsDefault) {
+    WriteDefaultIni(files, Path, "Zandor 1.00", "\\program");
+    const std::string whole = files.get(Path).value_or("");
+    for (std::size_t size = 0; size <= whole.size(); ++size) {
+        files.put(Path, whole.substr(0, size));
+        for (const char* key :
+             {"Inst", "PrintName", "PrintGreen", "Optimize", "NewFile", "BakFile", "InitialiseMSTS"})
+            EXPECT_TRUE(readNumericFlag(profiles, key, Path) && readExactFlag(profiles, key, Path))
+                << key << size;
+        for (const char* key :
+             {"Associate", "PrintNumber", "NoAlertCoupling", "PassIsBadCoupling", "sfCanvas"})
+            EXPECT_FALSE(readNumericFlag(profiles, key, Path) || readExactFlag(profiles, key, Path))
+                << key << size;
+    }
+    files.deleteFile(Path);
+    EXPECT_EQ(readSetting(profiles, "color7", Path), "16777151");
+    EXPECT_EQ(readSetting(profiles, "Langage", Path), "Français");
+    EXPECT_EQ(readSetting(profiles, "InstallDir", Path), "");
+    files.put(Path, "[General]\r\nBakFile=\r\nColor7=\r\n");
+    EXPECT_FALSE(readNumericFlag(profiles, "BakFile", Path)) << "empty is what the file says";
+    EXPECT_EQ(readSetting(profiles, "Color7", Path), "");
+}
+
 TEST_F(Settings, ADefaultFileKeepsAProgramFolderOfAnyName) {
     WriteDefaultIni(files, Path, "Zandor 1.00", "\\łódź");
     EXPECT_EQ(read("Backup"), files.nativePath("\\łódź\\Backup\\"));

@@ -107,13 +107,18 @@ TEST_F(StartUp, TheLanguageFileFollowsTheShippedOneUntilItsUserChangesIt) {
     prepareStart(frame, installed);
     EXPECT_EQ(files.get(own), "mine");
     EXPECT_EQ(state.LanguagePath, own);
+    files.put(own, "third"); // the same again, perhaps by hand: from now on it follows
+    prepareStart(frame, installed);
+    files.put(shipped, "fourth");
+    prepareStart(frame, installed);
+    EXPECT_EQ(files.get(own), "fourth");
     files.deleteFile(own);
     files.failAt(1, true);
     EXPECT_FALSE(prepareStart(frame, installed)) << "nothing can be read";
     files.failAt(0);
     files.deleteFile("\\home\\Shipped.ini");
     prepareStart(frame, installed);
-    EXPECT_EQ(files.get(own), "third");
+    EXPECT_EQ(files.get(own), "fourth");
 }
 
 TEST_F(StartUp, WhatAnotherUserHasPutInTheSetUpFoldersPlaceStays) {

@@ -10,9 +10,9 @@
 
 namespace zandor {
 
-// A decimal number with blue in the high byte. Invalid when the text is empty.
+// A decimal number with blue in the high byte. Invalid when the setting is empty.
 inline QColor readColour(const Frame& frame, std::string_view key) {
-    const std::string text = frame.profiles.ReadIniValue(GeneralSection, key, frame.state.IniPath);
+    const std::string text = readSetting(frame.profiles, key, frame.state.IniPath);
     if (text.empty())
         return {};
     const int value = static_cast<int>(std::clamp(numericValue(text), 0.0, 16777215.0));
