@@ -1,5 +1,8 @@
 #include "app/quiet_dialogs.h"
 
+#include "text/control_characters.h"
+#include "text/lines.h"
+
 #include <iostream>
 
 namespace zandor {
@@ -8,7 +11,8 @@ int QuietDialogs::ShowMessage(const std::string& text, int messageStyle, const s
                               const std::string&, int) {
     constexpr int Harmless[] = {answer::Ok,     answer::Cancel, answer::Abort,
                                 answer::Cancel, answer::No,     answer::Cancel};
-    std::cerr << title << ": " << text << '\n';
+    std::cerr << title << ": ";
+    forEachLine(text, [](std::string_view line) { std::cerr << escapeControls(line) << '\n'; });
     const int buttons = messageStyle & 15;
     return buttons < static_cast<int>(std::size(Harmless)) ? Harmless[buttons] : answer::Cancel;
 }

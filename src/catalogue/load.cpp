@@ -93,6 +93,7 @@ bool readAllStock(Frame& frame, Catalogue& catalogue, LoadOptions options) {
         if (!frame.progress.yield())
             return false;
         texts.moveTo(materiel);
+        frame.progress.atFile(texts.path);
         // What is wrong with a file is the verifier's business; its entry keeps what could be read.
         if (frame.state.Optimize)
             ReadStockFile(reader, texts.path, materiel, options.repair);

@@ -83,7 +83,9 @@ class CatalogueCommand final : public Command {
         AppState& state = session.state;
         state.PrintGreen = state.PrintGreen || list_;
         Catalogue catalogue;
+        session.atWork = state.RootPrimary;
         LoadCatalogue(session.frame, catalogue, ReadOnlyLoad);
+        session.atWork = state.RootPrimary;
         print(session, catalogue);
         return session.dialogs.alerts > 0 ? exitcode::Faults : exitcode::Done;
     }
@@ -92,7 +94,7 @@ class CatalogueCommand final : public Command {
     void print(Session& session, const Catalogue& catalogue) const {
         const StockCounts counts = countStock(catalogue);
         const int consists = countOccupied(catalogue.ConsistFiles);
-        JsonObject object(session.out);
+        JsonObject object(session.result);
         object.member("root", session.shown(session.state.RootPrimary));
         object.member("classes", classesOf(counts));
         object.member("engines", counts.engines);

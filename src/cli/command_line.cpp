@@ -3,11 +3,14 @@
 #include "cli/session.h"
 #include "frame/startup.h"
 #include "platform/real_file_system.h"
+#include "text/control_characters.h"
 
 #include <CLI/CLI.hpp>
 
 #include <algorithm>
 #include <exception>
+#include <new>
+#include <sstream>
 
 namespace zandor {
 
@@ -61,12 +64,14 @@ class CommandLine {
     }
 
     // The command to run, or nothing and the exit code: help was printed or the arguments are wrong.
-    Command* parse(std::vector<std::string> args, std::ostream& out, std::ostream& err, int& exitCode) {
+    Command* parse(std::vector<std::string> args, ResultText& result, std::ostream& err, int& exitCode) {
         std::reverse(args.begin(), args.end()); // the parser takes them from the back
         try {
             app_.parse(std::move(args));
         } catch (const CLI::Success& help) {
-            exitCode = app_.exit(help, out, err);
+            std::ostringstream text;
+            exitCode = app_.exit(help, text, err);
+            result << text.view();
             return nullptr;
         } catch (const CLI::ParseError& error) {
             err << "zandor-cli: " << oneLine(parseFault(app_, error)) << " (see --help)\n";
@@ -91,30 +96,41 @@ class CommandLine {
     CommonOptions options_;
 };
 
-int runParsed(const std::vector<std::string>& args, const Surroundings& surroundings, std::ostream& out,
+int runCommand(Command& command, Session& session) {
+    try {
+        if (!session.prepare(command.usesRoots()))
+            return exitcode::CannotRun;
+        return command.run(session);
+    } catch (const std::bad_alloc&) {
+        session.result.clear();
+        return session.cannotRun("There is not enough memory for " + session.shown(session.atWork));
+    }
+}
+
+int runParsed(const std::vector<std::string>& args, const Surroundings& surroundings, ResultText& result,
               std::ostream& err) {
     CommandLine line;
     int exitCode = exitcode::CannotRun;
-    Command* command = line.parse(args, out, err, exitCode);
+    Command* command = line.parse(args, result, err, exitCode);
     if (!command)
         return exitCode;
-    Session session(surroundings, line.options(), out, err);
-    if (!session.prepare(command->usesRoots()))
-        return exitcode::CannotRun;
-    return command->run(session);
+    Session session(surroundings, line.options(), result, err);
+    return runCommand(*command, session);
 }
 
 } // namespace
 
 int runCommandLine(const std::vector<std::string>& args, const Surroundings& surroundings, std::ostream& out,
                    std::ostream& err) {
+    ResultText result;
     int exitCode = exitcode::CannotRun;
     try {
-        exitCode = runParsed(args, surroundings, out, err);
-    } catch (const std::exception& error) { // no memory is left, for one
+        exitCode = runParsed(args, surroundings, result, err);
+    } catch (const std::exception& error) {
         err << "zandor-cli: " << oneLine(error.what()) << '\n';
+        return exitcode::CannotRun;
     }
-    if (out.flush())
+    if (result.writeTo(out))
         return exitCode;
     err << "zandor-cli: The output could not be written\n";
     return exitcode::CannotRun;

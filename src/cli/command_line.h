@@ -19,8 +19,8 @@ struct Surroundings {
     ProgramFolders folders;
 };
 
-// `args` without the program's name, in UTF-8. Results go to `out`, what is wrong to `err`, a line each.
-// Returns the exit code: 0 done, 1 faults found, 2 could not run.
+// `args` without the program's name, in UTF-8. The result goes to `out` when all of it stands, nothing
+// before; messages go to `err`, a line each. Returns the exit code: 0 done, 1 faults found, 2 could not run.
 int runCommandLine(const std::vector<std::string>& args, const Surroundings& surroundings, std::ostream& out,
                    std::ostream& err);
 // The same on this system.

@@ -1,5 +1,6 @@
 #include "cli/session.h"
 #include "editor/consist_io.h"
+#include "text/control_characters.h"
 
 #include <CLI/CLI.hpp>
 
@@ -42,11 +43,15 @@ int findStock(MaterielFinder& finder, const Catalogue& catalogue, const WantedVe
 }
 
 bool hasControlCharacter(std::string_view text) {
-    return std::any_of(text.begin(), text.end(), [](unsigned char c) { return c < 0x20; });
+    return escapeControls(text) != text;
 }
 
-std::string withoutExtension(const std::string& name) {
-    return endsWithIgnoringCase(name, ".con") ? name.substr(0, name.size() - 4) : name;
+// As the consist is going to bear it: blanks at its ends aren't kept.
+std::string shortNameOf(std::string_view name) {
+    name = trim(name);
+    if (endsWithIgnoringCase(name, ".con"))
+        name.remove_suffix(4);
+    return std::string(trim(name));
 }
 
 class ComposeCommand final : public Command {
@@ -62,18 +67,20 @@ class ComposeCommand final : public Command {
             ->required();
         full_ = app.add_option("--full", fullName_, "the full name; by default that of the file, or NAME")
                     ->type_name("TEXT");
-        app.add_flag("--overwrite", overwrite_,
-                     "put the vehicles in the place of those of an existing consist");
+        app.add_flag(
+            "--overwrite", overwrite_,
+            "put the vehicles in the place of those of an existing consist, of which a copy is kept");
+        app.add_flag("--no-backup", noBackup_, "with --overwrite, keep no copy of the old consist");
     }
 
     int run(Session& session) override {
-        const std::string shortName = withoutExtension(name_);
-        if (filterShortName(shortName) != shortName)
+        const std::string shortName = shortNameOf(name_);
+        if (filterShortName(shortName) != shortName || hasControlCharacter(shortName))
             return session.cannotRun("A file's name can't hold one of the characters of " + name_);
         if (withinFileName(shortName) != shortName)
             return session.cannotRun("The short name is too long for a file: " + name_);
         if (hasControlCharacter(fullName_))
-            return session.cannotRun("The full name must be a single line");
+            return session.cannotRun("The full name must be a single line without control characters");
         session.state.PrintGreen = false; // who uses what isn't asked for
         Catalogue catalogue;
         LoadCatalogue(session.frame, catalogue, ReadOnlyLoad);
@@ -104,10 +111,12 @@ class ComposeCommand final : public Command {
         const EditorControls& controls = editor.document.controls;
         const bool refused =
             trim(controls.shortName).empty() || trim(controls.fullName).empty() || (exists && !overwrite_);
+        editor.document.noBackup = noBackup_;
+        session.atWork = path;
         SaveFileRame(editor);
         if (session.state.Modified)
             return refused ? exitcode::Faults : exitcode::CannotRun;
-        session.out << session.shown(path) << '\n';
+        session.result << escapeControls(session.shown(path)) << "\n";
         return exitcode::Done;
     }
 
@@ -143,6 +152,7 @@ class ComposeCommand final : public Command {
     std::string fullName_;
     std::vector<std::string> given_;
     bool overwrite_ = false;
+    bool noBackup_ = false;
     CLI::Option* full_ = nullptr;
 };
 

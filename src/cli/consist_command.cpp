@@ -18,7 +18,7 @@ class ConsistCommand final : public Command {
 
     int run(Session& session) override {
         SimReader reader(session.frame.files, session.frame.language);
-        const std::string path = ExpandLongPath(file_);
+        const std::string path = session.atWork = ExpandLongPath(file_);
         if (const int refusal = readWholeFile(session, reader, path); refusal != exitcode::Done)
             return refusal;
         if (kindOfFile(path) != FileKind::Consist)
@@ -26,13 +26,13 @@ class ConsistCommand final : public Command {
         Rame rame;
         std::vector<RameItem> items;
         const std::optional<SimError> error = ReadConsistFile(reader, rame, items, path);
-        print(session.out, rame, items);
+        print(session.result, rame, items);
         return error ? session.fault(errorText(*error)) : exitcode::Done;
     }
 
   private:
-    static void print(std::ostream& out, const Rame& rame, const std::vector<RameItem>& items) {
-        JsonObject object(out);
+    static void print(ResultText& result, const Rame& rame, const std::vector<RameItem>& items) {
+        JsonObject object(result);
         object.member("rame", recordOf(rame));
         JsonList list = object.list("items");
         for (const RameItem& item : items)

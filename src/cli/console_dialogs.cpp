@@ -1,5 +1,7 @@
 #include "cli/console_dialogs.h"
 
+#include "text/control_characters.h"
+
 namespace zandor {
 
 namespace {
@@ -21,35 +23,13 @@ int harmlessAnswer(int buttons) {
     }
 }
 
-// Each stretch of CR and LF becomes one `separator`.
-std::string withLineBreaks(std::string_view text, char separator) {
-    std::string result;
-    bool broken = false;
-    for (char c : text) {
-        const bool isBreak = c == '\r' || c == '\n';
-        if (!isBreak)
-            result += c;
-        else if (!broken)
-            result += separator;
-        broken = isBreak;
-    }
-    return result;
-}
-
 } // namespace
-
-std::string oneLine(std::string_view text) {
-    return withLineBreaks(text, ' ');
-}
 
 int ConsoleDialogs::ShowMessage(const std::string& text, int messageStyle, const std::string&,
                                 const std::string&, int) {
-    if ((messageStyle & IconBits) == style::Information) {
-        out_ << withLineBreaks(text, '\n') << '\n';
-    } else {
+    if ((messageStyle & IconBits) != style::Information)
         ++alerts;
-        err_ << oneLine(subject.empty() ? text : subject + ": " + text) << '\n';
-    }
+    err_ << oneLine(subject.empty() ? text : subject + ": " + text) << '\n';
     return harmlessAnswer(messageStyle & ButtonBits);
 }
 

@@ -2,8 +2,36 @@
 
 namespace zandor {
 
+namespace {
+
+// The length of a DEL or C1 control, which may stand in JSON as it is; 0 when there is none at `at`.
+std::size_t highControlAt(std::string_view text, std::size_t at) {
+    if (text[at] == '\x7F')
+        return 1;
+    const bool isC1 = at + 1 < text.size() && static_cast<unsigned char>(text[at + 1]) < 0xA0;
+    return text[at] == '\xC2' && isC1 ? 2 : 0;
+}
+
+std::string withoutHighControls(std::string text) {
+    constexpr char Digits[] = "0123456789abcdef", Leads[] = "\x7F\xC2";
+    std::size_t at = text.find_first_of(Leads), taken = 0;
+    std::string escaped;
+    for (; at != std::string::npos; at = text.find_first_of(Leads, at + 1)) {
+        const std::size_t length = highControlAt(text, at);
+        if (length == 0)
+            continue;
+        const auto code = static_cast<unsigned char>(text[at + length - 1]);
+        escaped.append(text, taken, at - taken).append("\\u00");
+        escaped.append(1, Digits[code >> 4]).append(1, Digits[code & 15]);
+        taken = at + length;
+    }
+    return taken == 0 ? text : escaped.append(text, taken);
+}
+
+} // namespace
+
 std::string jsonText(const Json& value) {
-    return value.dump(-1, ' ', false, Json::error_handler_t::replace);
+    return withoutHighControls(value.dump(-1, ' ', false, Json::error_handler_t::replace));
 }
 
 void JsonList::add(const Json& element) {

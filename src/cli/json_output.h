@@ -1,10 +1,11 @@
-// JSON a record at a time, so that a list of any length needs no memory of its own. Always valid UTF-8: what
-// isn't a character, such as half of a surrogate pair, is written as U+FFFD.
+// JSON a record at a time, so that a list of any length needs no more memory than its text. Always valid
+// UTF-8: what isn't a character, such as half of a surrogate pair, is written as U+FFFD.
 #pragma once
+
+#include "cli/result_text.h"
 
 #include <nlohmann/json.hpp>
 
-#include <ostream>
 #include <string>
 #include <string_view>
 
@@ -12,17 +13,18 @@ namespace zandor {
 
 using Json = nlohmann::ordered_json;
 
+// All control characters are escaped, those that a terminal obeys behind the ASCII ones too.
 std::string jsonText(const Json& value);
 
 // A list, one element a line. close() ends it.
 class JsonList {
   public:
-    explicit JsonList(std::ostream& out) : out_(out) { out_ << '['; }
+    explicit JsonList(ResultText& out) : out_(out) { out_ << "["; }
     void add(const Json& element);
     void close() { out_ << (empty_ ? "]" : "\n]"); }
 
   private:
-    std::ostream& out_;
+    ResultText& out_;
     bool empty_ = true;
 };
 
@@ -30,7 +32,7 @@ class JsonList {
 // line.
 class JsonObject {
   public:
-    explicit JsonObject(std::ostream& out) : out_(out) { out_ << '{'; }
+    explicit JsonObject(ResultText& out) : out_(out) { out_ << "{"; }
     void member(std::string_view name, const Json& value);
     JsonList list(std::string_view name);
     void close() { out_ << "\n}\n"; }
@@ -38,7 +40,7 @@ class JsonObject {
   private:
     void begin(std::string_view name);
 
-    std::ostream& out_;
+    ResultText& out_;
     bool empty_ = true;
 };
 

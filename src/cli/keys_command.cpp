@@ -31,11 +31,14 @@ class KeysCommand final : public Command {
             ->type_name("N")
             ->check(CLI::Range(0, 32767))
             ->excludes(stock_);
+        app.add_flag(
+            "--whole-tails", wholeTails_,
+            "print each \"tail\", the source text of a value, in full, not its first 1,000 characters");
     }
 
     int run(Session& session) override {
         SimReader reader(session.frame.files, session.frame.language);
-        const std::string path = ExpandLongPath(file_);
+        const std::string path = session.atWork = ExpandLongPath(file_);
         if (const int refusal = readWholeFile(session, reader, path); refusal != exitcode::Done)
             return refusal;
         if (section_->count() + key_->count() + stock_->count() > 0)
@@ -46,24 +49,32 @@ class KeysCommand final : public Command {
     }
 
   private:
-    static void printKeys(Session& session, const SimReader& reader) {
-        JsonList list(session.out);
+    // A block's tail holds those of all its keys: whole ones can make a thousand times the file.
+    template <class Record> Json shortened(Record record) const {
+        constexpr std::size_t TailLimit = 1000; // characters
+        if (!wholeTails_)
+            record.Tail = firstCharacters(record.Tail, TailLimit);
+        return recordOf(record);
+    }
+
+    void printKeys(Session& session, const SimReader& reader) const {
+        JsonList list(session.result);
         for (const SimKey& key : reader.SimKeys)
             if (!isPlaceholder(key))
-                list.add(recordOf(key));
+                list.add(shortened(key));
         list.close();
-        session.out << '\n';
+        session.result << "\n";
     }
 
     void printHits(Session& session, SimReader& reader, const std::string& path) const {
         const bool result = reader.ReadSimFile(path, sought_.section, sought_.key,
                                                stockMode_ ? 0 : sought_.count, true, stockMode_);
-        JsonObject object(session.out);
+        JsonObject object(session.result);
         object.member("result", result);
         JsonList list = object.list("hits");
         for (const SimHit& hit : reader.SimHits)
             if (hit.Found)
-                list.add(recordOf(hit));
+                list.add(shortened(hit));
         list.close();
         object.close();
     }
@@ -74,6 +85,7 @@ class KeysCommand final : public Command {
         int count = 1;
     } sought_;
     bool stockMode_ = false;
+    bool wholeTails_ = false;
     CLI::Option* stock_ = nullptr;
     CLI::Option* section_ = nullptr;
     CLI::Option* key_ = nullptr;

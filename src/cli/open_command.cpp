@@ -51,6 +51,7 @@ class OpenCommand final : public Command {
         const std::optional<std::string> path = findConsist(session, file_);
         if (!path)
             return session.cannotRun("There is no consist " + file_);
+        session.atWork = *path;
         // The catalogue stays empty: opening reads the stock that the consist names, and no other is asked
         // for.
         Catalogue catalogue;
@@ -69,7 +70,7 @@ class OpenCommand final : public Command {
     // True when stock is missing.
     static bool print(Session& session, const Editor& editor, const std::string& path) {
         const ConsistDocument& document = editor.document;
-        JsonObject object(session.out);
+        JsonObject object(session.result);
         object.member("name", std::string(StripQuotes(document.rame.CfgName)));
         object.member("fullName", document.rame.Name);
         object.member("file", session.shown(path));
@@ -85,7 +86,7 @@ class OpenCommand final : public Command {
         object.member("totals", {{"vehicles", position},
                                  {"missing", missing},
                                  {"width", document.StripWidth},
-                                 {"text", document.controls.totals}});
+                                 {"text", totalsText(editor, ".")}});
         object.close();
         return missing > 0;
     }

@@ -1,6 +1,7 @@
 #include "cli/session.h"
 
 #include "frame/startup.h"
+#include "text/control_characters.h"
 
 namespace zandor {
 
@@ -12,25 +13,20 @@ std::string settingsPath(const ProgramFolders& folders, const CommonOptions& opt
 
 } // namespace
 
-Session::Session(const Surroundings& surroundings, const CommonOptions& options, std::ostream& output,
+Session::Session(const Surroundings& surroundings, const CommonOptions& options, ResultText& results,
                  std::ostream& errors)
-    : out(output), err(errors), options_(options), folders_(surroundings.folders),
-      diskProfiles_(surroundings.files), defaultProfiles_(defaults_),
-      dialogs(output, errors), frame{state,
-                                     surroundings.files,
-                                     FileExists(surroundings.files, settingsPath(folders_, options))
-                                         ? diskProfiles_
-                                         : defaultProfiles_,
-                                     surroundings.registry,
-                                     surroundings.processes,
-                                     dialogs,
-                                     progress_,
-                                     Language(diskProfiles_, state)} {
+    : result(results), err(errors), options_(options), folders_(surroundings.folders),
+      profiles_(surroundings.files), progress_(atWork), dialogs(errors), frame{state,
+                                                                               surroundings.files,
+                                                                               profiles_,
+                                                                               surroundings.registry,
+                                                                               surroundings.processes,
+                                                                               dialogs,
+                                                                               progress_,
+                                                                               Language(profiles_, state)} {
     state.Title = makeTitle();
     state.ProgramFolder = folders_.program;
-    state.IniPath = settingsPath(folders_, options);
-    defaults_.put(state.IniPath, {});
-    WriteDefaultIni(defaults_, state.IniPath, state.Title, folders_.program);
+    atWork = state.IniPath = settingsPath(folders_, options);
 }
 
 bool Session::prepare(bool withRoots) {
@@ -62,8 +58,7 @@ bool Session::prepareLanguage() {
     readLanguage(frame);
     if (options_.language.empty()) {
         if (const auto instead = languageInstead(frame)) {
-            err << "zandor-cli: the language " << state.Language << " isn't in Langues.lng: " << *instead
-                << " serves\n";
+            cannotRun("the language " + state.Language + " isn't in Langues.lng: " + *instead + " serves");
             state.Language = *instead;
         }
         return true;

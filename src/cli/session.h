@@ -5,8 +5,8 @@
 #include "cli/command.h"
 #include "cli/command_line.h"
 #include "cli/console_dialogs.h"
+#include "cli/result_text.h"
 #include "frame/frame.h"
-#include "platform/memory_file_system.h"
 #include "simfiles/sim_file.h"
 
 #include <ostream>
@@ -26,7 +26,7 @@ struct CommonOptions {
 
 class Session {
   public:
-    Session(const Surroundings& surroundings, const CommonOptions& options, std::ostream& out,
+    Session(const Surroundings& surroundings, const CommonOptions& options, ResultText& result,
             std::ostream& err);
     Session(const Session&) = delete;
     Session& operator=(const Session&) = delete;
@@ -35,16 +35,17 @@ class Session {
     // the command can't run.
     bool prepare(bool withRoots);
 
-    // Tell in one line what is wrong, and return the exit code that goes with it.
+    // Tell in one line what is wrong, and return the exit code that goes with it. Controls are escaped.
     int cannotRun(std::string_view text);
     int fault(std::string_view text);
 
     // The path as messages and results show it.
     std::string shown(std::string_view path) { return frame.files.nativePath(path); }
 
-    std::ostream& out;
+    ResultText& result;
     std::ostream& err;
     AppState state;
+    std::string atWork; // path of the file or folder that is read or written, for when memory runs out
 
   private:
     bool prepareLanguage();
@@ -55,13 +56,17 @@ class Session {
 
     const CommonOptions& options_;
     const ProgramFolders& folders_;
-    ProfileFiles diskProfiles_;
-    MemoryFileSystem defaults_; // holds a new settings file for a user who has none yet
-    ProfileFiles defaultProfiles_;
+    ProfileFiles profiles_;
 
     class SilentProgress final : public Progress {
+      public:
+        explicit SilentProgress(std::string& atWork) : atWork_(atWork) {}
         void ShowProgress(int, int, int, std::string_view) override {}
+        void atFile(std::string_view path) override { atWork_ = path; }
         bool yield() override { return true; }
+
+      private:
+        std::string& atWork_;
     } progress_;
 
   public:

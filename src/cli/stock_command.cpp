@@ -38,9 +38,9 @@ class StockCommand final : public Command {
     int run(Session& session) override {
         int exitCode = exitcode::Done;
         SimReader reader(session.frame.files, session.frame.language);
-        JsonList list(session.out);
+        JsonList list(session.result);
         for (const std::string& file : files_) {
-            const std::string path = ExpandLongPath(file);
+            const std::string path = session.atWork = ExpandLongPath(file);
             if (!FileExists(session.frame.files, path)) {
                 exitCode = session.cannotRun("There is no file " + file);
                 continue;
@@ -51,7 +51,7 @@ class StockCommand final : public Command {
             list.add(record);
         }
         list.close();
-        session.out << '\n';
+        session.result << "\n";
         return exitCode;
     }
 

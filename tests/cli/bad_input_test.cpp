@@ -1,5 +1,8 @@
 // What the program says when it is called wrongly.
 #include "cli_fixture.h"
+#include "platform/memory_file_system.h"
+
+#include <new>
 
 namespace zandor {
 namespace {
@@ -28,7 +31,8 @@ TEST_F(BadInput, IsToldInOneLine) {
         {{"keys", ""}, 2, "no file"},
         {{"keys", at("none.wag")}, 2, "none.wag"},
         {{"keys", at("a \"quoted\" name.wag")}, 2, "a \"quoted\" name.wag"},
-        {{"keys", at("two\nlines.wag")}, 2, "two lines.wag"},
+        {{"keys", at("two\nlines\x1B[31m\x7F\xC2\x9B.wag")}, 2, "two\\nlines\\x1b[31m\\x7f\\x9b.wag"},
+        {{"pol\tish\x9B"}, 2, "pol\\tish\\x9b"},
         {{"keys", at("home")}, 2, "home"},
         {{"keys", at("notes.txt")}, 1, "notes.txt"},
         {{"keys", at("garbage.wag")}, 1, "garbage.wag"},
@@ -46,6 +50,7 @@ TEST_F(BadInput, IsToldInOneLine) {
         {{"catalogue", "--root", root(), "--settings", at("none.ini")}, 2, "none.ini"},
         {{"catalogue", "--root"}, 2, "--root"},
         {{"compose", "name", "--root", root()}, 2, "FOLDER/FILE"},
+        {{"compose", "na\x7Fme", "x/y", "--root", root()}, 2, "na\\x7fme"},
         {{"open", "none", "--root", root()}, 2, "none"},
         {{"open", at("wrong.con"), "--root", root()}, 1, "wrong.con"},
     };
@@ -83,6 +88,35 @@ TEST_F(BadInput, HelpComesAtEveryLevelAndNeedsNoLanguageFile) {
 
     EXPECT_EQ(runCommandLine({"keys", "x.wag"}, {*files, registry, processes, nowhere}, out, err), 2);
     EXPECT_THAT(err.str(), HasSubstr(std::string(LanguageFileMissing)));
+}
+
+// Memory runs out at each call of the disk in turn.
+TEST_F(BadInput, MemoryThatRunsOutIsToldWithTheFileAndLeavesNoHalfOfAResult) {
+    MemoryFileSystem disk;
+    const std::string tree = "/msts/TRAINS/TRAINSET/A/";
+    disk.put("/lang/Langues.lng", bytesOf(ZANDOR_SOURCE_DIR "/src/frame/Langues.lng"));
+    for (const char* name : {"one.wag", "two.wag"})
+        disk.put(tree + name, bytesOf(stockPath("Old Coaches/Bar.wag")));
+    for (const Args& args : {Args{"stock", tree + "one.wag", tree + "two.wag"},
+                             Args{"keys", tree + "two.wag"}, Args{"catalogue", "--list", "--root", "/msts"},
+                             Args{"compose", "two.wag", "A/one", "--root", "/msts"}}) {
+        std::string told;
+        for (int call = 1;; ++call) {
+            int calls = 0;
+            disk.atEachCall = [&] { ++calls == call ? throw std::bad_alloc() : void(); };
+            std::ostringstream out, err;
+            const int exitCode =
+                runCommandLine(args, {disk, registry, processes, {"/home", "/lang", "zandor-cli"}}, out, err);
+            if (calls < call)
+                break;
+            EXPECT_EQ(exitCode, 2);
+            EXPECT_EQ(out.str(), "");
+            EXPECT_TRUE(isOneLine(err.str())) << err.str();
+            EXPECT_THAT(err.str(), HasSubstr("not enough memory for /"));
+            told += err.str();
+        }
+        EXPECT_THAT(told, HasSubstr("two.wag")) << args.front();
+    }
 }
 
 TEST_F(BadInput, OutputThatCannotBeWrittenIsNoSuccess) {

@@ -63,6 +63,31 @@ TEST_F(ReadCommands, KeysFindsWhatIsAskedFor) {
                                   "firstLine":4,"lastLine":0})json"));
 }
 
+TEST_F(ReadCommands, KeysCutsTailsUnlessToldNotTo) {
+    std::string line = "Wagon ( Long ";
+    for (int i = 0; i < 300; ++i)
+        line += "a ( é )  ";
+    putSim(at("long.wag"), line + ")\r\n");
+    for (const Args& sought : {Args{}, Args{"--section", "Wagon"}}) {
+        Args args{"keys", at("long.wag")};
+        args.insert(args.end(), sought.begin(), sought.end());
+        const auto tail = [&] {
+            const json found = run(args).json();
+            return (sought.empty() ? found : found["hits"])[0]["tail"].get<std::string>();
+        };
+        EXPECT_EQ(tail(), std::string(firstCharacters(line, 1000)));
+        args.push_back("--whole-tails");
+        EXPECT_TRUE(tail().starts_with(line));
+    }
+}
+
+TEST_F(ReadCommands, NoControlCharacterReachesTheTerminal) {
+    putSim(at("odd.wag"), "Wagon ( Odd\r\n Name ( \"a\x1B[1m\x7F\xC2\x9B-é\" )\r\n)\r\n");
+    const Ran ran = run({"keys", at("odd.wag")});
+    EXPECT_EQ(ran.json()[1]["value"], "\"a\x1B[1m\x7F\xC2\x9B-é\"");
+    EXPECT_THAT(ran.out, HasSubstr("a\\u001b[1m\\u007f\\u009b-é"));
+}
+
 TEST_F(ReadCommands, HalfASurrogatePairStaysValidJson) {
     putSim(at("odd.wag"), "Wagon ( Odd\r\n Name ( \"a\xED\xA0\xBD-b\" )\r\n)\r\n");
     const Ran ran = run({"keys", at("odd.wag")});

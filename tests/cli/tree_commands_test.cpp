@@ -62,7 +62,8 @@ TEST_F(TreeCommands, RootsComeFromTheOptionsTheSettingsOrTheRegistry) {
     const Case cases[] = {
         {"", false, {}, 0},
         {"InitialiseMSTS=1", true, {}, 3},
-        {both, false, {}, 1},
+        {both + "\r\n", false, {}, 1},
+        {both, false, {}, 3}, // cut off
         {both + "1", false, {}, 3},
         {both + "0", false, {}, 1},
         {both + "0", false, {"--primary", "msts"}, 3},
@@ -94,10 +95,11 @@ TEST_F(TreeCommands, RootsComeFromTheOptionsTheSettingsOrTheRegistry) {
 
 TEST_F(TreeCommands, ComposeWritesAConsistThatReadsBack) {
     const Ran ran =
-        runOnTree({"compose", "My Train", "--full", "It's (a) train", "Diesels/LOCO.eng",
+        runOnTree({"compose", " My Train ", "--full", "It's (a) train ", "Diesels/LOCO.eng",
                    "diesels\\loco:flip", "Old Coaches/First Class.wag:FLIP", "Old Coaches\\first class"});
     EXPECT_EQ(ran.exitCode, 0) << ran.err;
-    EXPECT_THAT(ran.out, HasSubstr(consistPath("My Train.con")));
+    EXPECT_EQ(ran.out, consistPath("My Train.con") + "\n");
+    EXPECT_TRUE(isOneLine(ran.err)) << ran.err;
     const json consist = readBack("My Train.con");
     EXPECT_EQ(consist["rame"]["Name"], "It's (a) train");
     EXPECT_EQ(consist["rame"]["CfgName"], "My Train");
@@ -126,6 +128,23 @@ TEST_F(TreeCommands, ComposeAsksForOverwriteAndThenKeepsTheRest) {
     ASSERT_EQ(consist["items"].size(), 1u);
     EXPECT_EQ(consist["items"][0]["Name"], "Bar");
     EXPECT_EQ(bytesOf(at("home/Backup/Sauvegarde des fichiers de rames/local.con.old")), before);
+}
+
+TEST_F(TreeCommands, ComposeReplacesTheOnlyCopyOnlyWhenToldTo) {
+    const std::string before = bytesOf(consistPath("local.con"));
+    putBytes(at("home/Backup"), "a file in the folder's place");
+    for (const char* settings : {"", "[General]\r\n", "[General]\r\nBakF", "[General]\r\nBakFile="}) {
+        putBytes(at("home/Zandor.ini"), settings);
+        const Ran refused = runOnTree({"compose", "local", "--overwrite", "Diesels/Loco"});
+        EXPECT_EQ(refused.exitCode, 2) << settings;
+        EXPECT_EQ(refused.out, "");
+        EXPECT_TRUE(isOneLine(refused.err)) << refused.err;
+        EXPECT_THAT(refused.err, HasSubstr(at("home/Backup")));
+        EXPECT_EQ(bytesOf(consistPath("local.con")), before);
+    }
+    const Ran ran = runOnTree({"compose", "local", "--overwrite", "--no-backup", "Diesels/Loco"});
+    EXPECT_EQ(ran.exitCode, 0) << ran.err;
+    EXPECT_NE(bytesOf(consistPath("local.con")), before);
 }
 
 TEST_F(TreeCommands, ComposeWritesNothingWhenItCannotDoAllOfIt) {
@@ -195,6 +214,25 @@ TEST_F(TreeCommands, OpenPrintsTheStrip) {
         EXPECT_EQ(strip["totals"]["vehicles"], 2);
         EXPECT_EQ(strip["totals"]["width"], 242);
     }
+}
+
+TEST_F(TreeCommands, OpenPrintsNothingButItsResultAndFiguresWithAPoint) {
+    putSim(stockPath("Old Coaches/First Class.wag"),
+           "Wagon ( W\r\n Type ( Carriage )\r\n Size ( 3m 4m 20.5m )\r\n Mass ( 30t )\r\n"
+           " Coupling (\r\n  Type ( Chain )\r\n )\r\n Name ( \"W\" )\r\n)\r\n");
+    std::string vehicles;
+    for (int i = 0; i < 140; ++i)
+        vehicles += "Wagon ( WagonData ( \"First Class\" \"Old Coaches\" )\r\n UiD ( 0 )\r\n )\r\n";
+    putSim(consistPath("long.con"), consistText("long", vehicles + "Wagon ( WagonData ( a b )\r\n )\r\n"));
+    putSettings("Langage=Deutsch\r\n");
+    const Ran ran = run({"open", "long", "--root", root()});
+    EXPECT_EQ(ran.exitCode, 1);
+    EXPECT_EQ(ran.json()["totals"]["vehicles"], 141) << ran.out.substr(0, 100);
+    EXPECT_THAT(ran.json()["totals"]["text"].get<std::string>(), HasSubstr("2870 m"));
+    putSim(consistPath("one.con"),
+           consistText("one", "Wagon ( WagonData ( \"First Class\" \"Old Coaches\" )\r\n )\r\n"));
+    EXPECT_THAT(run({"open", "one", "--root", root()}).json()["totals"]["text"].get<std::string>(),
+                HasSubstr("20.5 m"));
 }
 
 TEST_F(TreeCommands, OpenShowsMissingStockAndFails) {

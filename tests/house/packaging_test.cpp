@@ -52,7 +52,7 @@ TEST(Packaging, TheManualNamesEveryCommandAndOption) {
     EXPECT_GE(commands.size(), 6u) << help;
     for (const std::string& command : commands) {
         EXPECT_NE(manual.find("\n.B " + command + "\n"), std::string::npos) << command;
-        for (const std::string& option : wordsLike(helpOf({command}), "(--[a-z]+)"))
+        for (const std::string& option : wordsLike(helpOf({command}), "(--[a-z-]+)"))
             EXPECT_NE(manual.find(option), std::string::npos) << command << " " << option;
     }
 }
