@@ -28,9 +28,16 @@ bool beginsWithKey(std::string_view line, std::string_view key) {
 
 class QuickLines {
   public:
-    QuickLines(Materiel& materiel, std::string& normal) : materiel_(materiel), normal_(normal) {}
+    // The lines taken are those of `text`; `normal` is room for one.
+    QuickLines(std::string_view text, Materiel& materiel, std::string& normal)
+        : text_(text), materiel_(materiel), normal_(normal), remarkEnd_(text.data()) {}
 
     void take(std::string_view line) {
+        if (line.data() < remarkEnd_) {
+            if (line.data() + line.size() <= remarkEnd_)
+                return;
+            line.remove_prefix(static_cast<std::size_t>(remarkEnd_ - line.data()));
+        }
         line = withoutEnds(line);
         if (nameFollows_) {
             nameFollows_ = false;
@@ -39,8 +46,11 @@ class QuickLines {
                 return;
             }
         }
-        if (line.size() < 5 || !mayBeKey(line.front()))
+        if (line.size() < 5 || !mayBeKey(line.front())) {
+            if (line.starts_with("(*"))
+                beginRemark(line);
             return;
+        }
         if (inCoupling_)
             takeCoupling(line);
         else if (inEngine_)
@@ -67,6 +77,21 @@ class QuickLines {
         }
     }
 
+    // The keys of a remark "(* ... *)" aren't the file's. One without its end, or with another one before
+    // that, holds no lines.
+    void beginRemark(std::string_view line) {
+        const auto behind = static_cast<std::size_t>(line.data() - text_.data()) + 1;
+        const std::size_t end = nextMark(ending_, "*)", behind);
+        if (end < nextMark(beginning_, "(*", behind))
+            remarkEnd_ = text_.data() + end + 2;
+    }
+    // `known`: the place found last, from which the next one is looked for.
+    std::size_t nextMark(std::size_t& known, std::string_view mark, std::size_t from) const {
+        if (known < from)
+            known = text_.find(mark, from);
+        return known;
+    }
+
     // The value of a line that begins with the key; false when it doesn't.
     bool value(std::string_view line, std::string_view key) {
         return (line.front() | 0x20) == key.front() && beginsWithKey(line, key) && takeValue(line);
@@ -79,7 +104,11 @@ class QuickLines {
         return true;
     }
     std::string_view closedValue() const { // less the closing bracket
-        return StripQuotes(value_.substr(0, value_.empty() ? 0 : value_.size() - 1));
+        std::string_view value = value_;
+        constexpr unsigned continuing = 0x80, kind = 0xC0; // of the bytes of a character
+        while (!value.empty() && (static_cast<unsigned char>(value.back()) & kind) == continuing)
+            value.remove_suffix(1);
+        return StripQuotes(value.substr(0, value.empty() ? 0 : value.size() - 1));
     }
     void fillEmpty(std::string& field) {
         if (field.empty())
@@ -96,7 +125,7 @@ class QuickLines {
     void takeCoupling(std::string_view line) {
         if (!value(line, "type"))
             return;
-        addCouplingType(materiel_, closedValue());
+        couplings_.add(materiel_, closedValue());
         inCoupling_ = false;
     }
 
@@ -134,9 +163,13 @@ class QuickLines {
             fillEmpty(materiel_.EngineName);
     }
 
+    std::string_view text_;
     Materiel& materiel_;
-    std::string& normal_;    // the line in hand in its normal form
-    std::string_view value_; // of normal_, behind the bracket
+    CouplingTypes couplings_;
+    std::string& normal_;                    // the line in hand in its normal form
+    std::string_view value_;                 // of normal_, behind the bracket
+    const char* remarkEnd_;                  // what stands before it isn't taken
+    std::size_t ending_ = 0, beginning_ = 0; // see nextMark()
     bool inEngine_ = false;
     bool inCoupling_ = false;
     bool nameFollows_ = false;
@@ -149,7 +182,7 @@ void QuickStockReader::QuickReadStock(Materiel& materiel) {
     if (!files_.readFile(path_, bytes_))
         return;
     decodeSimulatorText(bytes_, text_);
-    QuickLines lines(materiel, line_);
+    QuickLines lines(text_, materiel, line_);
     forEachLine(text_, [&lines](std::string_view line) { lines.take(line); });
 }
 

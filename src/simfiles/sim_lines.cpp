@@ -129,6 +129,15 @@ struct LineScan {
 
 } // namespace
 
+std::size_t closingOf(std::string_view line, std::size_t open) {
+    std::size_t depth = 0;
+    return findUnquoted(line, open, [&](std::size_t at) {
+        if (line[at] == '(')
+            ++depth;
+        return line[at] == ')' && --depth == 0;
+    });
+}
+
 std::string_view cutLines(std::string& text, std::string_view keepOnly, std::vector<SimLine>& lines) {
     lines.clear();
     lines.emplace_back();

@@ -18,6 +18,23 @@ struct SimLine {
     bool hasQuote = false;
 };
 
+// The first position from `from` on whose character is outside of pairs of quotes and for which `isWanted`
+// is true; npos when there is none. A quote without a partner on its line is an ordinary character.
+template <typename Wanted>
+std::size_t findUnquoted(std::string_view line, std::size_t from, Wanted isWanted) {
+    for (std::size_t i = from; i < line.size(); ++i) {
+        const std::size_t partner = line[i] == '"' ? line.find('"', i + 1) : std::string_view::npos;
+        if (partner != std::string_view::npos)
+            i = partner;
+        else if (isWanted(i))
+            return i;
+    }
+    return std::string_view::npos;
+}
+
+// Where the bracket that opens at `open` closes, those between them balanced; npos: not on this line.
+std::size_t closingOf(std::string_view line, std::size_t open);
+
 // Cuts a decoded text into lines at CR, CR LF or LF; tabs in `text` are replaced in place. Element 0 and 1
 // are blank: lines count from 1 and the first is the signature, which is returned. A line that lacks
 // `keepOnly` (lower case, case ignored) becomes blank; empty keeps all.

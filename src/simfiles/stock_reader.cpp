@@ -60,9 +60,9 @@ constexpr std::array<Field, 11> ReadFields{
     &Materiel::EngineName, &Materiel::EngineType,     &Materiel::MaxPower,   &Materiel::CabView,
     &Materiel::Coupling,   &Materiel::CouplingUnique, &Materiel::BrakeSystem};
 
-void takeCouplingKey(const SimKey& key, Materiel& materiel) {
+void takeCouplingKey(const SimKey& key, CouplingTypes& types, Materiel& materiel) {
     if (nameIs(key.Key, "type"))
-        addCouplingType(materiel, StripQuotes(key.Value));
+        types.add(materiel, StripQuotes(key.Value));
     else if (nameIs(key.Key, "couplinguniquetype"))
         setCouplingUnique(materiel, StripQuotes(key.Value));
 }
@@ -166,6 +166,7 @@ StockReading ReadStockFile(SimReader& reader, std::string_view path, Materiel& m
         (materiel.*field).clear();
     const bool isWagonFile = kindOfFile(path) == FileKind::Wagon;
     int shapeLine = 0;
+    CouplingTypes couplings;
     int lastPath = -1;
     Block block = Block::Other;
     for (const SimKey& key : reader.SimKeys) {
@@ -176,7 +177,7 @@ StockReading ReadStockFile(SimReader& reader, std::string_view path, Materiel& m
         if (block == Block::Other)
             continue;
         if (block == Block::Coupling) {
-            takeCouplingKey(key, materiel);
+            takeCouplingKey(key, couplings, materiel);
             continue;
         }
         takeKey(key, block, materiel);

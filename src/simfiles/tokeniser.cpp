@@ -24,10 +24,14 @@ bool endsInPlus(std::string_view text) {
     return !text.empty() && text.back() == '+';
 }
 
-// A value that begins with the misspelt default marker counts from behind it.
-std::string_view withoutDefault(std::string_view value) {
+bool isVehicleKey(std::string_view name) {
+    return nameIs(name, "EngineData") || nameIs(name, "WagonData");
+}
+
+// A value that begins with the misspelt default marker counts from behind it; a vehicle may be called so.
+std::string_view withoutDefault(std::string_view key, std::string_view value) {
     constexpr std::string_view marker = "defaut";
-    if (!nameIs(value.substr(0, marker.size()), marker))
+    if (!nameIs(value.substr(0, marker.size()), marker) || isVehicleKey(key))
         return value;
     return value.size() > marker.size() + 2 ? trim(value.substr(marker.size() + 2)) : std::string_view();
 }
@@ -35,6 +39,12 @@ std::string_view withoutDefault(std::string_view value) {
 bool isVehicleData(std::string_view line) {
     constexpr std::string_view engine = "EngineData", wagon = "WagonData";
     return nameIs(line.substr(0, engine.size()), engine) || nameIs(line.substr(0, wagon.size()), wagon);
+}
+
+// Could this be the name of a block, its bracket below it? Words and numbers belong to a value.
+bool isBlockName(std::string_view text) {
+    return text.find(' ') == std::string_view::npos &&
+           std::string_view("0123456789+-.#").find(text.front()) == std::string_view::npos;
 }
 
 // Position behind the first run of two blanks in `text`, or npos.
@@ -61,6 +71,9 @@ Tokeniser::Outcome Tokeniser::run(const std::vector<SimLine>& lines, const Searc
     joining_ = false;
     skipLine_ = 0;
     stockSeen_ = 0;
+    isConsist_ = isConsist;
+    badVehicle_ = false;
+    remarks_.begin(lines);
     keys_[0].pathId = internPath({});
 
     bool waiting = !request.stockMode && equalIgnoringCase(request.section, "engine");
@@ -80,7 +93,9 @@ Tokeniser::Outcome Tokeniser::run(const std::vector<SimLine>& lines, const Searc
         }
         if (plainLine(line)) {
             settleValue();
-            outcome.found = true;
+            outcome.found = !badVehicle_;
+            outcome.closeMissing = badVehicle_;
+            outcome.badLine = badVehicle_ ? static_cast<int>(lineNumber_) : 0;
             return outcome;
         }
     }
@@ -114,33 +129,93 @@ bool Tokeniser::plainLine(const SimLine& line) {
 }
 
 bool Tokeniser::workLine(std::string_view line) {
-    closingKnown_ = false;
+    takeInHand(line);
     for (line = trim(line); !line.empty(); line = trim(line)) {
-        if (line.front() == '"') {
+        if (line.front() == '(') {
+            leaveRemark(line);
+        } else if (line.front() == '"') {
             const std::string_view rest = cutBehindClosing(line);
             if (continueQuoted(line))
                 return true;
             line = rest;
-            continue;
-        }
-        const Brackets at = findBrackets(line);
-        bool stop = false;
-        if (at.earlyClose != npos) {
-            stop = close(line, at.earlyClose);
-        } else if (at.open == npos) {
-            stop = bareWord(line);
-        } else if (at.close != npos || at.nextOpen == npos) {
-            if (at.close == npos)
-                return at.open > 0 &&
-                       openBlock(trim(line.substr(0, at.open)), trim(line.substr(at.open + 1)), line);
-            stop = simpleKey(line, at);
-        } else {
-            stop = openWithRest(line, at);
-        }
-        if (stop)
+        } else if (workKey(line)) {
             return true;
+        }
     }
     return false;
+}
+
+void Tokeniser::takeInHand(std::string_view text) {
+    inHand_ = text;
+    closingKnown_ = false;
+}
+
+// One piece of a line; leaves what stands behind it.
+bool Tokeniser::workKey(std::string_view& line) {
+    Brackets at = findBrackets(line);
+    if (at.earlyClose != npos)
+        return close(line, at.earlyClose);
+    if (at.open == npos)
+        return bareWord(line);
+    if (isConsist_ && isVehicleKey(trim(line.substr(0, at.open))) && !closeVehicle(line, at))
+        return badVehicle_ = true;
+    if (at.close != npos)
+        return simpleKey(line, at);
+    if (at.nextOpen != npos)
+        return openWithRest(line, at);
+    const std::string_view whole = std::exchange(line, {});
+    return openBlock(trim(whole.substr(0, at.open)), trim(whole.substr(at.open + 1)), whole);
+}
+
+// The value of a vehicle's key may hold brackets: names of files and folders do.
+bool Tokeniser::closeVehicle(std::string_view line, Brackets& at) {
+    at.close = closingOf(line, at.open);
+    at.nextOpen = at.close == npos ? npos : line.find('(', at.close);
+    return at.close != npos;
+}
+
+void Tokeniser::leaveRemark(std::string_view& line) {
+    const std::string_view whole = (*lines_)[lineNumber_].text;
+    if (inHand_.data() != whole.data()) { // put together from two lines: the remark ends on it
+        const std::size_t closing = closingOf(line, 0);
+        line = closing == npos ? std::string_view() : line.substr(closing + 1);
+        return;
+    }
+    line = behindRemark({lineNumber_, static_cast<std::size_t>(line.data() - whole.data())}, lineNumber_);
+    takeInHand((*lines_)[lineNumber_].text);
+}
+
+// What counts behind a remark, and the line on which that stands: words without a bracket are part of it.
+std::string_view Tokeniser::behindRemark(Remarks::Place open, std::size_t& line) {
+    const Remarks::Place end = remarks_.behind(open, owedClosings());
+    line = end.line;
+    const std::string_view rest = trim((*lines_)[line].text.substr(end.offset));
+    return rest.find_first_of("()\"") == npos ? std::string_view() : rest;
+}
+
+std::size_t Tokeniser::owedClosings() const {
+    return openBlocks_.size() + deepBlocks_ + (quotedIn_ >= 0 ? 1 : 0);
+}
+
+// Blank lines and remarks are left out. `namesBlock`: the line in hand may be the name of a block, and a
+// bracket below it that block's.
+Tokeniser::Below Tokeniser::lineBelow(bool namesBlock) {
+    Below below;
+    below.line = std::max(lineNumber_, skipLine_) + 1;
+    for (; below.line < lines_->size(); ++below.line) {
+        const SimLine& line = (*lines_)[below.line];
+        below.text = line.text;
+        below.open = line.firstOpen < 0 ? npos : static_cast<std::size_t>(line.firstOpen);
+        while (below.open == 0 && (below.text.starts_with("(*") || (!namesBlock && below.text.size() > 1))) {
+            const std::string_view whole = (*lines_)[below.line].text;
+            const auto offset = static_cast<std::size_t>(below.text.data() - whole.data());
+            below.text = behindRemark({below.line, offset}, below.line);
+            below.open = below.text.find('(');
+        }
+        if (!below.text.empty())
+            return below;
+    }
+    return {};
 }
 
 // Brackets inside a pair of quotes don't count; a quote without a partner is an ordinary character.
@@ -173,10 +248,6 @@ bool Tokeniser::simpleKey(std::string_view& line, const Brackets& at) {
     const bool goesOn = endsInPlus(line) && at.nextOpen == npos;
     const bool textRemains = !rest.empty() && !goesOn;
     const std::string_view name = trim(line.substr(0, at.open));
-    if (name.empty()) { // brackets without a name are nobody's value
-        line = rest;
-        return false;
-    }
     addRecord(currentPath(), name, trim(line.substr(at.open + 1, at.close - at.open - 1)),
               textRemains ? line.substr(0, at.close + 1) : line);
     const bool stop = matchLast();
@@ -203,10 +274,6 @@ bool Tokeniser::openWithRest(std::string_view& line, const Brackets& at) {
     const std::string_view whole = line;
     const std::string_view name = trim(line.substr(0, at.open));
     const std::string_view between = line.substr(at.open + 1, at.nextOpen - at.open - 1);
-    if (name.empty()) {
-        line = {};
-        return false;
-    }
     std::string_view value;
     std::size_t nextName = at.open + 1;
     const std::size_t textStart = between.find_first_not_of(' ');
@@ -300,17 +367,18 @@ bool Tokeniser::continueQuoted(std::string_view line) {
     if (!last.Key.empty())
         return appendQuoted(line);
     if (last.pathId != currentPath() || openBlocks_.empty())
-        return false;              // the block has been closed: the text belongs to nothing
-    if (openBlocks_.size() == 1) { // a block at the top keeps its keys: the text is its own value
-        settleValue();
-        last.Value = endsInPlus(last.Value) ? last.Value : line;
+        return false; // the block has been closed: the text belongs to nothing
+    settleValue();
+    const bool isWhole = !endsInPlus(last.Value) && !endsInPlus(line) && line.back() != ')';
+    if (isWhole && (openBlocks_.size() == 1 || keysFollow())) { // the name of a block, below its bracket
+        takeAsOwnValue(line);
         return false;
     }
     // The block was in truth a key with a long value.
-    settleValue();
     const std::string_view whole = textOf(currentPath());
     openBlocks_.pop_back();
-    const std::string_view name = whole.substr(textOf(currentPath()).size() + 1);
+    const std::string_view parent = textOf(currentPath());
+    const std::string_view name = parent.empty() ? whole : whole.substr(parent.size() + 1);
     last.Key = hasMarker(name) ? arena_.keep(StripOccurrence(name)) : name;
     setPath(last, currentPath());
     quotedIn_ = currentPath();
@@ -319,11 +387,11 @@ bool Tokeniser::continueQuoted(std::string_view line) {
     last.Tail = line;
     last.Line = static_cast<int>(lineNumber_);
     if (line.back() != ')') {
-        last.Value = withoutDefault(line);
+        last.Value = withoutDefault(last.Key, line);
         return false;
     }
     quotedIn_ = -1;
-    last.Value = withoutDefault(StripQuotes(trim(line.substr(0, line.size() - 1))));
+    last.Value = withoutDefault(last.Key, StripQuotes(trim(line.substr(0, line.size() - 1))));
     return matchLast();
 }
 
@@ -360,24 +428,36 @@ bool Tokeniser::appendQuoted(std::string_view line) {
     return stop;
 }
 
-// A line of neither brackets nor quote: the next line that isn't blank tells what it is.
+// Does the block in hand hold keys, rather than a text?
+bool Tokeniser::keysFollow() {
+    const Below below = lineBelow(false);
+    return below.open != npos && below.text.front() != '"' && below.text.find(')') > below.open;
+}
+
+void Tokeniser::takeAsOwnValue(std::string_view text) {
+    SimKey& last = keys_.back();
+    joining_ = false;
+    last.Value = text;
+    last.Tail = text;
+    last.Line = static_cast<int>(lineNumber_);
+}
+
+// A line of neither brackets nor quote: what comes below it tells what it is.
 bool Tokeniser::bareWord(std::string_view& rest) {
     const std::string_view line = std::exchange(rest, {});
-    std::size_t next = std::max(lineNumber_, skipLine_) + 1;
-    while (next < lines_->size() && (*lines_)[next].text.empty())
-        ++next;
-    if (next >= lines_->size())
+    const Below below = lineBelow(line.size() == inHand_.size() && isBlockName(line));
+    if (below.text.empty())
         return false;
-    const SimLine& following = (*lines_)[next];
-    if (following.firstOpen == 0) {
-        if (following.text.size() == 1)
+    if (below.open == 0) {
+        skipLine_ = below.line;
+        if (below.text.size() == 1)
             return openBlock(line, line, line);
-        skipLine_ = next;
-        rest = arena_.join(line, " ", following.text);
+        rest = arena_.join(line, " ", below.text);
+        takeInHand(rest);
         return false;
     }
     SimKey& last = keys_.back();
-    if (following.firstOpen < 0) {
+    if (below.open == npos) {
         if (last.Key.empty() && !openBlocks_.empty()) {
             setPath(last, currentPath());
             last.Tail = line;
@@ -385,10 +465,7 @@ bool Tokeniser::bareWord(std::string_view& rest) {
         }
         appendToValue(line);
     } else if (last.Key.empty()) { // the name of a block, below its bracket; behind a key it is a remark
-        joining_ = false;
-        last.Value = line;
-        last.Tail = line;
-        last.Line = static_cast<int>(lineNumber_);
+        takeAsOwnValue(line);
     }
     return request_.stockMode && matchLast();
 }
@@ -406,7 +483,7 @@ SimKey& Tokeniser::addRecord(int path, std::string_view key, std::string_view va
     record.pathId = -1;
     setPath(record, path);
     record.Key = key;
-    record.Value = key.empty() ? value : withoutDefault(value);
+    record.Value = key.empty() ? value : withoutDefault(key, value);
     record.Tail = tail;
     record.Line = static_cast<int>(lineNumber_);
     return record;

@@ -2,6 +2,7 @@
 // stack.
 #pragma once
 
+#include "simfiles/remarks.h"
 #include "simfiles/sim_keys.h"
 #include "simfiles/sim_lines.h"
 #include "simfiles/text_arena.h"
@@ -25,7 +26,7 @@ class Tokeniser {
 
     struct Outcome {
         bool found = false; // a match ended the search, or the final pass made a hit
-        int badLine = 0;    // a consist's vehicle line without its bracket, from 1; 0: none
+        int badLine = 0;    // a consist's vehicle line whose brackets don't fit, from 1; 0: none
         bool closeMissing = false;
     };
     Outcome run(const std::vector<SimLine>& lines, const SearchRequest& request, bool isConsist);
@@ -44,10 +45,24 @@ class Tokeniser {
         std::size_t open = npos, nextOpen = npos, close = npos, earlyClose = npos;
     };
     static constexpr std::size_t npos = std::string_view::npos;
+    // What stands below the line in hand.
+    struct Below {
+        std::size_t line = 0;
+        std::string_view text;   // from where it counts; empty: the file ends
+        std::size_t open = npos; // the first "(" of text
+    };
 
     Brackets findBrackets(std::string_view line) const;
     bool plainLine(const SimLine& line);
     bool workLine(std::string_view line);
+    bool workKey(std::string_view& line);
+    static bool closeVehicle(std::string_view line, Brackets& at);
+    void leaveRemark(std::string_view& line);
+    std::string_view behindRemark(Remarks::Place open, std::size_t& line);
+    Below lineBelow(bool namesBlock);
+    bool keysFollow();
+    std::size_t owedClosings() const;
+    void takeInHand(std::string_view text);
     bool simpleKey(std::string_view& line, const Brackets& at);
     bool openBlock(std::string_view name, std::string_view value, std::string_view tail);
     std::string_view upToClosing(std::string_view text);
@@ -58,6 +73,7 @@ class Tokeniser {
     bool continueQuoted(std::string_view line);
     bool appendQuoted(std::string_view line);
     bool bareWord(std::string_view& rest);
+    void takeAsOwnValue(std::string_view text);
 
     bool matchLast();
     bool matchStockKey();
@@ -84,6 +100,9 @@ class Tokeniser {
     const std::vector<SimLine>* lines_ = nullptr;
     SearchRequest request_;
     bool searching_ = false;
+    bool isConsist_ = false;
+    bool badVehicle_ = false; // the line in hand holds a vehicle whose bracket doesn't close
+    Remarks remarks_;
 
     static constexpr int TopPath = 0; // the empty one, which is the first to be interned
     std::vector<int> openBlocks_;     // the paths of the blocks that are open, outermost first
@@ -94,6 +113,7 @@ class Tokeniser {
     bool joining_ = false;
     std::size_t lineNumber_ = 0;
     std::size_t skipLine_ = 0;          // already worked on together with the line above
+    std::string_view inHand_;           // the line in hand, or that and the one below it put together
     const char* nextClosing_ = nullptr; // see upToClosing()
     bool closingKnown_ = false;
     unsigned stockSeen_ = 0;

@@ -51,6 +51,9 @@ TEST_F(SimFixture, CouplingsOfTwoEndsBecomeAPair) {
     };
     const Row rows[] = {{"Coupling (\nType ( Chain )\n)\n", "Chain", ""},
                         {"Coupling (\nType ( Bar )\n)\n", "Chain_Bar", ""},
+                        {"Coupling (\nType ( Semi_Auto )\n)\nCoupling (\nType ( Auto )\n)\n"
+                         "Coupling (\nType ( CHAIN )\n)\nCoupling (\nType ( semi_auto )\n)\n",
+                         "Chain_Semi_Auto_Auto", ""},
                         {"Coupling (\nType ( Bar )\nCouplingUniqueType ( u )\n)\n", "Chain_Bar", "u_END"}};
     for (const Row& row : rows) {
         files.put("\\a.wag", utf16(signed_(wagonBody(row.couplings))));
@@ -61,6 +64,43 @@ TEST_F(SimFixture, CouplingsOfTwoEndsBecomeAPair) {
         ReadStockFile(reader, "\\a.wag", materiel);
         EXPECT_EQ(materiel.Coupling, row.pair) << "read a second time";
     }
+}
+
+// The forms of an engine block whose remark has a bracket too many or too few.
+TEST_F(SimFixture, RemarksHideNoName) {
+    const char* const remarks[] = {"",
+                                   "(* was\nType ( Steam )\nName ( \"Old\" )\n*)\n",
+                                   "(* was )\nType ( Steam )\nName ( \"Old\" )\n*)\n",
+                                   "(* was *)\n",
+                                   "(* was )\n",
+                                   "(* was\n",
+                                   "( was )\n",
+                                   "(* a *)\n(* was )\n( b )\n"};
+    for (const std::string remark : remarks) {
+        const std::string body = "Wagon ( W\n" + remark + wagonBody("").substr(10) + "Engine ( W\n" + remark +
+                                 "Type ( Diesel )\nMaxPower ( 9kW )\nName ( \"N\xC3\xA9\" )\n" + remark +
+                                 ")\n";
+        files.put("\\R\\F\\a.eng", utf16(signed_(body)));
+        Materiel full, quick;
+        quick.BasePath = "\\R\\";
+        quick.Folder = "F";
+        quick.FileName = "a.eng";
+        EXPECT_FALSE(ReadStockFile(reader, "\\R\\F\\a.eng", full).error) << body;
+        QuickStockReader(files).QuickReadStock(quick);
+        for (const Materiel* read : {&full, &quick})
+            EXPECT_EQ(read->EngineName + read->EngineType + read->MaxPower + read->Type + read->Mass,
+                      "N\xC3\xA9"
+                      "Diesel9kWFreight9t")
+                << body;
+    }
+}
+
+TEST_F(SimFixture, TheQuickReaderDropsAWholeCharacterWhereABracketIsMissing) {
+    Materiel quick;
+    quick.FileName = "a.wag";
+    files.put("\\a.wag", utf16(signed_("Wagon ( W\nName ( Z\xC3\xBCge\xE6\x97\xA5\nMass ( 9t\xC3\xA9\n")));
+    QuickStockReader(files).QuickReadStock(quick);
+    EXPECT_EQ(quick.WagonName + "|" + quick.Mass, "Z\xC3\xBCge|9t");
 }
 
 TEST_F(SimFixture, TheFirstMissingWagonKeyIsNamed) {

@@ -97,7 +97,31 @@ INSTANTIATE_TEST_SUITE_P(
                   "Wagon (\nSound ( a.sms )\nSkip ( b )\nX ( 1 )\n)",
                   {"Wagon|||2", "Wagon|Sound|a.sms|3", "Wagon\\Sound|Skip|b|4", "Wagon|X|1|5"}},
         ParseCase{"MisspeltDefault", "W (\nA ( defaut: 12 )\n)", {"W|||2", "W|A|12|3"}},
+        ParseCase{"QuotedTextAtTheTop",
+                  "comment ( \"a\" +\n\"b\" )\nW (\nX ( 1 )\n)\nc (\n\"a\" +\n\"b\"\n)\nd (\n\"a\" )\n"
+                  "E (\nY ( 2 )\n)",
+                  {"W|||4", "W|X|1|5", "E|||13", "E|Y|2|14"}},
+        ParseCase{"QuotedNameBelowBracket",
+                  "W (\n\"A B\"\nT (\n\"C D\"\n\n(* r *)\nX ( 1 )\n)\nD (\n\"e\"\n) Y ( 2 )\n)",
+                  {"W||\"A B\"|3", "W\\T||\"C D\"|5", "W\\T|X|1|8", "W|D|\"e\"|11", "W|Y|2|12"}},
         ParseCase{"StrayClosing", ")\n)\nW (\nX ( 1 )\n)", {"W|||4", "W|X|1|5"}},
+        ParseCase{"RemarkUpToItsStar",
+                  "W (\n(* old\nA ( 1 )\nB (\n*)\nX ( 1 )\n(* o ) \nC ( 1 )\n*) Y ( 2 )\n(* o *) )\nV (\n)",
+                  {"W|||2", "W|X|1|7", "W|Y|2|10", "V|||12"}},
+        ParseCase{"RemarkUpToItsBracket",
+                  "W (\n( a (b) c\nD ( 1 )\n) )\nV (\n(* a ) X ( 1 )\n(c) 2005 by me\n(\nwords\n)\n"
+                  "( \" ) \" )\nY ( 2 ) ( a )\nZ ( 3 ) (* a\n*)\n)\nU (\n)",
+                  {"W|||2", "V|||6", "V|X|1|7", "V|Y|2|13", "V|Z|3|14", "U|||17"}},
+        ParseCase{"RemarkWithoutAnEnd",
+                  "W (\n(* o\nX ( 1 )\n(* o\nA ( 1 )\n*)\n( o\nY ( 2 )\n)\nV (\n(* o\n)\nU (\n)",
+                  {"W|||2", "W|X|1|4", "W|Y|2|9", "V|||11", "U|||14"}},
+        ParseCase{
+            "RemarksAmongWords",
+            "W (\nCar\n(* o\nA ( 1 )\n*)\nX ( 1 )\nL ( 1\n2 3\n( o )\n4\n)\nY ( 2 ) w\n( o )\nZ ( 3 )\n)",
+            {"W||Car|3", "W|X|1|7", "W\\L||1 2 3 4|11", "W|Y|2|13", "W|Z|3|15"}},
+        ParseCase{"ValuesBelowANameAreNoRemark",
+                  "W (\nExhaust1\n\n(* o *)\n( -0.3 4.0 2.9\n0.2\n)\nMass\n( 30t ) ( o ) X ( 1 )\nY ( 2 )\n)",
+                  {"W|||2", "W\\Exhaust1||-0.3 4.0 2.9 0.2|7", "W|Mass|30t|9", "W|X|1|9", "W|Y|2|11"}},
         ParseCase{"SignatureAlone", "", {}}),
     [](const auto& info) { return info.param.name; });
 
@@ -198,8 +222,10 @@ TEST_F(SimFixture, AVehicleLineOfAConsistNeedsItsBrackets) {
         const char* line;
         int number;
     };
-    for (const Row& row : {Row{"EngineData Loco Park )", 321}, Row{"WagonData ( Car Park", 321},
-                           Row{"WagonData ( Car Park )", 0}}) {
+    for (const Row& row :
+         {Row{"EngineData Loco Park )", 321}, Row{"WagonData ( Car Park", 321},
+          Row{"WagonData ( Car Park (old )", 321}, Row{"Wagon ( WagonData ( Car (1 Park )", 321},
+          Row{"Wagon ( WagonData ( Car (1) Park ) )", 0}, Row{"WagonData ( Car Park )", 0}}) {
         const bool result = reader.readBytes(
             "x.con", utf16(signed_(std::string("Train (\nTrainCfg ( A\n") + row.line + "\n)\n)")), "", "", 1,
             false, false);
@@ -212,7 +238,7 @@ TEST_F(SimFixture, AVehicleLineOfAConsistNeedsItsBrackets) {
 TEST_F(SimFixture, GarbageEndsQuickly) {
     const std::string open = "a(\n", close = ")\n", quoted = "\"x\" +\n", word = "word\n";
     std::string joins = "W (\nw\n", nested = "W ( ", comments = "W (\n", deep = "W (\n",
-                joined = "D ( \"x\" +\n", words = "W ( 1\n";
+                joined = "D ( \"x\" +\n", words = "W ( 1\n", remarks = "W (\n", stars = "W (\n";
     for (int i = 0; i < 200000; ++i) {
         deep += open;
         nested += "a ( ";
@@ -220,10 +246,13 @@ TEST_F(SimFixture, GarbageEndsQuickly) {
         joined += quoted;
         words += word;
         joins += "( a ) w\n";
+        remarks += "( a\nw w\n";
+        stars += "(* a\nw w\n";
     }
     for (const std::string& body :
-         {deep, nested, joins, comments, comments + ")", "W (\n" + joined, words, std::string(3000000, '('),
-          std::string(3000000, '"'), std::string(3000000, ')'), std::string("\0\0(\0)\n", 6)})
+         {deep, nested, joins, comments, comments + ")", "W (\n" + joined, words, remarks, stars,
+          stars + "*)", std::string(3000000, '('), std::string(3000000, '"'), std::string(3000000, ')'),
+          std::string("\0\0(\0)\n", 6)})
         reader.readBytes("x.wag", signed_(body), "", "", 1, false, false);
     EXPECT_EQ(keysOf("W (\nX ( 1 )\n)"), (Rows{"W|||2", "W|X|1|3"})) << "the reader is as new afterwards";
 }
