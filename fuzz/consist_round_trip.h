@@ -22,15 +22,24 @@ inline Consist readConsist(Surroundings& around) {
     return consist;
 }
 
-inline std::string writeConsist(Surroundings& around, const Consist& consist) {
+// The consist as a writer takes it.
+inline Rame rameOf(const Consist& consist) {
     Rame rame = consist.rame;
     rame.CfgName = quotedName(rame.CfgName);
+    return rame;
+}
+
+inline std::vector<VehicleLines> linesOf(const Consist& consist) {
     std::vector<VehicleLines> vehicles;
     for (const RameItem& item : consist.items)
         if (!item.Name.empty())
             vehicles.push_back({item.IsEngine, item.Flip, item.UiD, item.Name, item.Folder,
                                 item.IsEngine ? item.EngineVariables : std::string()});
-    const std::string bytes = encodeConsist(buildConsistText(rame, vehicles));
+    return vehicles;
+}
+
+inline std::string writeConsist(Surroundings& around, const Consist& consist) {
+    const std::string bytes = encodeConsist(buildConsistText(rameOf(consist), linesOf(consist)));
     around.files.put(ConsistPath, bytes);
     return bytes;
 }

@@ -241,6 +241,19 @@ bool writeConsist(Editor& editor, const std::string& folder, const Rame& rame, c
     return replaceFile(files, folder + rame.FileName, encodeConsist(buildConsistText(rame, list.lines)));
 }
 
+// A name with a line break or a quote in it would be lost, or lose the vehicles behind it.
+bool canBeWritten(Editor& editor, const Rame& rame, const VehicleList& list) {
+    Frame& frame = editor.frame;
+    SimReader reader(frame.files, frame.language);
+    const std::optional<std::size_t> lost = findUnreadable(reader, rame, list.lines);
+    if (!lost)
+        return true;
+    const StockPair& stock = list.stock[*lost];
+    const std::string name = stock.Folder + "\\" + stock.FileName;
+    frame.show(frame.text(Message::StockUnwritable, {{"|1", name}, {"|2", LineBreak}}), style::Exclamation);
+    return false;
+}
+
 ConsistSummary summaryOf(const Editor& editor, const Rame& rame, const VehicleList& list) {
     ConsistSummary summary;
     summary.FullName = rame.Name;
@@ -330,6 +343,8 @@ void SaveFileRame(Editor& editor) {
     VehicleList list = listVehicles(editor);
     const bool hasMissing = list.hasMissing;
     Rame rame = rameToWrite(editor, *names, list.hasEngine);
+    if (!canBeWritten(editor, rame, list))
+        return;
 
     const Backup backup = keepBackup(editor, folder, names->file);
     if (!mayReplaceUnkept(editor, backup))

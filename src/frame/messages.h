@@ -518,6 +518,8 @@ enum class Message : int {
     // saving, and figures
     AskNoBackup = 830, // |1 the consist's name, |2 the backup folder, |3 a line break
     DecimalMark = 831, // "." or ","
+    // what no consist file can hold
+    StockUnwritable = 820, // |1 the stock's folder and file, |2 a line break
 };
 
 } // namespace zandor

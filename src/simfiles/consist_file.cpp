@@ -86,6 +86,60 @@ void takeVehicleKey(const SimKey& key, bool inEngine, std::vector<RameItem>& ite
         splitVehicleData(key.Value, items.back().Name, items.back().Folder);
 }
 
+bool bracketsBalance(std::string_view text) {
+    int depth = 0;
+    for (const char c : text) {
+        depth += (c == '(') - (c == ')');
+        if (depth < 0)
+            return false;
+    }
+    return depth == 0;
+}
+
+// CleanValue() would take the brackets of "Coach (old)" for strays.
+std::string_view cleanFolder(std::string_view text) {
+    text = trim(text);
+    const bool itsOwn = text.ends_with(')') && bracketsBalance(text);
+    return itsOwn ? text : CleanValue(text);
+}
+
+void beginReading(Rame& rame, std::vector<RameItem>& items, std::string_view path, double durability) {
+    items.assign(1, {});
+    rame = Rame();
+    rame.Durability = formatDurability(durability);
+    rame.MaxVelocity = EngineMaxVelocity;
+    rame.FileName = GetFileName(path);
+}
+
+void takeKeys(SimReader& reader, Rame& rame, std::vector<RameItem>& items, std::string_view path) {
+    std::string_view train;
+    int lastPath = -1;
+    Block block = Block::Other;
+    for (const SimKey& key : reader.SimKeys) {
+        if (key.Path.empty())
+            continue;
+        if (key.pathId != lastPath) {
+            block = blockOf(key.Path, train);
+            lastPath = key.pathId;
+        }
+        if (block == Block::TrainCfg)
+            takeTrainKey(key, rame);
+        else if (block == Block::Engine || block == Block::Wagon)
+            takeVehicleKey(key, block == Block::Engine, items);
+        else if (block == Block::EngineVariables && key.Key.empty()) // its numbers stand on several lines
+            takeVariables("EngineVariables", key.Value, items.back());
+        else if (block == Block::Other && !reader.error && isVehicleData(key))
+            reader.error = misplacedVehicle(reader, path, key);
+    }
+    if (rame.Name.empty())
+        rame.Name = rame.CfgName;
+}
+
+bool isReadBack(const VehicleLines& vehicle, const RameItem& item) {
+    return !item.Name.empty() && item.Name == vehicle.stockName && item.Folder == vehicle.folder &&
+           item.IsEngine == vehicle.isEngine && item.Flip == vehicle.flipped;
+}
+
 void addLine(std::string& text, int tabs, std::string_view line) {
     text.append(static_cast<std::size_t>(tabs), '\t');
     text += line;
@@ -136,40 +190,36 @@ void splitVehicleData(std::string_view value, std::string& name, std::string& fo
             split = 0;
         name = value.substr(0, split);
     }
-    folder = CleanValue(name.empty() ? value : value.substr(split + 1));
+    folder = cleanFolder(name.empty() ? value : value.substr(split + 1));
 }
 
 std::optional<SimError> ReadConsistFile(SimReader& reader, Rame& rame, std::vector<RameItem>& items,
                                         std::string_view path, double durability) {
-    items.assign(1, {});
-    rame = Rame();
-    rame.Durability = formatDurability(durability);
-    rame.MaxVelocity = EngineMaxVelocity;
-    rame.FileName = GetFileName(path);
+    beginReading(rame, items, path, durability);
     reader.ReadSimFile(path, "", "", 1, false, false);
-
-    std::string_view train;
-    int lastPath = -1;
-    Block block = Block::Other;
-    for (const SimKey& key : reader.SimKeys) {
-        if (key.Path.empty())
-            continue;
-        if (key.pathId != lastPath) {
-            block = blockOf(key.Path, train);
-            lastPath = key.pathId;
-        }
-        if (block == Block::TrainCfg)
-            takeTrainKey(key, rame);
-        else if (block == Block::Engine || block == Block::Wagon)
-            takeVehicleKey(key, block == Block::Engine, items);
-        else if (block == Block::EngineVariables && key.Key.empty()) // its numbers stand on several lines
-            takeVariables("EngineVariables", key.Value, items.back());
-        else if (block == Block::Other && !reader.error && isVehicleData(key))
-            reader.error = misplacedVehicle(reader, path, key);
-    }
-    if (rame.Name.empty())
-        rame.Name = rame.CfgName;
+    takeKeys(reader, rame, items, path);
     return reader.error;
+}
+
+std::optional<SimError> ReadConsistBytes(SimReader& reader, Rame& rame, std::vector<RameItem>& items,
+                                         std::string_view path, std::string_view bytes, double durability) {
+    beginReading(rame, items, path, durability);
+    reader.readBytes(path, bytes, "", "", 1, false, false);
+    takeKeys(reader, rame, items, path);
+    return reader.error;
+}
+
+std::optional<std::size_t> findUnreadable(SimReader& reader, const Rame& rame,
+                                          const std::vector<VehicleLines>& vehicles) {
+    Rame readRame;
+    std::vector<RameItem> read;
+    ReadConsistBytes(reader, readRame, read, ".con", encodeConsist(buildConsistText(rame, vehicles)));
+    for (std::size_t i = 0; i < vehicles.size(); ++i)
+        if (i >= read.size() || !isReadBack(vehicles[i], read[i]))
+            return i;
+    if (!vehicles.empty() && read.size() > vehicles.size())
+        return vehicles.size() - 1;
+    return std::nullopt;
 }
 
 std::string quotedName(std::string_view name) {

@@ -17,6 +17,11 @@ namespace zandor {
 std::optional<SimError> ReadConsistFile(SimReader& reader, Rame& rame, std::vector<RameItem>& items,
                                         std::string_view path, double durability = 1.0);
 
+// The same from bytes at hand.
+std::optional<SimError> ReadConsistBytes(SimReader& reader, Rame& rame, std::vector<RameItem>& items,
+                                         std::string_view path, std::string_view bytes,
+                                         double durability = 1.0);
+
 // Splits the value of EngineData or WagonData into stock name and folder.
 void splitVehicleData(std::string_view value, std::string& name, std::string& folder);
 
@@ -32,6 +37,10 @@ struct VehicleLines {
 
 // The whole text, lines ending in CR LF. `rame.CfgName` as it goes into the file (see quotedName()).
 std::string buildConsistText(const Rame& rame, const std::vector<VehicleLines>& vehicles);
+// The first vehicle that this text would not give back as it is, from 0: its name or its folder holds what
+// no consist file can. Nothing when all come back.
+std::optional<std::size_t> findUnreadable(SimReader& reader, const Rame& rame,
+                                          const std::vector<VehicleLines>& vehicles);
 // As the file holds it: the mark FF FE and UTF-16.
 std::string encodeConsist(std::string_view text);
 // In quotes when a blank or a bracket would end the name for a reader; short names, stock names and folders

@@ -116,6 +116,24 @@ TEST_F(SaveTest, AFullNameOfAnyLettersKeepsTheVehicles) {
     }
 }
 
+TEST_F(SaveTest, StockThatNoFileCanHoldIsRefusedByItsName) {
+    for (const int index : {addStock("a\nb.wag"), addStock("c\t.wag"), addStock(".eng"),
+                            addStock("d.wag", "", "e\t"), addStock("f.wag", "", "g\r\nh")}) {
+        initialiseDocument(editor);
+        state.HasFile = false;
+        appendStock(editor, loco);
+        appendStock(editor, index);
+        nameConsist("odd");
+        const auto before = files.allFiles();
+        dialogs.shown.clear();
+        SaveFileRame(editor);
+        const Materiel& odd = catalogue.Materiels[static_cast<std::size_t>(index)];
+        EXPECT_EQ(shown(), Shown{"48 unwritable " + odd.Folder + "\\" + odd.FileName});
+        EXPECT_EQ(files.allFiles(), before);
+        EXPECT_TRUE(state.Modified && !state.HasFile);
+    }
+}
+
 TEST_F(SaveTest, BlanksAndBracketsInNamesAreQuotedOnceHoweverOftenItIsSaved) {
     appendStock(editor, addStock("My Wagon.wag", "", "My Folder"));
     nameConsist("My Train");

@@ -46,7 +46,9 @@ TEST_F(ConsistFixture, VehicleDataIsSplitIntoNameAndFolder) {
     for (const Row& row :
          {Row{"Loco_A Park_A", "Loco_A", "Park_A"}, Row{"\"A B\" \"C D\"", "A B", "C D"},
           Row{"\"A B\" Park", "A B", "Park"}, Row{"Loco \"C D\"", "Loco", "C D"}, Row{"Loco_A", "", "Loco_A"},
-          Row{"\"\" x", "\"", "x"}, Row{"", "", ""}, Row{"\"", "", ""}, Row{"\"A B", "A", "B"}}) {
+          Row{"Car Coach (old)", "Car", "Coach (old)"}, Row{"Car(1) (a) (b)", "Car(1)", "(a) (b)"},
+          Row{"Car Park)", "Car", "Park"}, Row{"\"\" x", "\"", "x"}, Row{"", "", ""}, Row{"\"", "", ""},
+          Row{"\"A B", "A", "B"}}) {
         std::string name, folder;
         splitVehicleData(row.value, name, folder);
         EXPECT_EQ(name, row.name) << row.value;
@@ -89,6 +91,42 @@ TEST_F(ConsistFixture, ASecondConsistOfTheFileJoinsTheFirst) {
     EXPECT_EQ(rame.CfgName, "B");
     ASSERT_EQ(items.size(), 2u);
     EXPECT_EQ(items[0].Name + items[1].Name, "W1W2");
+}
+
+TEST_F(ConsistFixture, VehiclesAreFoundAmongBracketsRemarksAndNamesBelow) {
+    EXPECT_FALSE(read("TrainCfg (\n\"Two Words\"\nName ( \"Full\" )\n"
+                      "Wagon (\nWagonData ( Fell_Van Coach (old) )\nUiD ( 3 )\n)\n"
+                      "(* Wagon (\nWagonData ( Gone Park )\n) *)\n"
+                      "Engine ( EngineData ( Defaut_Loco (a) ) Flip ( ) )\n"
+                      "Wagon (\n(* old\nWagonData Gone Park\n*)\nWagonData ( \"Wag (1)\" Park )\n)\n)\n"));
+    EXPECT_EQ(rame.CfgName + "|" + rame.Name, "Two Words|Full");
+    std::string all;
+    for (const RameItem& item : items)
+        all += item.Name + "/" + item.Folder + (item.Flip ? "!;" : ";");
+    EXPECT_EQ(all, "Fell_Van/Coach (old);Defaut_Loco/(a)!;Wag (1)/Park;");
+    EXPECT_EQ(items[0].UiD, 3);
+}
+
+// A name of a file or a folder comes back as it was, or is told to be one that doesn't.
+TEST_F(ConsistFixture, ANameReadsBackOrIsFound) {
+    const std::string_view comeBack[] = {"Car",  "A  (b", "(* a *)", " a ", "Defaut_Wagon", "a+",
+                                         "5\"g", "#1",    "£¤@3",    "a)",  "Жд é 日",      "+"};
+    const std::string_view lost[] = {"a\tb", "a\t",   "a\nb",           "a\r", "",
+                                     "\"",   "\"a\"", "a \") Flip ( )", "\xFF"};
+    rame.CfgName = rame.Name = "Test";
+    const VehicleLines plain{true, true, 1, "Loco", "Park", "EngineVariables(1 2)"};
+    const auto firstLost = [&](std::string_view name, std::string_view folder) {
+        const VehicleLines odd{false, false, 2, std::string(name), std::string(folder), ""};
+        return findUnreadable(reader, rame, {plain, odd, odd, plain});
+    };
+    for (const std::string_view name : comeBack) {
+        EXPECT_FALSE(firstLost(name, "Park")) << name;
+        EXPECT_FALSE(firstLost("Car", name)) << name;
+    }
+    for (const std::string_view name : lost) {
+        EXPECT_EQ(firstLost(name, "Park"), 1u) << name;
+        EXPECT_EQ(firstLost("Car", name), 1u) << name;
+    }
 }
 
 TEST_F(ConsistFixture, NumbersOverSeveralLinesAreKept) {
