@@ -116,6 +116,7 @@ FolderWindow::FolderWindow(Frame& frame, const FolderChoice& choice, DiskMaker d
         ok_->setEnabled(true);
         showPath();
     });
+    keepFromWheel(*drives_);
     connect(drives_, &QComboBox::activated, this, [this](int index) {
         list_->setPath(driveList_[index].path);
         ok_->setEnabled(true);

@@ -1,10 +1,14 @@
 #include "frame/windows/theme.h"
 
+#include "frame/windows/pixel_grid.h"
+
 #include <QApplication>
 #include <QEvent>
+#include <QPainter>
 #include <QPalette>
-#include <QStyle>
+#include <QProxyStyle>
 #include <QStyleFactory>
+#include <QStyleOption>
 #include <QWidget>
 
 namespace zandor {
@@ -16,6 +20,28 @@ constexpr double HintShare = 0.7; // of the text's colour
 int blended(int over, int under) {
     return qRound(over * HintShare + under * (1 - HintShare));
 }
+
+constexpr const char* PlainStyle = "Fusion";
+
+// That style cuts off a part of its frames' lines when the screen has more device pixels than the window
+// counts.
+class WholeFrames final : public QProxyStyle {
+  public:
+    WholeFrames() : QProxyStyle(PlainStyle) {}
+
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                       const QWidget* widget) const override {
+        if (element != PE_Frame || (widget && widget->inherits("QComboBoxPrivateContainer")))
+            return QProxyStyle::drawPrimitive(element, option, painter, widget);
+        const PixelGrid grid(*painter);
+        grid.frame(grid.inside(option->rect), 1, frameLine(option->palette));
+    }
+
+  private:
+    static QColor frameLine(const QPalette& palette) {
+        return palette.color(QPalette::Window).darker(140).lighter(108); // as the style has it
+    }
+};
 
 // Keeps a widget's text in the hint colour of the palette at hand.
 class HintKeeper final : public QObject {
@@ -64,8 +90,10 @@ void showAsHint(QWidget& widget) {
 
 void applyTheme(QApplication& application) {
     // The toolkit falls back on its oldest look where the desktop has none of its own.
-    if (QApplication::style()->name().compare("windows", Qt::CaseInsensitive) == 0)
-        application.setStyle(QStyleFactory::create("Fusion"));
+    const QString name = QApplication::style()->name();
+    for (const char* replaced : {"windows", PlainStyle})
+        if (name.compare(QLatin1String(replaced), Qt::CaseInsensitive) == 0)
+            return application.setStyle(new WholeFrames);
 }
 
 } // namespace zandor

@@ -16,6 +16,8 @@ bool callsItself(const QLocale& locale, const QString& name) {
     return !name.isEmpty() && (own == name || own.startsWith(name + u' '));
 }
 
+} // namespace
+
 QLocale localeOf(const QString& language) {
     const QList<QLocale> all =
         QLocale::matchingLocales(QLocale::AnyLanguage, QLocale::AnyScript, QLocale::AnyTerritory);
@@ -24,8 +26,6 @@ QLocale localeOf(const QString& language) {
     });
     return found == all.end() ? QLocale(QLocale::English) : *found;
 }
-
-} // namespace
 
 void ToolkitLanguage::follow(const QString& name) {
     QCoreApplication::removeTranslator(&texts_);

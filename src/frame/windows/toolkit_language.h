@@ -4,9 +4,13 @@
 
 #include <QTranslator>
 
+class QLocale;
 class QString;
 
 namespace zandor {
+
+// Of a language as it calls itself, in any case; English for one that isn't known.
+QLocale localeOf(const QString& language);
 
 class ToolkitLanguage {
   public:

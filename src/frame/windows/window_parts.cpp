@@ -24,6 +24,19 @@ QRect screenOf(const QWidget& widget) {
     return widget.screen()->availableGeometry();
 }
 
+class WheelGuard final : public QObject {
+  public:
+    using QObject::QObject;
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() != QEvent::Wheel || static_cast<QWidget*>(watched)->hasFocus())
+            return false;
+        event->ignore();
+        return true;
+    }
+};
+
 } // namespace
 
 QWidget* parentOfDialogs() {
@@ -124,6 +137,11 @@ void WrappedText::changeEvent(QEvent* event) {
     QTextEdit::changeEvent(event);
     if (event->type() == QEvent::FontChange)
         measure();
+}
+
+void keepFromWheel(QWidget& widget) {
+    widget.setFocusPolicy(Qt::StrongFocus); // not by the wheel itself
+    widget.installEventFilter(new WheelGuard(&widget));
 }
 
 void makeSameWidth(const std::vector<QPushButton*>& buttons) {

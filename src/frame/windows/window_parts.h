@@ -54,6 +54,10 @@ class WrappedText final : public QTextEdit {
     QSize wanted_;
 };
 
+// The wheel changes a slider or a list of choices only while the keyboard is there; otherwise it scrolls what
+// is around it.
+void keepFromWheel(QWidget& widget);
+
 // Buttons as wide as the widest of them.
 void makeSameWidth(const std::vector<QPushButton*>& buttons);
 
