@@ -104,6 +104,7 @@ StripHit HitTestStrip(const ConsistDocument& document, int x, int y);
 
 // Adds a vehicle at the drag's target or at the end: entry `index` of Materiels, of the simulator snapshot,
 // or with neither a Missing one made from `origin`.
+// Outside a loading it becomes the selected one.
 void InsertVehicule(Editor& editor, int index, bool fromMateriels, bool fromSimulator,
                     const RameItem* origin = nullptr);
 // False: refused for its couplings, nothing changed.

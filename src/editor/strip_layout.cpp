@@ -17,6 +17,7 @@ bool isInside(const EditorControls& controls, int x, int y) {
 
 void updateScrollRange(ConsistDocument& document) {
     EditorControls& controls = document.controls;
+    controls.scrollLargeStep = std::max(1, controls.viewWidth); // the handle is as large as what is seen
     controls.scrollEnabled = document.StripWidth > controls.viewWidth;
     if (!controls.scrollEnabled) {
         controls.scrollValue = controls.scrollMaximum = 0;
@@ -27,7 +28,6 @@ void updateScrollRange(ConsistDocument& document) {
         controls.scrollMaximum = range;
     controls.scrollValue = std::clamp(controls.scrollValue, 0, controls.scrollMaximum);
     controls.scrollSmallStep = std::max(1, controls.scrollMaximum / 20);
-    controls.scrollLargeStep = std::max(1, controls.scrollMaximum / 65);
 }
 
 // Cut behind the third decimal, not rounded.

@@ -53,9 +53,7 @@ bool insertBeforeSelected(Editor& editor, int materielIndex) {
     document.DragSource = std::max(0, position - 1);
     document.DragAtFront = position == 0;
     const bool inserted = dropStock(editor, materielIndex);
-    if (inserted)
-        selectVehicule(document,
-                       position + 1); // the same one still: what follows stands in the order it came
+    selectVehicule(document, position); // the new one, or still the old: brought into sight
     return inserted;
 }
 

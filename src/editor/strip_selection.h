@@ -12,8 +12,8 @@ bool hasSelection(const ConsistDocument& document);
 // Selects a vehicle, the nearest one when there is none at the position, and scrolls it into sight.
 void selectVehicule(ConsistDocument& document, int position);
 
-// Entry `materielIndex` put in front of the selected vehicle, at the end when none is selected. False:
-// refused.
+// Entry `materielIndex` put in front of the selected vehicle, at the end when none is selected; it is the
+// selected one from then on. False: refused.
 bool insertBeforeSelected(Editor& editor, int materielIndex);
 // One place to the left (-1) or to the right (1). False: refused.
 bool moveSelected(Editor& editor, int step);

@@ -84,10 +84,10 @@ bool acceptsMove(Editor& editor, int from, int to, bool atEnd) {
     return fits || reactToBadCoupling(editor);
 }
 
-void insertAt(ConsistDocument& document, int position, Vehicule vehicule) {
-    document.Vehicules.insert(document.Vehicules.begin() + position, std::move(vehicule));
-    if (document.selected >= position)
-        ++document.selected;
+// At the drag's target, or behind the last vehicle.
+int insertPosition(const ConsistDocument& document) {
+    const bool amid = document.DragActive && !document.DragAtEnd && isPosition(document, document.DragTarget);
+    return amid ? document.DragTarget : vehicleCount(document);
 }
 
 } // namespace
@@ -103,18 +103,18 @@ void InsertVehicule(Editor& editor, int index, bool fromMateriels, bool fromSimu
     vehicule.Number = document.NextNumber;
     vehicule.Width = document.PictureWidth;
 
+    const int position = insertPosition(document);
     std::vector<Vehicule>& vehicules = document.Vehicules;
     if (!hasVehicles(document))
         vehicules.assign(1, std::move(vehicule));
-    else if (document.DragActive && !document.DragAtEnd && isPosition(document, document.DragTarget))
-        insertAt(document, document.DragTarget, std::move(vehicule));
     else
-        vehicules.push_back(std::move(vehicule));
+        vehicules.insert(vehicules.begin() + position, std::move(vehicule));
 
     document.NextNumber = numberAfter(document, document.NextNumber);
     document.StripWidth += document.PictureWidth;
     if (document.Loading)
         return; // the strip is laid out once, when the whole consist stands
+    document.selected = position;
     setModified(editor, true);
     updateStrip(editor);
 }
@@ -180,8 +180,10 @@ void numberButtonPressed(Editor& editor) {
 
 void flipVehicule(Editor& editor, int x, int y) {
     const StripHit hit = HitTestStrip(editor.document, x, y);
-    if (hit.hit)
+    if (hit.hit) {
+        editor.document.selected = hit.index;
         flipVehiculeAt(editor, hit.index);
+    }
     clearDrag(editor.document);
 }
 

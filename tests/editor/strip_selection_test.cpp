@@ -35,16 +35,18 @@ TEST_F(SelectionTest, MovesStepByStepAndNotBeyondTheEnds) {
 }
 
 TEST_F(SelectionTest, InsertsInFrontOfItOrAtTheEnd) {
+    document.selected = -1;
     EXPECT_TRUE(insertBeforeSelected(editor, stockOf('x')));
     EXPECT_EQ(order(), "ABCDx") << "nothing was selected";
+    EXPECT_EQ(selected(), "x");
     selectVehicule(document, 1);
     EXPECT_TRUE(insertBeforeSelected(editor, stockOf('y')));
-    EXPECT_TRUE(insertBeforeSelected(editor, stockOf('z')));
-    EXPECT_EQ(order(), "AyzBCDx");
-    EXPECT_EQ(selected(), "B");
+    EXPECT_EQ(order(), "AyBCDx");
+    EXPECT_EQ(selected(), "y");
     selectVehicule(document, 0);
     EXPECT_TRUE(insertBeforeSelected(editor, stockOf('w')));
-    EXPECT_EQ(order(), "wAyzBCDx");
+    EXPECT_EQ(order(), "wAyBCDx");
+    EXPECT_EQ(selected(), "w");
 }
 
 TEST_F(SelectionTest, StaysOnItsVehicleWhateverTheMouseDoes) {
@@ -83,6 +85,7 @@ TEST_F(SelectionTest, RefusesWhatDoesNotFit) {
 TEST_F(SelectionTest, FlipsScrollsAndTells) {
     files.put(state.LanguagePath,
               "[English]\r\n86=|1/|2 |3 |4\r\n87=|1/|2 |3 |4 flipped\r\n88=|1 missing\r\n89=none\r\n");
+    document.selected = -1;
     EXPECT_EQ(describeSelected(editor), "none");
     controls.viewWidth = 200;
     updateStrip(editor);

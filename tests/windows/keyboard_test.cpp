@@ -5,6 +5,7 @@
 
 #include <QAction>
 #include <QMenu>
+#include <QShortcut>
 #include <QUrl>
 
 namespace zandor {
@@ -15,33 +16,50 @@ struct KeyboardTest : WindowTest {
         window->activateWindow();
         EXPECT_TRUE(QTest::qWaitForWindowActive(window.get()));
     }
-    std::string selected() const {
-        return document.selected < 0 ? ""
-                                     : document.Vehicules[static_cast<std::size_t>(document.selected)].Name;
-    }
-    void dropFile(const QString& path) {
+    // What the source of the drag is told that became of the file.
+    Qt::DropAction dropFile(const QString& path, Qt::DropActions offered = Qt::CopyAction,
+                            const char* onto = nullptr) {
+        QWidget& target = onto ? get<QWidget>(onto) : *window;
         QMimeData data;
         data.setUrls({QUrl("https://example.org/a.con"), QUrl::fromLocalFile(path)});
-        QDragEnterEvent enter({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, {});
-        QApplication::sendEvent(window.get(), &enter);
+        data.setText(path);
+        QDragEnterEvent enter({5, 5}, offered, &data, Qt::LeftButton, Qt::ShiftModifier);
+        enter.ignore();
+        QApplication::sendEvent(&target, &enter);
         if (!enter.isAccepted())
-            return;
-        QDropEvent drop({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, {});
-        QApplication::sendEvent(window.get(), &drop);
+            return Qt::IgnoreAction;
+        QDragMoveEvent move({6, 5}, offered, &data, Qt::LeftButton, Qt::ShiftModifier);
+        QApplication::sendEvent(&target, &move);
+        EXPECT_EQ(move.dropAction(), enter.dropAction());
+        QDropEvent drop({6, 5}, offered, &data, Qt::LeftButton, Qt::ShiftModifier);
+        QApplication::sendEvent(&target, &drop);
         QTest::qWait(5);
+        return drop.isAccepted() ? drop.dropAction() : Qt::IgnoreAction;
+    }
+    // Every key that works in the whole window.
+    std::vector<std::pair<QString, QKeySequence>> windowKeys() {
+        std::vector<std::pair<QString, QKeySequence>> keys;
+        for (const QAction* action : window->actions())
+            for (const QKeySequence& key : action->shortcuts())
+                keys.emplace_back(action->objectName(), key);
+        for (const QShortcut* shortcut : window->findChildren<QShortcut*>())
+            for (const QKeySequence& key : shortcut->keys())
+                keys.emplace_back("shortcut", key);
+        return keys;
     }
 };
 
 TEST_F(KeyboardTest, AConsistIsMadeWithoutTheMouse) {
     list().setFocus();
-    QTest::keyClick(&list(), Qt::Key_Return);                      // BB 9288
-    QTest::keyClick(&list(), Qt::Key_Down);                        // CC 6500
-    QTest::keyClick(window.get(), Qt::Key_E, Qt::ControlModifier); // at the end
+    QTest::keyClick(&list(), Qt::Key_Return);                           // BB 9288
+    QTest::keyClick(&list(), Qt::Key_Down);                             // CC 6500
+    QTest::keyClick(window.get(), Qt::Key_Return, Qt::ControlModifier); // at the end
     strip().setFocus();
     QTest::keyClick(&strip(), Qt::Key_End);
     EXPECT_EQ(selected(), "CC 6500");
-    QTest::keyClick(window.get(), Qt::Key_B, Qt::ControlModifier); // one more in front of it
+    QTest::keyClick(window.get(), Qt::Key_I, Qt::ControlModifier); // one more in front of it
     EXPECT_EQ(vehicles(), (Names{"BB 9288", "CC 6500", "CC 6500"}));
+    EXPECT_EQ(document.selected, 1) << "the new one";
     QTest::keyClick(&strip(), Qt::Key_Left);
     QTest::keyClick(&strip(), Qt::Key_Left);
     QTest::keyClick(&strip(), Qt::Key_Left); // not beyond the first
@@ -74,7 +92,7 @@ TEST_F(KeyboardTest, TheSelectedVehicleIsFoundInTheList) {
     build({"BB 9288", "Wagon plat"});
     strip().setFocus();
     QTest::keyClick(&strip(), Qt::Key_End);
-    QTest::keyClick(window.get(), Qt::Key_F, Qt::ControlModifier);
+    QTest::keyClick(window.get(), Qt::Key_L, Qt::ControlModifier);
     EXPECT_EQ(list().currentKey(), keyOf("Wagon plat"));
 }
 
@@ -88,6 +106,64 @@ TEST_F(KeyboardTest, DeleteInATextBoxDeletesText) {
     QTest::keyClick(&name, Qt::Key_Delete);
     EXPECT_EQ(name.text(), "b");
     EXPECT_EQ(vehicles().size(), 1u);
+}
+
+// What edits a line of text on any desktop is no key of ours: where the keyboard is in a box, the box takes
+// it.
+TEST_F(KeyboardTest, NoKeyOfTheWindowIsOneOfATextBox) {
+    QList<QKeySequence> ofBoxes;
+    for (const char letter : std::string_view("ABCDEFHKUVWXYZ"))
+        ofBoxes += QKeySequence(Qt::CTRL | static_cast<Qt::Key>(letter));
+    for (int key = QKeySequence::MoveToNextChar; key <= QKeySequence::DeleteEndOfLine; ++key)
+        ofBoxes += QKeySequence::keyBindings(static_cast<QKeySequence::StandardKey>(key));
+    for (const auto key : {QKeySequence::Delete, QKeySequence::Backspace, QKeySequence::Cut,
+                           QKeySequence::Copy, QKeySequence::Paste, QKeySequence::Undo, QKeySequence::Redo,
+                           QKeySequence::SelectAll, QKeySequence::Deselect, QKeySequence::DeleteCompleteLine})
+        ofBoxes += QKeySequence::keyBindings(key);
+    const auto keys = windowKeys();
+    EXPECT_GE(keys.size(), 8u);
+    for (const auto& [name, key] : keys)
+        EXPECT_FALSE(ofBoxes.contains(key)) << name.toStdString() << " " << key.toString().toStdString();
+    build({"BB 9288"});
+    document.selected = 0;
+    window->refresh();
+    QLineEdit& box = get<QLineEdit>("tbFULL_NAME");
+    QTest::keyClicks(&box, "a name");
+    for (const char* name : {"actINSERT_END", "actINSERT_BEFORE", "actRENUMBER", "actFIND"})
+        for (const QKeySequence& key : window->findChild<QAction*>(name)->shortcuts()) {
+            box.setFocus();
+            box.setSelection(1, 3);
+            bool done = false;
+            const auto watch = QObject::connect(window->findChild<QAction*>(name), &QAction::triggered,
+                                                window.get(), [&done] { done = true; });
+            QTest::keySequence(&box, key);
+            QObject::disconnect(watch);
+            EXPECT_TRUE(done) << name;
+            EXPECT_EQ(box.text(), "a name") << name;
+        }
+    EXPECT_EQ(vehicles().size(), 4u) << "two ways to append, one to insert";
+}
+
+TEST_F(KeyboardTest, TheWheelTurnsOnlyWhatHasTheKeyboard) {
+    get<QComboBox>("cmbMATERIEL").setCurrentIndex(1);
+    get<QSlider>("Slider1").setValue(500);
+    for (const char* name : {"cmbMATERIEL", "Slider1"}) {
+        QWidget& turned = get<QWidget>(name);
+        const auto value = [&] {
+            return get<QComboBox>("cmbMATERIEL").currentIndex() * 10000 + get<QSlider>("Slider1").value();
+        };
+        for (const bool focused : {false, true}) {
+            (focused ? turned : static_cast<QWidget&>(strip())).setFocus();
+            const int before = value();
+            const QPointF middle = turned.rect().center();
+            QWheelEvent wheel(middle, turned.mapToGlobal(middle), {}, {0, -120}, {}, {}, Qt::NoScrollPhase,
+                              false);
+            QApplication::sendEvent(&turned, &wheel);
+            EXPECT_EQ(value() != before, focused) << name;
+            EXPECT_EQ(wheel.isAccepted(), focused) << name << ": what is around it scrolls";
+        }
+        EXPECT_FALSE((turned.focusPolicy() & Qt::WheelFocus) == Qt::WheelFocus) << name;
+    }
 }
 
 TEST_F(KeyboardTest, TheMenuOffersWhatMakesSense) {
@@ -144,6 +220,23 @@ TEST_F(KeyboardTest, ADroppedConsistOpensAfterTheQuestion) {
     EXPECT_TRUE(test.dialogs.shown.empty());
 }
 
+// A source that is told of a move deletes its file.
+TEST_F(KeyboardTest, ADroppedFileIsNeverMoved) {
+    struct Case {
+        Qt::DropActions offered;
+        Qt::DropAction told;
+    };
+    const Case cases[] = {{Qt::CopyAction | Qt::MoveAction, Qt::CopyAction},
+                          {Qt::CopyAction | Qt::MoveAction | Qt::LinkAction, Qt::CopyAction},
+                          {Qt::MoveAction, Qt::IgnoreAction},
+                          {Qt::MoveAction | Qt::LinkAction, Qt::IgnoreAction}};
+    for (const char* onto : {static_cast<const char*>(nullptr), "tbFULL_NAME", "tbNAME"})
+        for (const Case& c : cases)
+            EXPECT_EQ(dropFile("/given/given.con", c.offered, onto), c.told) << (onto ? onto : "window");
+    EXPECT_EQ(dropFile("/given/readme.txt", Qt::MoveAction, "tbFULL_NAME"), Qt::IgnoreAction);
+    EXPECT_EQ(get<QLineEdit>("tbFULL_NAME").text(), "");
+}
+
 TEST_F(KeyboardTest, TheWindowComesBackWhereItWas) {
     window->resize(1100, 650);
     QTest::qWait(1);
@@ -153,6 +246,20 @@ TEST_F(KeyboardTest, TheWindowComesBackWhereItWas) {
     writeWindowPlace(test.frame, "Window", "Main", {90000, 0, 1200, 700, false}); // of a screen that is gone
     frmPrincipal other(editor);
     EXPECT_TRUE(QGuiApplication::screenAt(other.geometry().center()));
+    const QRect screen = other.screen()->availableGeometry();
+    writeWindowPlace(test.frame, "Window", "Main",
+                     {screen.right() - 100, screen.bottom() - 100, 700, 500, false});
+    frmPrincipal third(editor);
+    third.show();
+    QTest::qWait(1);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return screen.contains(third.frameGeometry()); }, 2000));
+    EXPECT_EQ(third.size(), QSize(700, 500));
+    third.setWindowState(Qt::WindowMaximized);
+    QTest::qWait(200);
+    third.close();
+    EXPECT_NE(test.files.get(state.IniPath).value_or("").find("MainWidth=700"), std::string::npos);
+    frmPrincipal fourth(editor);
+    EXPECT_TRUE(fourth.isMaximized());
 }
 
 } // namespace

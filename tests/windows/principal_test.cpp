@@ -1,6 +1,7 @@
 #include "windows/window_fixture.h"
 
 #include <QHeaderView>
+#include <QScrollArea>
 
 namespace zandor {
 namespace {
@@ -23,28 +24,40 @@ TEST_F(WindowTest, ACommandThatLeadsNowhereIsNotOffered) {
     EXPECT_FALSE(get<QPushButton>("cmdDELETE").isVisible());
 }
 
+constexpr const char* Languages[] = {"Français", "English", "Deutsch", "Italiano", "Español", "Nederlands"};
+
+// A screen of 1280 x 800 at 200 and 150 % less the window's frame; and a common one.
 TEST_F(WindowTest, NothingIsCutOnALowScreenInAnyLanguage) {
-    for (const char* language : {"Français", "English", "Deutsch"}) {
+    build({"BB 9288", "CC 6500", "BB 67400"}); // a long line of totals
+    for (const char* language : Languages) {
         state.Language = language;
         window->applyLanguage();
-        QTest::qWait(1);
-        const QSize least = window->minimumSizeHint();
-        EXPECT_LE(least.width(), 900) << language;
-        EXPECT_LE(least.height(), 460) << language;
-        window->resize(1024, 700);
-        QTest::qWait(1);
-        for (QPushButton* button : window->findChildren<QPushButton*>()) {
-            EXPECT_GE(button->width(), button->sizeHint().width()) << button->text().toStdString();
-            EXPECT_FALSE(button->text().isEmpty()) << language << " " << button->objectName().toStdString();
+        for (const QSize size : {QSize(632, 366), QSize(845, 499), QSize(1024, 700)}) {
+            window->resize(size);
+            QTest::qWait(1);
+            window->resize(size); // a second row of buttons may have come or gone
+            QTest::qWait(1);
+            EXPECT_EQ(window->size(), size) << language;
+            EXPECT_EQ(strip().visibleRegion().boundingRect(), strip().rect()) << language;
+            for (QPushButton* button : window->findChildren<QPushButton*>()) {
+                EXPECT_GE(button->width(), button->sizeHint().width()) << button->text().toStdString();
+                EXPECT_FALSE(button->text().isEmpty())
+                    << language << " " << button->objectName().toStdString();
+                const QRect seen =
+                    button->isVisible() ? button->visibleRegion().boundingRect() : button->rect();
+                EXPECT_EQ(seen, button->rect()) << language << " " << button->text().toStdString();
+            }
+            for (const char* name : {"lblNAME", "lblFULL_NAME", "lblSLIDER", "lblCLASS", "lblRESISTANCE"})
+                EXPECT_GE(get<QLabel>(name).width(), get<QLabel>(name).minimumSizeHint().width()) << name;
+            for (const QScrollArea* area : window->findChildren<QScrollArea*>())
+                EXPECT_LE(area->widget()->width(), area->viewport()->width()) << language;
         }
-        for (const char* name : {"lblNAME", "lblFULL_NAME", "lblSLIDER", "lblCLASS", "lblRESISTANCE"})
-            EXPECT_GE(get<QLabel>(name).width(), get<QLabel>(name).minimumSizeHint().width()) << name;
     }
 }
 
 // A letter that reaches two controls reaches none.
 TEST_F(WindowTest, EveryMnemonicIsItsOwn) {
-    for (const char* language : {"Français", "English", "Deutsch"}) {
+    for (const char* language : Languages) {
         state.Language = language;
         window->applyLanguage();
         QString seen;
@@ -100,6 +113,25 @@ TEST_F(WindowTest, ColumnClicksTurnTheOrderRoundAndKeepTheSelection) {
     }
 }
 
+TEST_F(WindowTest, NamesStandInTheOrderOfTheLanguage) {
+    const Materiel sample = catalogue.Materiels[stockIndex("BB 9288")];
+    catalogue.Materiels.clear();
+    for (const char* name : {"BB 10", "bb 9", "Zug", "Nz", "Ña", "élan", "Elm", "Ela", "BB 9", "BB 007"}) {
+        catalogue.Materiels.push_back(sample);
+        catalogue.Materiels.back().EngineName = name;
+    }
+    window->chooseLanguage("English");
+    window->fillStockList();
+    const Names english = {"BB 007", "bb 9", "BB 9", "BB 10", "Ela", "élan", "Elm", "Ña", "Nz", "Zug"};
+    EXPECT_EQ(listed(), english);
+    const QString chosen = list().currentKey();
+    window->chooseLanguage("Español");
+    EXPECT_EQ(list().currentKey(), chosen);
+    EXPECT_EQ(listed(), (Names{"BB 007", "bb 9", "BB 9", "BB 10", "Ela", "élan", "Elm", "Nz", "Ña", "Zug"}));
+    list().stock()->sort(0, Qt::DescendingOrder);
+    EXPECT_EQ(listed(), (Names{"Zug", "Ña", "Nz", "Elm", "élan", "Ela", "BB 10", "bb 9", "BB 9", "BB 007"}));
+}
+
 TEST_F(WindowTest, UnusedStockIsGreenUntilAConsistUsesIt) {
     const auto colour = [this](int row) {
         return list().model()->index(row, 0).data(Qt::ForegroundRole).value<QColor>();
@@ -119,6 +151,7 @@ TEST_F(WindowTest, DoubleClickAndEnterAppend) {
     QTest::keyClick(&list(), Qt::Key_Up);
     QTest::keyClick(&list(), Qt::Key_Return);
     EXPECT_EQ(vehicles(), (Names{"CC 6500", "BB 9288"}));
+    EXPECT_TRUE(get<QLabel>("lblSTATUS").text().contains("BB 9288"));
     EXPECT_TRUE(get<QPushButton>("cmdSAVE").isEnabled());
     EXPECT_FALSE(get<QLabel>("lblLongueurNewRame").text().isEmpty());
 }
@@ -144,6 +177,8 @@ TEST_F(WindowTest, StockIsDroppedWhereItWasShown) {
         moveOverStrip(*data, c.at);
         dropOnStrip(*data, c.at);
         EXPECT_EQ(vehicles(), c.after) << c.what;
+        EXPECT_EQ(selected(), "BB 67400") << c.what;
+        EXPECT_TRUE(get<QLabel>("lblSTATUS").text().contains("BB 67400")) << c.what;
         EXPECT_FALSE(document.DragActive);
         EXPECT_TRUE(state.Modified);
     }
@@ -196,15 +231,22 @@ TEST_F(WindowTest, VehiclesAreMovedAndThrownAway) {
         const char* what;
         QPoint from, to;
         Names after;
+        const char* selected;
         bool modified;
     };
     const Case cases[] = {
-        {"to the right", onVehicle(0), onVehicle(2), {"CC 6500", "BB 9288", "BB 67400"}, true},
-        {"to the end", onVehicle(0), behind(3), {"CC 6500", "BB 67400", "BB 9288"}, true},
-        {"to the front", onVehicle(2), onVehicle(0), {"BB 67400", "BB 9288", "CC 6500"}, true},
-        {"onto its neighbour's left", onVehicle(0), onVehicle(1), {"BB 9288", "CC 6500", "BB 67400"}, false},
-        {"onto itself", onVehicle(1), onVehicle(1), {"BB 9288", "CC 6500", "BB 67400"}, false},
-        {"away", onVehicle(1), away, {"BB 9288", "BB 67400"}, true},
+        {"to the right", onVehicle(0), onVehicle(2), {"CC 6500", "BB 9288", "BB 67400"}, "BB 9288", true},
+        {"to the end", onVehicle(0), behind(3), {"CC 6500", "BB 67400", "BB 9288"}, "BB 9288", true},
+        {"to the front", onVehicle(2), onVehicle(0), {"BB 67400", "BB 9288", "CC 6500"}, "BB 67400", true},
+        {"onto its neighbour's left",
+         onVehicle(0),
+         onVehicle(1),
+         {"BB 9288", "CC 6500", "BB 67400"},
+         "BB 9288",
+         false},
+        {"onto itself", onVehicle(1), onVehicle(1), {"BB 9288", "CC 6500", "BB 67400"}, "CC 6500", false},
+        {"away", onVehicle(1), away, {"BB 9288", "BB 67400"}, "BB 67400", true},
+        {"the last away", onVehicle(2), away, {"BB 9288", "CC 6500"}, "CC 6500", true},
     };
     for (const Case& c : cases) {
         newConsist(editor);
@@ -212,6 +254,8 @@ TEST_F(WindowTest, VehiclesAreMovedAndThrownAway) {
         drag(c.from, c.to);
         EXPECT_EQ(vehicles(), c.after) << c.what;
         EXPECT_EQ(state.Modified, c.modified) << c.what;
+        EXPECT_EQ(selected(), c.selected) << c.what;
+        EXPECT_TRUE(get<QLabel>("lblSTATUS").text().contains(c.selected)) << c.what;
         EXPECT_FALSE(document.DragActive) << c.what;
         EXPECT_TRUE(test.dialogs.shown.empty()) << c.what;
         state.Modified = false;
@@ -244,18 +288,40 @@ TEST_F(WindowTest, EscapeAndLostFocusPutAHeldVehicleBack) {
     }
 }
 
+// The bin wherever letting go throws the vehicle away, and nowhere else.
 TEST_F(WindowTest, ThePointerShowsWhatLettingGoWouldDo) {
-    build({"BB 9288"});
-    QTest::mousePress(&strip(), Qt::LeftButton, {}, onVehicle(0));
-    moveHeld(onVehicle(0) + QPoint(20, 0));
-    ASSERT_TRUE(QApplication::overrideCursor());
-    EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::ClosedHandCursor);
-    moveHeld({5, 400});
-    EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::BitmapCursor);
-    moveHeld(fromWindow(get<QWidget>("picPREVIEW")));
-    EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::ClosedHandCursor);
-    QTest::mouseRelease(&strip(), Qt::LeftButton, {}, onVehicle(0));
-    EXPECT_FALSE(QApplication::overrideCursor());
+    const QWidget& preview = get<QWidget>("picPREVIEW");
+    const auto ofPreview = [&](QPoint at) { return strip().mapFromGlobal(preview.mapToGlobal(at)); };
+    struct Case {
+        const char* what;
+        QPoint at;
+        bool thrownAway;
+    };
+    const Case cases[] = {
+        {"a little further", onVehicle(0) + QPoint(20, 0), false},
+        {"the strip's last line", {30, strip().height() - 1}, false},
+        {"under it", {30, strip().height()}, true},
+        {"far below", {5, 400}, true},
+        {"the preview", ofPreview(preview.rect().center()), false},
+        {"its corner", ofPreview({0, 0}), false},
+        {"left of it", ofPreview({-1, 20}), true},
+        {"above it", ofPreview({20, -1}), true},
+        {"right of it", ofPreview({preview.width(), 20}), true},
+        {"between it and the strip", ofPreview({20, preview.height()}), true},
+    };
+    for (const Case& c : cases) {
+        newConsist(editor);
+        build({"BB 9288"});
+        QTest::mousePress(&strip(), Qt::LeftButton, {}, onVehicle(0));
+        EXPECT_FALSE(QApplication::overrideCursor()) << "a hand at rest throws nothing away";
+        moveHeld(c.at);
+        ASSERT_TRUE(QApplication::overrideCursor()) << c.what;
+        EXPECT_EQ(QApplication::overrideCursor()->shape() == Qt::BitmapCursor, c.thrownAway) << c.what;
+        QTest::mouseRelease(&strip(), Qt::LeftButton, {}, c.at);
+        EXPECT_FALSE(QApplication::overrideCursor()) << c.what;
+        EXPECT_EQ(vehicles().empty(), c.thrownAway) << c.what;
+        state.Modified = false;
+    }
 }
 
 TEST_F(WindowTest, AHandThatTremblesOverTheEdgeRemovesNothing) {
@@ -296,8 +362,11 @@ TEST_F(WindowTest, AVehicleOnThePreviewIsLookedUpInTheList) {
 TEST_F(WindowTest, TheRightButtonTurnsAVehicleRound) {
     build({"BB 9288", "CC 6500"});
     for (const bool flipped : {true, false}) {
+        document.selected = 0;
         QTest::mouseClick(&strip(), Qt::RightButton, {}, onVehicle(1));
         EXPECT_EQ(document.Vehicules[1].Flipped, flipped);
+        EXPECT_EQ(selected(), "CC 6500");
+        EXPECT_TRUE(get<QLabel>("lblSTATUS").text().contains("CC 6500"));
     }
     EXPECT_TRUE(get<QPushButton>("cmdSAVE").isEnabled());
 }
@@ -455,6 +524,7 @@ TEST_F(WindowTest, AResizedWindowShowsAsMuchOfTheStrip) {
     window->resize(1400, 800);
     QTest::qWait(1);
     EXPECT_EQ(document.controls.viewWidth, strip().width());
+    EXPECT_EQ(get<QScrollBar>("HScrollRAME").pageStep(), strip().width()) << "the handle is as large";
     EXPECT_LT(get<QScrollBar>("HScrollRAME").maximum(), narrow);
     window->resize(1800, 800);
     QTest::qWait(1);

@@ -4,6 +4,9 @@
 #include "windows/window_fixture.h"
 
 #include <QBuffer>
+#include <QFrame>
+#include <QPainter>
+#include <QStyleOptionFrame>
 
 namespace zandor {
 namespace {
@@ -90,6 +93,7 @@ TEST_F(WindowTest, MissingStockAndBadCouplingsShow) {
 TEST_F(WindowTest, AFlippedVehicleIsMirroredUnderAGreenArrow) {
     build({"BB 9288", "BB 9288"});
     QTest::mouseClick(&strip(), Qt::RightButton, {}, onVehicle(1));
+    document.selected = -1; // no frame over the pictures
     const QImage picture = strip().grab().toImage();
     const int x = 2 * PlainPictureWidth - 20;
     for (const QPoint& point :
@@ -242,6 +246,46 @@ TEST_F(PictureTest, TheStripIsSharpAtEveryScale) {
         EXPECT_EQ(at(20.5, 32), green);
         EXPECT_EQ(at(22.5, 32), blue);
     }
+}
+
+// A frame that begins between two pixels has the same line on each of its sides, and none of it is blurred.
+TEST(FrameLines, AreWholePixelsAtEveryScale) {
+    struct Case {
+        double ratio;
+        int line;
+    };
+    for (const Case& c : {Case{1, 1}, Case{1.25, 1}, Case{1.5, 1}, Case{2, 2}, Case{3, 3}})
+        for (const int origin : {0, 1, 2, 3}) {
+            QImage image(QSize(60, 60) * c.ratio, QImage::Format_RGB32);
+            image.setDevicePixelRatio(c.ratio);
+            image.fill(Qt::white);
+            QFrame frame;
+            QStyleOptionFrame option;
+            option.initFrom(&frame);
+            option.rect = {0, 0, 31, 33};
+            {
+                QPainter painter(&image);
+                painter.translate(origin, origin);
+                painter.setClipRect(option.rect);
+                QApplication::style()->drawPrimitive(QStyle::PE_Frame, &option, &painter, &frame);
+            }
+            const auto coloured = [&](bool across) { // lengths of the runs on a line through the middle
+                std::vector<int> runs;
+                QRgb last = qRgb(255, 255, 255);
+                for (int i = 0; i < image.width(); ++i) {
+                    const int middle = int((origin + 15) * c.ratio);
+                    const QRgb point = across ? image.pixel(i, middle) : image.pixel(middle, i);
+                    if (point != qRgb(255, 255, 255) && point == last)
+                        ++runs.back();
+                    else if (point != qRgb(255, 255, 255))
+                        runs.push_back(1);
+                    last = point;
+                }
+                return runs;
+            };
+            EXPECT_EQ(coloured(true), (std::vector<int>{c.line, c.line})) << c.ratio << " " << origin;
+            EXPECT_EQ(coloured(false), (std::vector<int>{c.line, c.line})) << c.ratio << " " << origin;
+        }
 }
 
 TEST(DemoStripTest, AConsistOfTheDemonstrationIsDrawnWhole) {

@@ -96,12 +96,13 @@ struct WindowTest : ::testing::Test {
         ADD_FAILURE() << "no stock " << name;
         return -1;
     }
-    // A strip of these, without unsaved changes.
+    // A strip of these, without unsaved changes, none selected.
     void build(std::initializer_list<const char*> names) {
         state.NoAlertCoupling = true;
         for (const char* name : names)
             appendStock(editor, stockIndex(name));
         state.Modified = document.controls.saveEnabled = false;
+        document.selected = -1;
         window->refresh();
     }
     std::vector<std::string> vehicles() const {
@@ -116,6 +117,11 @@ struct WindowTest : ::testing::Test {
         for (int row = 0; row < list().model()->rowCount(); ++row)
             names.push_back(list().model()->index(row, 0).data().toString().toStdString());
         return names;
+    }
+
+    std::string selected() const {
+        return document.selected < 0 ? ""
+                                     : document.Vehicules[static_cast<std::size_t>(document.selected)].Name;
     }
 
     // ---- the mouse

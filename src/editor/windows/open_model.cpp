@@ -1,6 +1,7 @@
 #include "editor/windows/open_model.h"
 
 #include "frame/windows/art.h"
+#include "frame/windows/name_order.h"
 #include "frame/windows/qt_text.h"
 
 #include <algorithm>
@@ -12,7 +13,6 @@ namespace zandor {
 namespace {
 
 constexpr QColor IncompleteColour{255, 0, 0};
-constexpr int FigureLength = 8;
 
 constexpr std::pair<const char*, Message> Columns[OpenModel::ColumnCount] = {
     {"C_NAME", Message::ColumnFullName},
@@ -20,30 +20,11 @@ constexpr std::pair<const char*, Message> Columns[OpenModel::ColumnCount] = {
     {"C_FILE", Message::ColumnFile},
 };
 
-// What the eye sorts by: without case and accents, and figures by their value.
-QString sortKey(const QString& text) {
-    QString key, figure;
-    const auto endFigure = [&] {
-        key += figure.isEmpty() ? figure : figure.rightJustified(FigureLength, u'0');
-        figure.clear();
-    };
-    for (const QChar c : text.normalized(QString::NormalizationForm_KD).toCaseFolded()) {
-        if (c >= u'0' && c <= u'9') {
-            figure += c;
-            continue;
-        }
-        endFigure();
-        if (c.category() != QChar::Mark_NonSpacing)
-            key += c;
-    }
-    endFigure();
-    return key;
-}
-
 } // namespace
 
 OpenModel::OpenModel(const Frame& frame, QObject* parent)
-    : QAbstractTableModel(parent), inServiceTip_(toQt(frame.text(Message::TipUsedByService))),
+    : QAbstractTableModel(parent), names_(nameOrder(toQt(frame.state.Language))),
+      inServiceTip_(toQt(frame.text(Message::TipUsedByService))),
       notInServiceTip_(toQt(frame.text(Message::TipUsedByNoService))),
       incompleteTip_(toQt(frame.text(Message::TipIncomplete))), inServiceIcon_(artIcon(RouteMarkYes.data())),
       notInServiceIcon_(artIcon(RouteMarkNo.data())) {
@@ -67,10 +48,10 @@ void OpenModel::setRows(const std::vector<ConsistSummary>& summaries, const std:
 }
 
 void OpenModel::sort(int column, Qt::SortOrder order) {
-    std::vector<std::pair<QString, std::size_t>> keys;
+    std::vector<std::pair<QCollatorSortKey, std::size_t>> keys;
     keys.reserve(rows_.size());
     for (const Row& row : rows_)
-        keys.emplace_back(sortKey(row.texts[static_cast<std::size_t>(column)]), keys.size());
+        keys.emplace_back(names_.sortKey(row.texts[static_cast<std::size_t>(column)]), keys.size());
     std::ranges::stable_sort(keys, [order](const auto& a, const auto& b) {
         return order == Qt::AscendingOrder ? a.first < b.first : b.first < a.first;
     });

@@ -4,6 +4,7 @@
 #include "catalogue/catalogue.h"
 
 #include <QAbstractTableModel>
+#include <QCollator>
 #include <QColor>
 #include <QFont>
 #include <QIcon>
@@ -46,6 +47,7 @@ class OpenModel final : public QAbstractTableModel {
     QString toolTip(const Row& row) const;
 
     std::vector<Row> rows_;
+    QCollator names_;
     std::array<QString, ColumnCount> titles_;
     QString inServiceTip_, notInServiceTip_, incompleteTip_;
     QIcon inServiceIcon_, notInServiceIcon_;

@@ -11,13 +11,14 @@
 #include "editor/windows/strip_actions.h"
 #include "editor/windows/strip_view.h"
 #include "frame/startup.h"
-#include "frame/window_place.h"
 #include "frame/windows/about.h"
 #include "frame/windows/art.h"
 #include "frame/windows/cursors.h"
 #include "frame/windows/elided_label.h"
 #include "frame/windows/help.h"
 #include "frame/windows/loading.h"
+#include "frame/windows/name_order.h"
+#include "frame/windows/place_keeper.h"
 #include "frame/windows/qt_text.h"
 #include "frame/windows/settings_colour.h"
 #include "frame/windows/window_parts.h"
@@ -31,7 +32,6 @@
 #include <QMimeData>
 #include <QMouseEvent>
 #include <QPushButton>
-#include <QScreen>
 #include <QScrollBar>
 #include <QShortcut>
 #include <QSignalBlocker>
@@ -55,7 +55,7 @@ const Materiel* materielOfKey(const Catalogue& catalogue, const QString& key) {
     return known ? &catalogue.Materiels[index] : nullptr;
 }
 
-constexpr std::string_view PlaceSection = "Window", PlacePrefix = "Main"; // in the settings
+constexpr const char *PlaceSection = "Window", *PlacePrefix = "Main"; // in the settings
 
 // The first consist file among what is dragged; empty when there is none.
 QString draggedConsist(const QMimeData* data) {
@@ -63,6 +63,14 @@ QString draggedConsist(const QMimeData* data) {
         if (const QString path = url.toLocalFile(); path.endsWith(".con", Qt::CaseInsensitive))
             return path;
     return {};
+}
+
+// A file is read where it lies: its owner must not take it for moved, and delete it.
+void takeAsCopy(QDropEvent* event) {
+    if (!event->possibleActions().testFlag(Qt::CopyAction) || draggedConsist(event->mimeData()).isEmpty())
+        return event->ignore();
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
 }
 
 void setIfDifferent(QLineEdit& edit, const std::string& text) {
@@ -92,7 +100,7 @@ frmPrincipal::frmPrincipal(Editor& editor) : editor_(editor) {
     connectActions();
     fillStockList();
     addShortcuts();
-    takePlace();
+    place_ = new PlaceKeeper(*this, editor.frame, PlaceSection, PlacePrefix, DefaultSize);
     controls_.lstViewMATERIEL->setFocus();
     refresh();
 }
@@ -126,6 +134,7 @@ void frmPrincipal::connectInputs() {
         refresh();
     });
     c.tbNAME->installEventFilter(this);
+    c.tbFULL_NAME->installEventFilter(this);
 }
 
 void frmPrincipal::connectStock() {
@@ -195,29 +204,6 @@ void frmPrincipal::connectActions() {
             [this](const QAction* chosen) { chooseLanguage(fromQt(chosen->text())); });
 }
 
-// The place of the last run, held within the screens that there are now.
-void frmPrincipal::takePlace() {
-    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
-    resize(DefaultSize.boundedTo(screen.size()));
-    move(screen.center() - rect().center());
-    const auto place = readWindowPlace(editor_.frame, PlaceSection, PlacePrefix);
-    if (!place)
-        return;
-    const QRect kept(place->left, place->top, place->width, place->height);
-    if (const QScreen* shown = QGuiApplication::screenAt(kept.center())) {
-        resize(kept.size().boundedTo(shown->availableGeometry().size()));
-        move(kept.topLeft());
-    }
-    if (place->maximised)
-        setWindowState(windowState() | Qt::WindowMaximized);
-}
-
-void frmPrincipal::keepPlace() const {
-    const QRect own = isMaximized() ? normalGeometry() : QRect(pos(), size());
-    writeWindowPlace(editor_.frame, PlaceSection, PlacePrefix,
-                     {own.left(), own.top(), own.width(), own.height(), isMaximized()});
-}
-
 void frmPrincipal::addShortcuts() {
     struct Row {
         QKeySequence::StandardKey key;
@@ -248,8 +234,16 @@ void frmPrincipal::applyLanguage() {
     updateResistance(editor_);
     ShowTotals(editor_);
     controls_.PicRAME->DrawStrip(); // a Missing vehicle bears a word
+    orderStockList();
     showStockInfo(controls_.lstViewMATERIEL->currentKey());
     refresh();
+}
+
+void frmPrincipal::orderStockList() {
+    StockView& list = *controls_.lstViewMATERIEL;
+    const QString key = list.currentKey();
+    list.stock()->setNameOrder(nameOrder(toQt(editor_.frame.state.Language)));
+    list.selectKey(key);
 }
 
 void frmPrincipal::captionLanguages() {
@@ -323,7 +317,7 @@ void frmPrincipal::aboutPressed() {
 void frmPrincipal::closeEvent(QCloseEvent* event) {
     emit closeAsked();
     if (closeEditor(editor_)) {
-        keepPlace();
+        place_->keep();
         event->accept();
         return;
     }
@@ -332,15 +326,19 @@ void frmPrincipal::closeEvent(QCloseEvent* event) {
 }
 
 void frmPrincipal::dragEnterEvent(QDragEnterEvent* event) {
-    if (!draggedConsist(event->mimeData()).isEmpty())
-        event->acceptProposedAction();
+    takeAsCopy(event);
+}
+
+void frmPrincipal::dragMoveEvent(QDragMoveEvent* event) {
+    takeAsCopy(event);
 }
 
 // The system's drag ends first: a question must not stand in the middle of it.
 void frmPrincipal::dropEvent(QDropEvent* event) {
-    event->acceptProposedAction();
-    QTimer::singleShot(0, this,
-                       [this, path = pathFromQt(draggedConsist(event->mimeData()))] { offerFile(path); });
+    takeAsCopy(event);
+    if (event->isAccepted())
+        QTimer::singleShot(0, this,
+                           [this, path = pathFromQt(draggedConsist(event->mimeData()))] { offerFile(path); });
 }
 
 void frmPrincipal::offerFile(const std::string& path) {
@@ -568,13 +566,22 @@ bool frmPrincipal::filterStrip(QEvent* event) {
 bool frmPrincipal::eventFilter(QObject* watched, QEvent* event) {
     if (watched == controls_.PicRAME && filterStrip(event))
         return true;
-    if (watched == controls_.tbNAME && event->type() == QEvent::KeyPress) {
+    if ((watched == controls_.tbNAME || watched == controls_.tbFULL_NAME) && filterName(watched, event))
+        return true;
+    return QWidget::eventFilter(watched, event);
+}
+
+bool frmPrincipal::filterName(QObject* box, QEvent* event) {
+    if (box == controls_.tbNAME && event->type() == QEvent::KeyPress) {
         // Backspace, Tab and the shortcuts come as control characters; they are no text.
         const QString typed = static_cast<QKeyEvent*>(event)->text();
-        if (!typed.isEmpty() && typed[0].isPrint() && filterShortName(fromQt(typed)) != fromQt(typed))
-            return true;
+        return !typed.isEmpty() && typed[0].isPrint() && filterShortName(fromQt(typed)) != fromQt(typed);
     }
-    return QWidget::eventFilter(watched, event);
+    // A file isn't text for the box: the window behind it takes the file, or refuses it.
+    if (event->type() != QEvent::DragEnter || !static_cast<QDragEnterEvent*>(event)->mimeData()->hasUrls())
+        return false;
+    event->ignore();
+    return true;
 }
 
 } // namespace zandor

@@ -12,6 +12,7 @@ class QMenu;
 namespace zandor {
 
 struct MaterielInfo;
+class PlaceKeeper;
 class StripActions;
 
 class frmPrincipal final : public QWidget {
@@ -38,6 +39,7 @@ class frmPrincipal final : public QWidget {
 
   protected:
     void dragEnterEvent(QDragEnterEvent* event) override;
+    void dragMoveEvent(QDragMoveEvent* event) override;
     void dropEvent(QDropEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void changeEvent(QEvent* event) override;
@@ -51,12 +53,12 @@ class frmPrincipal final : public QWidget {
     void connectActions();
     void addShortcuts();
     void openContextMenu();
-    void takePlace();
-    void keepPlace() const;
     void captionLanguages();
     void actionTriggered(int id);
     void refreshActions();
     bool filterStrip(QEvent* event);
+    bool filterName(QObject* box, QEvent* event);
+    void orderStockList();
 
     void newPressed();
     void openPressed();
@@ -80,6 +82,7 @@ class frmPrincipal final : public QWidget {
     PrincipalControls controls_;
     StripActions* actions_ = nullptr;
     QMenu* languages_ = nullptr;
+    PlaceKeeper* place_ = nullptr;
     std::optional<int> droppedStock_; // a drop whose drag hasn't ended yet
 };
 

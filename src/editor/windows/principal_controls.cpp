@@ -5,6 +5,7 @@
 #include "editor/windows/stock_view.h"
 #include "editor/windows/strip_view.h"
 #include "frame/windows/art.h"
+#include "frame/windows/button_bar.h"
 #include "frame/windows/elided_label.h"
 #include "frame/windows/qt_text.h"
 #include "frame/windows/theme.h"
@@ -12,6 +13,7 @@
 
 #include <QBoxLayout>
 #include <QComboBox>
+#include <QEvent>
 #include <QGridLayout>
 #include <QLineEdit>
 #include <QPushButton>
@@ -27,7 +29,9 @@ namespace zandor {
 
 namespace {
 
-constexpr int Gap = 10; // pixels between cards
+constexpr int Gap = 10;      // pixels between cards
+constexpr int ButtonGap = 6; // pixels
+constexpr int LowestPane = 50;
 constexpr int DurabilityRange = 1000;
 
 // A pane of the window.
@@ -36,6 +40,28 @@ QFrame* card(QWidget* parent) {
     frame->setFrameShape(QFrame::StyledPanel);
     return frame;
 }
+
+// A pane that scrolls where a low screen has no room for it. It is never narrower than what is in it.
+class LowPane final : public QScrollArea {
+  public:
+    LowPane(QWidget* parent, QWidget* content) : QScrollArea(parent) {
+        setFrameShape(QFrame::NoFrame);
+        setWidgetResizable(true);
+        setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        setFocusPolicy(Qt::NoFocus);
+        setWidget(content);
+    }
+    QSize minimumSizeHint() const override {
+        return {widget()->minimumSizeHint().width() + verticalScrollBar()->sizeHint().width(), LowestPane};
+    }
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (watched == widget() && event->type() == QEvent::LayoutRequest)
+            updateGeometry();
+        return QScrollArea::eventFilter(watched, event);
+    }
+};
 
 // ---- the buttons
 
@@ -66,15 +92,14 @@ constexpr ButtonRow Buttons[] = {
 };
 
 QLayout* buildButtons(QWidget& window, PrincipalControls& c) {
-    auto* bar = new QHBoxLayout;
-    bar->setSpacing(6);
+    auto* bar = new ButtonBar(ButtonGap);
     for (const ButtonRow& row : Buttons) {
         QPushButton* button = named(new QPushButton(&window), row.name);
         button->setAutoDefault(false);
         button->setIcon(QIcon::fromTheme(row.icon));
         c.*row.place = button;
         if (button == c.cmdOptions)
-            bar->addStretch(1);
+            bar->beginRightEnd();
         bar->addWidget(button);
     }
     // A consist that a service uses must not go, and the services aren't known yet.
@@ -86,12 +111,13 @@ QLayout* buildButtons(QWidget& window, PrincipalControls& c) {
 // ---- the stock list
 
 QWidget* buildStock(QWidget& window, PrincipalControls& c) {
-    QFrame* frame = card(&window);
+    QFrame* frame = card(nullptr);
     auto* column = new QVBoxLayout(frame);
     column->setContentsMargins(12, 10, 12, 12);
     c.lblCLASS = named(new QLabel(frame), "lblCLASS");
     c.cmbMATERIEL = named(new QComboBox(frame), "cmbMATERIEL");
     c.cmbMATERIEL->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    keepFromWheel(*c.cmbMATERIEL);
     c.lblCLASS->setBuddy(c.cmbMATERIEL);
     c.lstViewMATERIEL = new StockView(frame);
     c.lstViewMATERIEL->setMinimumHeight(90);
@@ -100,7 +126,7 @@ QWidget* buildStock(QWidget& window, PrincipalControls& c) {
     head->addWidget(c.cmbMATERIEL, 1);
     column->addLayout(head);
     column->addWidget(c.lstViewMATERIEL, 1);
-    return frame;
+    return new LowPane(&window, frame);
 }
 
 // ---- what is known of the selected stock
@@ -150,6 +176,7 @@ QWidget* buildConsist(QWidget* parent, PrincipalControls& c) {
     c.tbFULL_NAME = named(new QLineEdit(frame), "tbFULL_NAME");
     c.tbNAME = named(new QLineEdit(frame), "tbNAME");
     c.Slider1 = named(new QSlider(Qt::Horizontal, frame), "Slider1");
+    keepFromWheel(*c.Slider1);
     c.Slider1->setRange(0, DurabilityRange);
     c.Slider1->setPageStep(DurabilityRange / 10);
     c.Slider1->setSingleStep(DurabilityRange / 100);
@@ -169,21 +196,14 @@ QWidget* buildConsist(QWidget* parent, PrincipalControls& c) {
     return frame;
 }
 
-// The right-hand side scrolls where a low screen has no room for it.
 QWidget* buildDetails(QWidget& window, PrincipalControls& c) {
-    auto* area = new QScrollArea(&window);
-    area->setFrameShape(QFrame::NoFrame);
-    area->setWidgetResizable(true);
-    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    area->setFocusPolicy(Qt::NoFocus);
-    auto* content = new QWidget(area);
+    auto* content = new QWidget;
     auto* column = new QVBoxLayout(content);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(Gap);
     column->addWidget(buildInfo(content, c), 1);
     column->addWidget(buildConsist(content, c));
-    area->setWidget(content);
-    return area;
+    return new LowPane(&window, content);
 }
 
 // ---- the strip
@@ -198,7 +218,7 @@ QWidget* buildStrip(QWidget& window, PrincipalControls& c, Editor& editor) {
     QFont heading = c.lblLongueurNewRame->font();
     heading.setBold(true);
     c.lblLongueurNewRame->setFont(heading);
-    c.lblSTATUS = named(new ElidedLabel(frame, Qt::ElideMiddle), "lblSTATUS");
+    c.lblSTATUS = named(new ElidedLabel(frame, Qt::ElideRight), "lblSTATUS");
     c.lblSTATUS->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     theme::showAsHint(*c.lblSTATUS);
     c.cmdVEHICLE = named(new QPushButton(frame), "cmdVEHICLE");

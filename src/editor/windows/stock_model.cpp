@@ -11,27 +11,17 @@
 
 namespace zandor {
 
-namespace {
-
-// What the eye sorts by: without case and accents.
-QString sortKey(const QString& text) {
-    QString key;
-    for (const QChar c : text.normalized(QString::NormalizationForm_KD))
-        if (c.category() != QChar::Mark_NonSpacing)
-            key += c;
-    return key.toCaseFolded();
-}
-
-} // namespace
-
 void StockModel::setRows(std::vector<StockListRow> rows) {
     beginResetModel();
     rows_.clear();
     rows_.reserve(rows.size());
     for (const StockListRow& row : rows) {
         const QString text = toQt(row.text);
-        rows_.push_back(
-            {toQt(row.key), text, sortKey(text), {row.icon, row.brakeIcon, row.couplingIcon}, row.unused});
+        rows_.push_back({toQt(row.key),
+                         text,
+                         names_.sortKey(text),
+                         {row.icon, row.brakeIcon, row.couplingIcon},
+                         row.unused});
     }
     sortRows();
     endResetModel();
@@ -55,8 +45,17 @@ void StockModel::setTitles(const QStringList& titles) {
 
 void StockModel::sortRows() {
     std::ranges::stable_sort(rows_, [this](const Row& a, const Row& b) {
-        return order_ == Qt::AscendingOrder ? a.sortText < b.sortText : b.sortText < a.sortText;
+        return order_ == Qt::AscendingOrder ? a.sortKey < b.sortKey : b.sortKey < a.sortKey;
     });
+}
+
+void StockModel::setNameOrder(const QCollator& names) {
+    names_ = names;
+    beginResetModel();
+    for (Row& row : rows_)
+        row.sortKey = names_.sortKey(row.text);
+    sortRows();
+    endResetModel();
 }
 
 void StockModel::sort(int, Qt::SortOrder order) {

@@ -4,6 +4,7 @@
 #include "catalogue/stock_list.h"
 
 #include <QAbstractTableModel>
+#include <QCollator>
 #include <QColor>
 #include <QIcon>
 #include <QString>
@@ -34,6 +35,7 @@ class StockModel final : public QAbstractTableModel {
         describe_ = std::move(describe);
     }
     void setTextColour(const QColor& colour) { textColour_ = colour; }
+    void setNameOrder(const QCollator& names);
 
     void sort(int column, Qt::SortOrder order) override; // always by name, whatever the column
     Qt::SortOrder order() const { return order_; }
@@ -49,7 +51,8 @@ class StockModel final : public QAbstractTableModel {
 
   private:
     struct Row {
-        QString key, text, sortText;
+        QString key, text;
+        QCollatorSortKey sortKey;
         std::array<int, ColumnCount> icons; // 0: none
         bool unused = false;
     };
@@ -67,6 +70,7 @@ class StockModel final : public QAbstractTableModel {
     }
 
     std::vector<Row> rows_;
+    QCollator names_;
     Icons icons_;
     std::function<QString(const QString&, Column)> describe_;
     QStringList titles_;

@@ -18,15 +18,17 @@ struct ActionRow {
     QKeyCombination key;
     bool ofVehicle; // its key works in the strip alone
 };
+// The keys of the whole window are none that a text box needs on any desktop: Ctrl with A, B, D, E, F, H, K,
+// U or W edits a line there.
 constexpr ActionRow Rows[] = {
-    {StripActions::InsertEnd, "actINSERT_END", Message::MenuInsertEnd, Qt::CTRL | Qt::Key_E, false},
-    {StripActions::InsertBefore, "actINSERT_BEFORE", Message::MenuInsertBefore, Qt::CTRL | Qt::Key_B, false},
+    {StripActions::InsertEnd, "actINSERT_END", Message::MenuInsertEnd, Qt::CTRL | Qt::Key_Enter, false},
+    {StripActions::InsertBefore, "actINSERT_BEFORE", Message::MenuInsertBefore, Qt::CTRL | Qt::Key_I, false},
     {StripActions::MoveLeft, "actMOVE_LEFT", Message::MenuMoveLeft, Qt::CTRL | Qt::Key_Left, true},
     {StripActions::MoveRight, "actMOVE_RIGHT", Message::MenuMoveRight, Qt::CTRL | Qt::Key_Right, true},
     {StripActions::Flip, "actFLIP", Message::MenuFlip, Qt::CTRL | Qt::Key_T, true},
     {StripActions::Remove, "actREMOVE", Message::MenuRemove, Qt::Key_Delete, true},
-    {StripActions::FindInList, "actFIND", Message::MenuFindInList, Qt::CTRL | Qt::Key_F, false},
-    {StripActions::Renumber, "actRENUMBER", Message::MenuRenumber, Qt::CTRL | Qt::Key_U, false},
+    {StripActions::FindInList, "actFIND", Message::MenuFindInList, Qt::CTRL | Qt::Key_L, false},
+    {StripActions::Renumber, "actRENUMBER", Message::MenuRenumber, Qt::CTRL | Qt::Key_R, false},
 };
 
 } // namespace
@@ -45,6 +47,8 @@ StripActions::StripActions(QWidget& window, QWidget& strip)
         if (row.id == InsertBefore || row.id == FindInList)
             stripMenu_->addSeparator();
     }
+    // Keyboards have two such keys; the menu shows the first.
+    actions_[InsertEnd]->setShortcuts({actions_[InsertEnd]->shortcut(), Qt::CTRL | Qt::Key_Return});
     stripMenu_->setObjectName("mnuSTRIP");
     stockMenu_->setObjectName("mnuSTOCK");
     stockMenu_->addActions({actions_[InsertEnd], actions_[InsertBefore]});

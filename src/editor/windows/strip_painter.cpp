@@ -1,6 +1,7 @@
 #include "editor/windows/strip_painter.h"
 
 #include "editor/windows/picture_store.h"
+#include "frame/windows/pixel_grid.h"
 #include "frame/windows/qt_text.h"
 
 #include <QPainter>
@@ -13,6 +14,7 @@ namespace {
 
 constexpr int WidestPixmap = 32766; // device pixels: as far as a painter reaches
 constexpr QColor DropMark{255, 0, 0};
+constexpr int DropMarkWidth = 3;
 
 QColor shown(StripColour colour) {
     return {colour.red, colour.green, colour.blue};
@@ -130,15 +132,26 @@ void StripPicture::carryOut(const std::vector<StripStep>& steps, PictureStore& p
 }
 
 void StripPicture::ShowStrip(QPainter& painter, const QSize& window, int scrollValue) const {
-    if (imgRAME.deviceIndependentSize().width() < window.width())
+    const QSizeF size = imgRAME.deviceIndependentSize();
+    if (size.width() < window.width())
         painter.fillRect(QRect(QPoint(), window), shown(StripSky));
-    const double ratio = imgRAME.devicePixelRatio(); // a whole device pixel, or the copy would blur
-    painter.drawPixmap(QPointF(-qRound(scrollValue * ratio) / ratio, 0), imgRAME);
+    const PixelGrid grid(painter);
+    painter.drawPixmap(stripPixels(grid, 0, qRound(size.width()), scrollValue, StripHeight), imgRAME,
+                       imgRAME.rect());
+}
+
+QRect stripPixels(const PixelGrid& grid, int left, int width, int scrollValue, int height) {
+    const QPoint corner = grid.point({0, 0}) - QPoint(grid.length(scrollValue), 0);
+    return {corner + QPoint(grid.length(left), 0),
+            corner + QPoint(grid.length(left + width) - 1, grid.length(height) - 1)};
 }
 
 void paintDropMark(QPainter& painter, const ConsistDocument& document, int height) {
-    if (const auto x = dropMarkPosition(document))
-        painter.fillRect(*x, 0, 3, height, DropMark);
+    const int scrolled = document.controls.scrollValue;
+    if (const auto x = dropMarkPosition(document)) {
+        const PixelGrid grid(painter);
+        painter.fillRect(stripPixels(grid, *x + scrolled, DropMarkWidth, scrolled, height), DropMark);
+    }
 }
 
 } // namespace zandor

@@ -15,6 +15,7 @@ class QSize;
 namespace zandor {
 
 class PictureStore;
+class PixelGrid;
 
 // Letters as the strip prints them.
 class FontMeasure final : public TextMeasure {
@@ -41,6 +42,10 @@ class StripPicture {
   private:
     QPixmap imgRAME;
 };
+
+// The device pixels of a part of the strip: from `left`, counted from the strip's own beginning, in a window
+// that is scrolled that far. Where a part ends the next one begins, as on the strip's picture.
+QRect stripPixels(const PixelGrid& grid, int left, int width, int scrollValue, int height);
 
 // The red line where a dragged vehicle would go, when it would go anywhere.
 void paintDropMark(QPainter& painter, const ConsistDocument& document, int height);

@@ -5,6 +5,7 @@
 #include "editor/strip_selection.h"
 #include "editor/windows/stock_model.h"
 #include "frame/windows/cursors.h"
+#include "frame/windows/pixel_grid.h"
 #include "frame/windows/qt_text.h"
 #include "frame/windows/theme.h"
 
@@ -23,8 +24,6 @@ namespace zandor {
 namespace {
 
 constexpr int ScrollEvery = 40; // ms, while a drag rests near an edge
-// Around the preview the pointer still shows that the vehicle is carried, not thrown away.
-constexpr QMargins PreviewSurroundings{192, 192, 384, 384};
 
 // The throw-away sign: a bin under the pointer's tip.
 QCursor discardCursor() {
@@ -92,14 +91,13 @@ void StripView::paintEmptyHint(QPainter& painter) const {
 void StripView::paintSelection(QPainter& painter) const {
     const ConsistDocument& document = editor_.document;
     const auto selected = static_cast<std::size_t>(document.selected);
-    int left = -document.controls.scrollValue;
+    int left = 0;
     for (std::size_t i = 0; i < selected; ++i)
         left += document.Vehicules[i].Width;
-    const int line = hasFocus() ? 2 : 1;
-    painter.setPen(QPen(theme::Accent, line, hasFocus() ? Qt::SolidLine : Qt::DashLine));
-    painter.setBrush(Qt::NoBrush);
-    const QRectF frame(left, 0, document.Vehicules[selected].Width, height());
-    painter.drawRect(frame.adjusted(line / 2.0, line / 2.0, -line / 2.0, -line / 2.0));
+    const PixelGrid grid(painter);
+    const QRect frame =
+        stripPixels(grid, left, document.Vehicules[selected].Width, document.controls.scrollValue, height());
+    grid.frame(frame, hasFocus() ? 2 : 1, theme::Accent, hasFocus() ? Qt::SolidLine : Qt::DashLine);
 }
 
 void StripView::paintEvent(QPaintEvent*) {
@@ -138,7 +136,7 @@ void StripView::followPress(const QPoint& point) {
     lastPoint_ = point;
     inside_ = rect().contains(point);
     moveOnStrip(editor_, point.x(), point.y());
-    setShape(shapeAt(mapToGlobal(point)));
+    setShape(zoneAt(mapToGlobal(point)) == ReleaseZone::Elsewhere ? Shape::Discard : Shape::Carry);
     emit scrolled();
     update();
 }
@@ -205,15 +203,6 @@ ReleaseZone StripView::zoneAt(const QPoint& globalPoint) const {
     if (preview_ && preview_->visibleRegion().contains(preview_->mapFromGlobal(globalPoint)))
         return ReleaseZone::Preview;
     return rect().contains(mapFromGlobal(globalPoint)) ? ReleaseZone::Strip : ReleaseZone::Elsewhere;
-}
-
-StripView::Shape StripView::shapeAt(const QPoint& globalPoint) const {
-    if (rect().contains(mapFromGlobal(globalPoint)))
-        return Shape::Carry;
-    const bool nearPreview =
-        preview_ &&
-        preview_->rect().marginsAdded(PreviewSurroundings).contains(preview_->mapFromGlobal(globalPoint));
-    return nearPreview ? Shape::Carry : Shape::Discard;
 }
 
 void StripView::setShape(Shape shape) {

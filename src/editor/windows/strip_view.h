@@ -67,7 +67,6 @@ class StripView final : public QWidget {
     void scrollWhileResting();
     void endPress();
     ReleaseZone zoneAt(const QPoint& globalPoint) const;
-    Shape shapeAt(const QPoint& globalPoint) const;
     void setShape(Shape shape);
     void updateToolTip(const QPoint& point);
 
