@@ -117,11 +117,11 @@ void StockView::keyPressEvent(QKeyEvent* event) {
 }
 
 void StockView::startDrag(Qt::DropActions) {
-    std::unique_ptr<QMimeData> data(model_->mimeData({currentIndex()}));
-    if (!currentIndex().isValid() || !data)
+    std::unique_ptr<QMimeData> row(model_->mimeData({currentIndex()}));
+    if (!currentIndex().isValid() || !row)
         return;
     auto* drag = new QDrag(this);
-    drag->setMimeData(data.release());
+    drag->setMimeData(row.release());
     if (dragPicture_) {
         drag->setPixmap(dragPicture_());
         drag->setHotSpot({-14, -6}); // right of the pointer, whose place on the strip stays in sight
