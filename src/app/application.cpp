@@ -104,11 +104,11 @@ void Application::passOnGiven() {
 }
 
 void Application::reportMissingLanguages() {
-    const QString text = toQt(LanguageFileMissing);
+    const std::string text = languageFileFault(frame_);
     if (options_.picture.isEmpty())
-        QMessageBox::critical(nullptr, toQt(state_.Title), text);
+        QMessageBox::critical(nullptr, toQt(state_.Title), toQt(text));
     else
-        std::cerr << LanguageFileMissing << '\n';
+        std::cerr << text << '\n';
 }
 
 void Application::showSplash() {

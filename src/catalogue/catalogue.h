@@ -76,8 +76,9 @@ struct Catalogue {
     CatalogueSnapshot snapshots[2]; // the simulator's, the Train Store's
     bool complete = true;           // false: the user ended the last load, so it is no good as a snapshot
 
-    StockUseIndex stockUseIndex; // of StockUsage
-    PictureSizes pictureSizes;   // of the thumbnails loaded so far
+    std::vector<std::string> passedOver; // paths of the files that the last load left unread
+    StockUseIndex stockUseIndex;         // of StockUsage
+    PictureSizes pictureSizes;           // of the thumbnails loaded so far
     PictureFolders pictureFolders = PictureFolders::MadeAsNeeded;
 };
 

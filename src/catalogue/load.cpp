@@ -1,4 +1,5 @@
 #include "catalogue/catalogue.h"
+#include "catalogue/passed_over.h"
 #include "catalogue/thumbnails.h"
 
 namespace zandor {
@@ -75,7 +76,10 @@ std::string consistsPath(std::string_view root) {
 bool LoadCatalogue(Frame& frame, Catalogue& catalogue, LoadOptions options) {
     catalogue.pictureFolders = options.pictureFolders;
     forgetSummaries(catalogue);
+    catalogue.passedOver.clear();
     catalogue.complete = loadSteps(frame, catalogue, options);
+    if (catalogue.complete)
+        tellPassedOver(frame, catalogue);
     frame.state.Busy = false;
     return catalogue.complete;
 }
@@ -96,9 +100,10 @@ bool readAllStock(Frame& frame, Catalogue& catalogue, LoadOptions options) {
         frame.progress.atFile(texts.path);
         // What is wrong with a file is the verifier's business; its entry keeps what could be read.
         if (frame.state.Optimize)
-            ReadStockFile(reader, texts.path, materiel, options.repair);
+            notePassedOver(catalogue, texts.path,
+                           ReadStockFile(reader, texts.path, materiel, options.repair).error);
         else
-            quick.QuickReadStock(materiel);
+            notePassedOver(catalogue, texts.path, quick.QuickReadStock(materiel));
         frame.progress.ShowProgress(0, last, index, texts.shown);
     }
     return true;

@@ -1,6 +1,7 @@
 #include "catalogue/pictures.h"
 
 #include "catalogue/catalogue.h"
+#include "catalogue/passed_over.h"
 #include "catalogue/stock_list.h"
 #include "text/decode.h"
 #include "text/lines.h"
@@ -54,6 +55,25 @@ std::optional<PictureSize> saneSize(std::int64_t width, std::int64_t height) {
     return PictureSize{static_cast<int>(width), static_cast<int>(height)};
 }
 
+// The least that the pixels can take: whole rows of four bytes each, the last one without its filling, or,
+// where they are packed, runs of 255 at the most.
+std::uint64_t leastBytes(PictureSize size, std::uint64_t depth, bool packed) {
+    constexpr std::uint64_t longestRun = 255, runBytes = 2;
+    const auto width = static_cast<std::uint64_t>(size.width),
+               height = static_cast<std::uint64_t>(size.height);
+    if (packed)
+        return (width + longestRun - 1) / longestRun * runBytes * height;
+    return (width * depth + 31) / 32 * 4 * (height - 1) + (width * depth + 7) / 8;
+}
+
+// The size, when as many pixels can stand in the bytes.
+std::optional<PictureSize> sizeThatFits(std::string_view bytes, PictureSize size, std::uint64_t depth,
+                                        bool packed) {
+    const std::uint64_t begin =
+        std::max<std::uint64_t>(numberAt(bytes, 10, 4), FileHeaderSize + numberAt(bytes, FileHeaderSize, 4));
+    return begin + leastBytes(size, depth, packed) <= bytes.size() ? std::optional(size) : std::nullopt;
+}
+
 std::optional<PictureSize> sizeInHeaders(std::string_view bytes) {
     if (bytes.size() < FileHeaderSize + CoreHeader || !bytes.starts_with("BM"))
         return std::nullopt;
@@ -61,10 +81,14 @@ std::optional<PictureSize> sizeInHeaders(std::string_view bytes) {
     const std::uint32_t pixels = numberAt(bytes, 10, 4);
     if (!isOneOf(HeaderKinds, header) || bytes.size() < FileHeaderSize + header || pixels >= bytes.size())
         return std::nullopt;
-    if (header == CoreHeader)
-        return hasPixelFormat(bytes, 22) ? saneSize(numberAt(bytes, 18, 2), numberAt(bytes, 20, 2))
-                                         : std::nullopt;
-    return hasPixelFormat(bytes, 26) ? saneSize(signedAt(bytes, 18), signedAt(bytes, 22)) : std::nullopt;
+    const bool core = header == CoreHeader;
+    const std::size_t format = core ? 22 : 26; // of planes and depth
+    const auto size = core ? saneSize(numberAt(bytes, 18, 2), numberAt(bytes, 20, 2))
+                           : saneSize(signedAt(bytes, 18), signedAt(bytes, 22));
+    if (!size || !hasPixelFormat(bytes, format))
+        return std::nullopt;
+    const std::uint32_t packing = core ? 0 : numberAt(bytes, 30, 4);
+    return sizeThatFits(bytes, *size, numberAt(bytes, format + 2, 2), packing == 1 || packing == 2);
 }
 
 void takeLines(Catalogue& catalogue, std::string_view text) {
@@ -133,9 +157,8 @@ PictureRef shippedPicture(std::string_view name) {
 }
 
 std::optional<PictureSize> readBitmapSize(FileSystem& files, std::string_view path) {
-    const auto stamp = files.stamp(path);
     std::string bytes;
-    if (!stamp || stamp->size > LargestFile || !files.readFile(path, bytes))
+    if (files.read(path, bytes, LargestFile) != ReadResult::Done)
         return std::nullopt;
     return sizeInHeaders(bytes);
 }
@@ -160,7 +183,9 @@ void ReadBitmapList(Frame& frame, Catalogue& catalogue) {
     const std::string folder = thumbnailsPath(frame.state);
     const std::string path = folder + std::string(ListName);
     std::string bytes, text(DefaultList);
-    if (frame.files.readFile(path, bytes)) {
+    const ReadResult result = frame.files.read(path, bytes, LargestProfile);
+    notePassedOver(catalogue, path, result);
+    if (result == ReadResult::Done) {
         decodeSettingsText(bytes, text);
     } else if (catalogue.pictureFolders == PictureFolders::MadeAsNeeded && !frame.files.stamp(path)) {
         makeFolder(frame, catalogue, folder);

@@ -1,4 +1,5 @@
 #include "catalogue/catalogue.h"
+#include "catalogue/passed_over.h"
 
 #include <utility>
 
@@ -64,7 +65,8 @@ void takeItems(Catalogue& catalogue, ConsistEntry& entry, ConsistScratch& scratc
 void readEntry(Catalogue& catalogue, ConsistEntry& entry, ConsistScratch& scratch) {
     // What the reader objects to is the verifier's business; the vehicles read until then count. The
     // durability isn't looked at.
-    ReadConsistFile(scratch.reader, scratch.rame, scratch.items, entry.FolderPath + entry.FileName);
+    const std::string path = entry.FolderPath + entry.FileName;
+    notePassedOver(catalogue, path, ReadConsistFile(scratch.reader, scratch.rame, scratch.items, path));
     takeItems(catalogue, entry, scratch);
     if (entry.Items.empty())
         entry.Items.emplace_back();

@@ -32,6 +32,9 @@ Session::Session(const Surroundings& surroundings, const CommonOptions& options,
 bool Session::prepare(bool withRoots) {
     if (!options_.settings.empty() && !FileExists(frame.files, state.IniPath))
         return refuse("There is no settings file " + shown(state.IniPath));
+    if (isProfileTooLarge(frame.files, state.IniPath))
+        return refuse("The settings file is too large (" + megabytesOf(frame.files, state.IniPath) +
+                      " MB): " + shown(state.IniPath));
     readSettings(frame);
     return prepareLanguage() && (!withRoots || prepareRoots());
 }
@@ -53,8 +56,8 @@ bool Session::refuse(std::string_view text) {
 
 bool Session::prepareLanguage() {
     state.LanguagePath = findShippedFile(frame.files, folders_, "Langues.lng");
-    if (state.LanguagePath.empty())
-        return refuse(LanguageFileMissing);
+    if (const std::string fault = languageFileFault(frame); !fault.empty())
+        return refuse(fault);
     readLanguage(frame);
     if (options_.language.empty()) {
         if (const auto instead = languageInstead(frame)) {
@@ -113,7 +116,8 @@ void Session::takeRootsOfSettings() {
 int readWholeFile(Session& session, SimReader& reader, const std::string& path) {
     const std::string shown = session.shown(path);
     if (!FileExists(session.frame.files, path))
-        return session.cannotRun("There is no file " + shown);
+        return session.cannotRun(
+            (session.frame.files.stamp(path) ? "The file can't be read: " : "There is no file ") + shown);
     if (kindOfFile(path) == FileKind::Unknown)
         return session.fault("The simulator has no files of this kind: " + shown);
     if (reader.ReadSimFile(path, "", "", 1, false, false))

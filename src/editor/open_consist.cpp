@@ -5,7 +5,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstdint>
 #include <unordered_map>
 
 namespace zandor {
@@ -195,26 +194,19 @@ bool isConsist(SimReader& reader, std::string_view path) {
             (reader.error && reader.error->number == MalformedConsist));
 }
 
-// A megabyte is some three thousand vehicles.
-constexpr std::uint64_t HugeConsist = std::uint64_t(32) << 20; // bytes
-
-bool acceptsSize(Editor& editor, std::string_view path) {
+// `error`: what the gate raised, if anything.
+void tellNotOpened(Editor& editor, std::string_view path, const std::optional<SimError>& error) {
     Frame& frame = editor.frame;
-    const auto stamp = frame.files.stamp(path);
-    if (!stamp || stamp->size < HugeConsist)
-        return true;
     const std::string native = frame.files.nativePath(path);
-    const std::string megabytes = std::to_string(stamp->size >> 20);
-    return frame.show(
-               frame.text(Message::AskOpenHuge, {{"|1", native}, {"|2", LineBreak}, {"|3", megabytes}}),
-               style::YesNo + style::Question + style::SecondButton) == answer::Yes;
-}
-
-void tellNotOpened(Editor& editor, std::string_view path) {
-    Frame& frame = editor.frame;
-    std::string bytes;
-    const Message message = frame.files.readFile(path, bytes) ? Message::NotAConsist : Message::OpenFailed;
-    const std::string native = frame.files.nativePath(path);
+    const bool unread = error && (error->number == FileTooLarge || error->number == NoMemoryLeft ||
+                                  error->number == UnreadableFile);
+    if (unread) {
+        frame.show(
+            frame.text(Message::ConsistUnread, {{"|1", native}, {"|2", LineBreak}, {"|3", error->text}}),
+            style::Exclamation);
+        return;
+    }
+    const Message message = frame.files.fileExists(path) ? Message::NotAConsist : Message::OpenFailed;
     frame.show(frame.text(message, {{"|1", native}, {"|2", LineBreak}}), style::Exclamation);
 }
 
@@ -236,8 +228,6 @@ std::string folderOf(std::string_view path) {
 
 bool openConsist(Editor& editor, std::string_view path) {
     Frame& frame = editor.frame;
-    if (!acceptsSize(editor, path))
-        return false;
     const double durability = editor.document.controls.durability / 1000.0;
     SimReader reader(frame.files, frame.language);
     ConsistReading reading;
@@ -247,7 +237,7 @@ bool openConsist(Editor& editor, std::string_view path) {
     // more, so that a failure doesn't pass for it and a save over the file loses nothing.
     if (reading.empty()) {
         if (!isConsist(reader, path)) {
-            tellNotOpened(editor, path);
+            tellNotOpened(editor, path, reader.error);
             return false;
         }
         reading = readConsist(reader, path, durability);

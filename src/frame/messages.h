@@ -106,7 +106,6 @@ enum class Message : int {
     ThumbnailFolderFailed = 93, // |1 the folder, |2 a line break
     PictureUnreadable = 94,     // |1 the file, |2 a line break
     NotAConsist = 95,           // |1 the file, |2 a line break
-    AskOpenHuge = 97,           // |1 the file, |2 a line break, |3 its size in megabytes
     StripTooLong = 98,          // |1 the most pixels that the strip can show
     LanguageGone = 99,          // |1 the language, |2 a line break, |3 the one that serves instead
 
@@ -520,6 +519,15 @@ enum class Message : int {
     DecimalMark = 831, // "." or ","
     // what no consist file can hold
     StockUnwritable = 820, // |1 the stock's folder and file, |2 a line break
+    // files that aren't read
+    FileTooLarge = 800,    // |1 its size in megabytes, |2 the most that is read
+    NoMemoryForFile = 801, // as 800 and 802, the reason that 803 gives
+    FileUnreadable = 802,
+    ConsistUnread = 803,    // |1 the file, |2 a line break, |3 the text of 800, 801 or 802
+    FilesPassedOver = 804,  // |1 the lines of 805 and 806, each after a line break
+    FileAndSize = 805,      // |1 the file, |2 its size in megabytes
+    AndMoreFiles = 806,     // |1 how many files aren't named
+    SettingsTooLarge = 807, // |1 the file, |2 a line break, |3 its size in megabytes
 };
 
 } // namespace zandor

@@ -179,6 +179,11 @@ bool isOneLine(std::string_view text) {
 
 } // namespace
 
+bool isProfileTooLarge(FileSystem& files, std::string_view file) {
+    const std::optional<FileStamp> stamp = files.stamp(file);
+    return stamp && stamp->size > LargestProfile;
+}
+
 const ProfileFiles::Parsed* ProfileFiles::load(std::string_view file) {
     auto kept = kept_.find(file);
     const std::optional<FileStamp> stamp = files_.stamp(file);
@@ -187,7 +192,7 @@ const ProfileFiles::Parsed* ProfileFiles::load(std::string_view file) {
     if (kept != kept_.end())
         kept_.erase(kept);
     std::string bytes;
-    if (!stamp || !files_.readFile(file, bytes))
+    if (!stamp || files_.read(file, bytes, LargestProfile) != ReadResult::Done)
         return nullptr;
     std::string text;
     decodeSettingsText(bytes, text);
@@ -230,7 +235,9 @@ bool ProfileFiles::WriteIniValue(std::string_view section, std::string_view key,
         return false;
     std::string bytes;
     // A file that is there and can't be read must not be taken for a missing one: its values would be lost.
-    if (!files_.readFile(file, bytes) && (files_.stamp(file) || files_.fileExists(file)))
+    const ReadResult result = files_.read(file, bytes, LargestProfile);
+    const bool isMissing = result == ReadResult::Missing && !files_.stamp(file) && !files_.fileExists(file);
+    if (result != ReadResult::Done && !isMissing)
         return false;
     std::string text;
     const TextEncoding encoding = decodeSettingsText(bytes, text);

@@ -6,6 +6,7 @@
 #include "platform/file_system.h"
 #include "text/text.h"
 
+#include <cstdint>
 #include <map>
 #include <optional>
 #include <string>
@@ -17,6 +18,10 @@ namespace zandor {
 
 inline constexpr std::string_view GeneralSection = "General";
 inline constexpr std::string_view DefaultLanguage = "Français";
+
+// A larger file isn't read, has no values, and is never written over.
+inline constexpr std::uint64_t LargestProfile = std::uint64_t(16) << 20; // bytes
+bool isProfileTooLarge(FileSystem& files, std::string_view file);
 
 class ProfileFiles {
   public:

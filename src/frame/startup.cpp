@@ -55,12 +55,14 @@ void provideLanguageFile(Frame& frame, const ProgramFolders& folders) {
     const std::string shipped = findShippedFile(
         frame.files, {{}, folders.executable, folders.executableName, folders.shared}, LanguageFile);
     std::string newBytes, ownBytes;
-    if (folders.program == folders.executable || !frame.files.readFile(shipped, newBytes))
+    if (folders.program == folders.executable ||
+        frame.files.read(shipped, newBytes, LargestProfile) != ReadResult::Done)
         return;
     const std::string noted = frame.profiles.ReadIniValue(section, LanguageFile, notes);
-    const bool isRead = frame.files.readFile(own, ownBytes);
+    const ReadResult result = frame.files.read(own, ownBytes, LargestProfile);
+    const bool isRead = result == ReadResult::Done;
     const bool isSame = isRead && ownBytes == newBytes;
-    const bool isHisOwn = isRead ? markOf(ownBytes) != noted : frame.files.stamp(own).has_value();
+    const bool isHisOwn = isRead ? markOf(ownBytes) != noted : result != ReadResult::Missing;
     if (isHisOwn && !isSame)
         return;
     if (isSame || replaceFile(frame.files, own, newBytes))
@@ -84,7 +86,7 @@ bool hasLineBeginning(std::string_view text, std::string_view beginning) {
 void provideSettings(Frame& frame) {
     const std::string& path = frame.state.IniPath;
     std::string bytes, text;
-    if (frame.files.readFile(path, bytes)) {
+    if (frame.files.read(path, bytes, LargestProfile) == ReadResult::Done) {
         decodeSettingsText(bytes, text);
         if (!hasLineBeginning(text, "ControlThumbnails"))
             writeSetting(frame, "ControlThumbnails", "1");
@@ -170,10 +172,29 @@ bool prepareStart(Frame& frame, const ProgramFolders& folders) {
     state.IniPath = inProgramFolder(frame, "Zandor.ini");
     provideLanguageFile(frame, folders);
     state.LanguagePath = findShippedFile(frame.files, folders, LanguageFile);
-    if (state.LanguagePath.empty())
+    if (!languageFileFault(frame).empty())
         return false;
     readLanguage(frame);
     return true;
+}
+
+std::string languageFileFault(const Frame& frame) {
+    const std::string& path = frame.state.LanguagePath;
+    if (path.empty())
+        return std::string(LanguageFileMissing);
+    if (!isProfileTooLarge(frame.files, path))
+        return {};
+    return std::string(LanguageFileTooLarge) + " (" + megabytesOf(frame.files, path) +
+           " Mo) : " + frame.files.nativePath(path);
+}
+
+void tellSettingsTooLarge(Frame& frame) {
+    const std::string& path = frame.state.IniPath;
+    if (!isProfileTooLarge(frame.files, path))
+        return;
+    const std::string native = frame.files.nativePath(path), size = megabytesOf(frame.files, path);
+    frame.show(frame.text(Message::SettingsTooLarge, {{"|1", native}, {"|2", "\n"}, {"|3", size}}),
+               style::Exclamation);
 }
 
 void readLanguage(Frame& frame) {
@@ -209,6 +230,7 @@ void loadSettings(Frame& frame, const ProgramFolders& folders) {
     setHelpFile(frame);
     state.MainReady = false;
     provideSettings(frame);
+    tellSettingsTooLarge(frame);
     cleanUpAfterInstallation(frame);
     readSettings(frame);
     // makes the key in the settings of an older release

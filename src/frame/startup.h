@@ -11,13 +11,19 @@ namespace zandor {
 
 std::string makeTitle(); // "Zandor 1.00": major, ".", minor and revision without a separator
 
-// The only text that isn't in the language file.
+// The only texts that aren't in the language file.
 inline constexpr std::string_view LanguageFileMissing =
     "L'application ne peut démarrer car le fichier de langues n'a pas été trouvé !";
+inline constexpr std::string_view LanguageFileTooLarge =
+    "L'application ne peut démarrer car le fichier de langues est trop grand";
 
-// Title, settings path, language file and language. False: the language file is missing and the process must
-// end.
+// Title, settings path, language file and language. False: the process must end; languageFileFault() says
+// why.
 bool prepareStart(Frame& frame, const ProgramFolders& folders);
+// Why the language file of the state can't serve; empty: it can.
+std::string languageFileFault(const Frame& frame);
+// A settings file that isn't read, since it is too large, is told with its size.
+void tellSettingsTooLarge(Frame& frame);
 
 // What the settings say, without a write: the flags, the backup folder, the language.
 void readSettings(Frame& frame);

@@ -4,26 +4,8 @@
 
 namespace zandor {
 
-namespace {
-
-// Not an ending that any pattern of simulator files matches, so a sibling left by a power cut is never read.
-constexpr std::string_view kSiblingEnding = "~new";
-
-bool moveIntoPlace(FileSystem& files, const std::string& sibling, std::string_view path,
-                   std::string_view bytes) {
-    return files.writeFile(sibling, bytes) && files.renameFile(sibling, path);
-}
-
-} // namespace
-
-bool replaceFile(FileSystem& files, std::string_view path, std::string_view bytes) {
-    if (GetFileName(path).empty() || files.attributes(path).readOnly)
-        return false;
-    const std::string sibling = std::string(path).append(kSiblingEnding);
-    if (moveIntoPlace(files, sibling, path, bytes))
-        return true;
-    files.deleteFile(sibling);
-    return false;
+bool replaceFile(FileSystem& files, std::string_view path, std::string_view bytes, ReadOnly readOnly) {
+    return !GetFileName(path).empty() && files.replaceFile(path, bytes, readOnly);
 }
 
 bool CopyFileOver(FileSystem& files, std::string_view source, std::string_view target) {
@@ -37,6 +19,12 @@ std::vector<std::string> listFiles(FileSystem& files, std::string_view folder, s
         if (!entry.isFolder && endsWithIgnoringCase(entry.name, extension))
             names.push_back(std::move(entry.name));
     return names;
+}
+
+std::string megabytesOf(FileSystem& files, std::string_view path) {
+    const auto stamp = files.stamp(path);
+    constexpr std::uint64_t megabyte = 1 << 20;
+    return std::to_string(stamp ? (stamp->size + megabyte - 1) / megabyte : 0);
 }
 
 bool FileExists(FileSystem& files, std::string_view path) {

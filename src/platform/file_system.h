@@ -24,19 +24,24 @@ struct FileStamp {
     bool operator==(const FileStamp&) const = default;
 };
 
-// A file's attributes as the simulator's system knows them. A system that lacks one leaves it false.
-struct FileAttributes {
-    bool readOnly = false;
-    bool operator==(const FileAttributes&) const = default;
-};
+// How a read ended. Missing: the path names nothing. Unreadable: what it names is no file, may not be read,
+// or the disk failed.
+enum class ReadResult { Done, Missing, Unreadable, TooLarge, NoMemory };
+inline constexpr std::uint64_t LargestRead = std::uint64_t(2) << 30; // bytes
+
+// What becomes of a read-only file that is to be replaced. Kept: it is, and stays read-only all the while.
+enum class ReadOnly { Refused, Kept };
 
 class FileSystem {
   public:
     virtual ~FileSystem() = default;
 
-    // Reads a whole file into `bytes` (its storage is used again); false, and `bytes` empty, when it can't be
-    // opened or read to its end.
-    virtual bool readFile(std::string_view path, std::string& bytes) = 0;
+    // Reads a whole file into `bytes` (its storage is used again), which stay empty unless it is done. A file
+    // of more than `limit` bytes is too large, and takes no memory.
+    virtual ReadResult read(std::string_view path, std::string& bytes, std::uint64_t limit) = 0;
+    bool readFile(std::string_view path, std::string& bytes) {
+        return read(path, bytes, LargestRead) == ReadResult::Done;
+    }
     // True when the path names a file that can be opened for reading.
     virtual bool fileExists(std::string_view path) = 0;
     virtual bool folderExists(std::string_view path) = 0;
@@ -48,33 +53,32 @@ class FileSystem {
     // read.
     virtual std::vector<FolderEntry> listFolder(std::string_view path) = 0;
 
-    // Makes the file hold exactly `bytes`, in the case asked for when it is new, and has them on the disk
-    // before it returns true. Not atomic: replaceFile() is the way to write over something that matters.
-    virtual bool writeFile(std::string_view path, std::string_view bytes) = 0;
-    virtual bool deleteFile(std::string_view path) = 0;
-    // Renames a file within its folder or to another one of the same disk, over an existing file when there
-    // is one.
-    virtual bool renameFile(std::string_view from, std::string_view to) = 0;
+    // Makes the file hold exactly `bytes` so that at every moment, and after a failure of any step, either
+    // the old or the new contents stand whole under its name, and nothing else beside it. They are on the
+    // disk before it returns true. A new file gets the case asked for; an existing one keeps its own, with
+    // its permissions. False: the old contents stand.
+    virtual bool replaceFile(std::string_view path, std::string_view bytes, ReadOnly readOnly) = 0;
+    virtual bool deleteFile(std::string_view path) = 0; // not a read-only one
     // Makes one folder, in the existing folder above it; true also when it exists already.
     virtual bool createFolder(std::string_view path) = 0;
     virtual bool deleteFolder(std::string_view path) = 0; // only an empty one
-    virtual FileAttributes attributes(std::string_view path) = 0;
-    virtual bool setAttributes(std::string_view path, FileAttributes attributes) = 0;
 
     // The path as a person of this system would write it, for messages and settings.
     virtual std::string nativePath(std::string_view path) = 0;
 };
 
-// Puts new contents in a file's place so that at every moment, and after a failure of any step, either the
-// old or the new contents stand whole under the file's name. A new file gets the case asked for, an existing
-// one keeps its own. A read-only file is refused. False: the old contents stand.
-bool replaceFile(FileSystem& files, std::string_view path, std::string_view bytes);
+// The same; a path without a file's name is refused.
+bool replaceFile(FileSystem& files, std::string_view path, std::string_view bytes,
+                 ReadOnly readOnly = ReadOnly::Refused);
 
 // Copies over an existing target, whose old contents survive a failure.
 bool CopyFileOver(FileSystem& files, std::string_view source, std::string_view target);
 
 // Names of the folder's files that end in `extension` (such as ".eng"), case ignored, in listing order.
 std::vector<std::string> listFiles(FileSystem& files, std::string_view folder, std::string_view extension);
+
+// The file's size in megabytes, rounded up, for messages; "0" when there is no such file.
+std::string megabytesOf(FileSystem& files, std::string_view path);
 
 bool FileExists(FileSystem& files, std::string_view path);   // one trailing "\" is dropped first
 bool FolderExists(FileSystem& files, std::string_view path); // false for an empty text

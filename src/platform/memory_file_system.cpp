@@ -48,11 +48,11 @@ template <typename Nodes> bool hasFolder(const Nodes& nodes, std::string_view pa
     return keyOf(path).empty() || (node && node->isFolder);
 }
 
-// Its path when a new file may be made there, or when the file that stands there may be changed.
-template <typename Nodes> bool mayWrite(const Nodes& nodes, std::string_view path) {
+// True when a new file may be made there, or the file that stands there may be changed.
+template <typename Nodes> bool mayWrite(const Nodes& nodes, std::string_view path, ReadOnly readOnly) {
     const auto* node = findNode(nodes, path);
     if (node)
-        return !node->isFolder && !node->attributes.readOnly;
+        return !node->isFolder && (!node->attributes.readOnly || readOnly == ReadOnly::Kept);
     return hasFolder(nodes, parentOf(normalised(path)));
 }
 
@@ -93,15 +93,23 @@ void MemoryFileSystem::giveAway(std::string_view path) {
         node->foreign = true;
 }
 
+FileAttributes MemoryFileSystem::attributes(std::string_view path) const {
+    const Node* node = findNode(nodes_, path);
+    return node ? node->attributes : FileAttributes{};
+}
+
+bool MemoryFileSystem::setAttributes(std::string_view path, FileAttributes attributes) {
+    Node* node = findNode(nodes_, path);
+    if (node)
+        node->attributes = attributes;
+    return node != nullptr;
+}
+
 void MemoryFileSystem::failAt(int call, bool andAllAfter) {
     calls_ = 0;
     failCall_ = call;
     failAllAfter_ = andAllAfter;
     failed_ = false;
-}
-
-void MemoryFileSystem::writeShort(std::size_t bytes) {
-    shortBytes_ = bytes;
 }
 
 bool MemoryFileSystem::fails(std::string_view verb, std::string_view path) {
@@ -114,10 +122,17 @@ bool MemoryFileSystem::fails(std::string_view verb, std::string_view path) {
     return now;
 }
 
-bool MemoryFileSystem::readFile(std::string_view path, std::string& bytes) {
-    const Node* node = fails("readFile", path) ? nullptr : findFile(nodes_, path);
-    bytes = node ? node->bytes : std::string();
-    return node != nullptr;
+ReadResult MemoryFileSystem::read(std::string_view path, std::string& bytes, std::uint64_t limit) {
+    bytes.clear();
+    if (fails("readFile", path))
+        return ReadResult::Unreadable;
+    const Node* node = findNode(nodes_, path);
+    if (!node || node->isFolder)
+        return node ? ReadResult::Unreadable : ReadResult::Missing;
+    if (node->bytes.size() > limit)
+        return ReadResult::TooLarge;
+    bytes = node->bytes;
+    return ReadResult::Done;
 }
 
 bool MemoryFileSystem::fileExists(std::string_view path) {
@@ -152,35 +167,17 @@ std::vector<FolderEntry> MemoryFileSystem::listFolder(std::string_view path) {
     return entries;
 }
 
-bool MemoryFileSystem::writeFile(std::string_view path, std::string_view bytes) {
-    const bool failing = fails("writeFile", path);
-    if ((failing && shortBytes_ == 0) || !mayWrite(nodes_, path))
+bool MemoryFileSystem::replaceFile(std::string_view path, std::string_view bytes, ReadOnly readOnly) {
+    if (fails("writeFile", path) || fails("renameFile", path) || !mayWrite(nodes_, path, readOnly))
         return false;
-    put(path, failing ? bytes.substr(0, shortBytes_) : bytes);
-    return !failing;
+    put(path, bytes);
+    return true;
 }
 
 bool MemoryFileSystem::deleteFile(std::string_view path) {
     const bool failing = fails("deleteFile", path);
     const Node* node = findFile(nodes_, path);
     return !failing && node && !node->attributes.readOnly && nodes_.erase(keyOf(path)) == 1;
-}
-
-bool MemoryFileSystem::renameFile(std::string_view from, std::string_view to) {
-    const bool failing = fails("renameFile", std::string(from).append(" -> ").append(to));
-    const Node* source = findFile(nodes_, from);
-    const std::string fromKey = keyOf(from), toKey = keyOf(to);
-    if (failing || !source || (fromKey != toKey && !mayWrite(nodes_, to)))
-        return false;
-    Node moved = *source;
-    moved.path = normalised(to);
-    if (const Node* old = fromKey == toKey ? nullptr : findFile(nodes_, to)) {
-        moved.path = old->path;
-        moved.attributes = old->attributes;
-    }
-    nodes_.erase(fromKey);
-    nodes_[toKey] = std::move(moved);
-    return true;
 }
 
 bool MemoryFileSystem::createFolder(std::string_view path) {
@@ -204,18 +201,6 @@ bool MemoryFileSystem::deleteFolder(std::string_view path) {
     bool empty = true;
     visitBelow(nodes_, key, [&empty](const Node&) { empty = false; });
     return empty && nodes_.erase(key) == 1;
-}
-
-FileAttributes MemoryFileSystem::attributes(std::string_view path) {
-    const Node* node = fails("attributes", path) ? nullptr : findNode(nodes_, path);
-    return node ? node->attributes : FileAttributes{};
-}
-
-bool MemoryFileSystem::setAttributes(std::string_view path, FileAttributes attributes) {
-    Node* node = fails("setAttributes", path) ? nullptr : findNode(nodes_, path);
-    if (node)
-        node->attributes = attributes;
-    return node != nullptr;
 }
 
 std::string MemoryFileSystem::nativePath(std::string_view path) {

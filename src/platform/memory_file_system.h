@@ -1,4 +1,4 @@
-// A disk in memory for tests. It can fail at any call, write short, or refuse everything from some call on.
+// A disk in memory for tests. It can fail at any call, or refuse everything from some call on.
 #pragma once
 
 #include "platform/file_system.h"
@@ -10,6 +10,11 @@
 
 namespace zandor {
 
+// A file's attributes as the simulator's system knows them.
+struct FileAttributes {
+    bool readOnly = false;
+};
+
 class MemoryFileSystem final : public FileSystem {
   public:
     // ---- what a test sets up and looks at
@@ -18,30 +23,27 @@ class MemoryFileSystem final : public FileSystem {
     std::vector<std::string> allFiles() const; // spelled as made, in order
 
     void giveAway(std::string_view path); // the folder is another user's, or a link to one
+    FileAttributes attributes(std::string_view path) const;
+    bool setAttributes(std::string_view path, FileAttributes attributes);
 
-    // The n-th call from now (1 is the next one) fails; 0 turns it off. Readers count too.
-    // With `andAllAfter` every later call fails as well.
+    // The n-th call from now (1 is the next one) fails; 0 turns it off. Readers count too; a replacement
+    // counts twice, as its writing and its renaming. With `andAllAfter` every later call fails as well.
     void failAt(int call, bool andAllAfter = false);
-    // A failing write leaves this many of its bytes in the file, as a full disk does.
-    void writeShort(std::size_t bytes);
     int calls() const { return calls_; } // since the last failAt()
     bool failed() const { return failed_; }
     std::function<void()> atEachCall; // such as the delay of a slow disk; may be empty
     std::vector<std::string> log;     // one line a call: verb and path, for tests of the order of things
 
-    bool readFile(std::string_view path, std::string& bytes) override;
+    ReadResult read(std::string_view path, std::string& bytes, std::uint64_t limit) override;
     bool fileExists(std::string_view path) override;
     bool folderExists(std::string_view path) override;
     bool isOwnFolder(std::string_view path) override;
     std::optional<FileStamp> stamp(std::string_view path) override;
     std::vector<FolderEntry> listFolder(std::string_view path) override;
-    bool writeFile(std::string_view path, std::string_view bytes) override;
+    bool replaceFile(std::string_view path, std::string_view bytes, ReadOnly readOnly) override;
     bool deleteFile(std::string_view path) override;
-    bool renameFile(std::string_view from, std::string_view to) override;
     bool createFolder(std::string_view path) override;
     bool deleteFolder(std::string_view path) override;
-    FileAttributes attributes(std::string_view path) override;
-    bool setAttributes(std::string_view path, FileAttributes attributes) override;
     std::string nativePath(std::string_view path) override;
 
   private:
@@ -61,7 +63,6 @@ class MemoryFileSystem final : public FileSystem {
     int failCall_ = 0;
     bool failAllAfter_ = false;
     bool failed_ = false;
-    std::size_t shortBytes_ = 0;
 };
 
 } // namespace zandor

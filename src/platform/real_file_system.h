@@ -8,8 +8,13 @@
 
 namespace zandor {
 
+// Whether new contents wait in a file without a name until they are whole; otherwise in one of a name of its
+// own.
+enum class NamelessFiles { WherePossible, Never };
+
 // `winePrefix`: the folder whose dosdevices map drive paths such as C:\ (see winePrefixFolder()); may be
 // empty.
-std::unique_ptr<FileSystem> makeRealFileSystem(const std::string& winePrefix);
+std::unique_ptr<FileSystem> makeRealFileSystem(const std::string& winePrefix,
+                                               NamelessFiles nameless = NamelessFiles::WherePossible);
 
 } // namespace zandor

@@ -8,6 +8,10 @@
 
 namespace zandor {
 
+// To be called once, when the process starts: a limit on the size of files then fails a write, as a full disk
+// does, in place of ending the program.
+void tellSizeLimitsAsErrors();
+
 // $WINEPREFIX, else ~/.wine when that exists, else empty; a native path.
 std::string winePrefixFolder();
 

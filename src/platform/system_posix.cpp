@@ -3,6 +3,7 @@
 #include "platform/sim_path.h"
 
 #include <filesystem>
+#include <signal.h>
 #include <stdlib.h>
 
 #include <pwd.h>
@@ -57,6 +58,14 @@ std::string sharedFolder(const disk::path& executable) {
 }
 
 } // namespace
+
+// A handler, since a signal that is ignored would be so in the programs that this one starts too.
+void tellSizeLimitsAsErrors() {
+    struct sigaction action {};
+    action.sa_handler = [](int) {};
+    action.sa_flags = SA_RESTART;
+    ::sigaction(SIGXFSZ, &action, nullptr);
+}
 
 std::string winePrefixFolder() {
     const std::string prefix = environment("WINEPREFIX");

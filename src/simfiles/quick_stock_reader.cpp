@@ -177,13 +177,20 @@ class QuickLines {
 
 } // namespace
 
-void QuickStockReader::QuickReadStock(Materiel& materiel) {
+ReadResult QuickStockReader::QuickReadStock(Materiel& materiel) {
     path_.assign(materiel.BasePath).append(materiel.Folder).append(1, '\\').append(materiel.FileName);
-    if (!files_.readFile(path_, bytes_))
-        return;
-    decodeSimulatorText(bytes_, text_);
-    QuickLines lines(text_, materiel, line_);
-    forEachLine(text_, [&lines](std::string_view line) { lines.take(line); });
+    const ReadResult result = files_.read(path_, bytes_, LargestSimFile);
+    if (result != ReadResult::Done)
+        return result;
+    try {
+        decodeSimulatorText(bytes_, text_);
+        QuickLines lines(text_, materiel, line_);
+        forEachLine(text_, [&lines](std::string_view line) { lines.take(line); });
+    } catch (const std::bad_alloc&) {
+        bytes_ = text_ = line_ = std::string();
+        return ReadResult::NoMemory;
+    }
+    return result;
 }
 
 } // namespace zandor

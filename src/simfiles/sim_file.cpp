@@ -5,6 +5,7 @@
 #include "text/text.h"
 
 #include <array>
+#include <new>
 
 namespace zandor {
 
@@ -71,19 +72,49 @@ SimReader::~SimReader() = default;
 
 bool SimReader::ReadSimFile(std::string_view path, std::string_view section, std::string_view key, int count,
                             bool mustFind, bool stockMode) {
-    if (files_.readFile(path, work_->bytes))
-        return readBytes(path, work_->bytes, section, key, count, mustFind, stockMode);
+    ReadResult result = files_.read(path, work_->bytes, LargestSimFile);
+    try {
+        if (result == ReadResult::Done)
+            return readBytes(path, work_->bytes, section, key, count, mustFind, stockMode);
+    } catch (const std::bad_alloc&) {
+        giveBackMemory();
+        result = ReadResult::NoMemory;
+    }
+    forget();
+    if (result != ReadResult::Missing)
+        error = readError(path, result);
+    return false;
+}
+
+void SimReader::forget() {
     SimKeys.assign(1, {});
     SimHits.assign(1, {});
     error.reset();
-    return false;
+}
+
+void SimReader::giveBackMemory() {
+    SimKeys = {};
+    SimHits = {};
+    const std::string_view signature = work_->signature;
+    work_.reset();
+    work_ = std::make_unique<Work>(*this);
+    work_->signature = signature;
+}
+
+SimError SimReader::readError(std::string_view path, ReadResult result) {
+    SimError found{UnreadableFile, std::string(path), language_.GetLangText(Message::FileUnreadable)};
+    if (result == ReadResult::NoMemory)
+        return {NoMemoryLeft, found.source, language_.GetLangText(Message::NoMemoryForFile)};
+    if (result != ReadResult::TooLarge)
+        return found;
+    const std::string size = megabytesOf(files_, path), most = std::to_string(LargestSimFile >> 20);
+    return {FileTooLarge, found.source,
+            language_.GetLangText(Message::FileTooLarge, {{"|1", size}, {"|2", most}})};
 }
 
 bool SimReader::readBytes(std::string_view path, std::string_view bytes, std::string_view section,
                           std::string_view key, int count, bool mustFind, bool stockMode) {
-    SimKeys.assign(1, {});
-    SimHits.assign(1, {});
-    error.reset();
+    forget();
     work_->arena.reset();
 
     const KindRow* row = rowOf(path);

@@ -6,6 +6,7 @@
 #include "platform/file_system.h"
 #include "simfiles/sim_keys.h"
 
+#include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
@@ -21,9 +22,15 @@ struct SimError {
     std::string text;
 };
 inline constexpr int MalformedConsist = 321;
+inline constexpr int NoMemoryLeft = 7;
 inline constexpr int EmptyFile = 62; // a file that ends before its signature line
+inline constexpr int UnreadableFile = 75;
+inline constexpr int FileTooLarge = 10003;
 inline constexpr int MissingStockKeyError = 10001;
 inline constexpr int MisplacedVehicle = 10002; // of a consist, in a block where none belongs
+
+// No file of the simulator comes near it; what does is none.
+inline constexpr std::uint64_t LargestSimFile = std::uint64_t(32) << 20; // bytes
 
 enum class FileKind {
     Unknown,
@@ -52,7 +59,7 @@ class SimReader {
     // `section`: the block's path, such as "Wagon\Coupling"; `key`: empty means the block's own value.
     // `count` 1: stop at the first match; 0: all; n: the first n. `mustFind`: true only when a match was
     // found, otherwise true as soon as the signature is accepted. `stockMode`: follow the 22 stock keys
-    // instead. See `error` after a call.
+    // instead. See `error` after a call: a file that is missing, or has another signature, sets none.
     bool ReadSimFile(std::string_view path, std::string_view section, std::string_view key, int count,
                      bool mustFind, bool stockMode);
     // The same on bytes at hand; `path` tells the kind.
@@ -67,6 +74,10 @@ class SimReader {
     const Language& language() const { return language_; }
 
   private:
+    void forget();
+    void giveBackMemory();
+    SimError readError(std::string_view path, ReadResult result);
+
     struct Work;
     FileSystem& files_;
     const Language& language_;

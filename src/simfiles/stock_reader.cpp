@@ -139,19 +139,11 @@ std::optional<std::string> textWithOneName(std::string_view text, const std::vec
 bool rewriteNames(FileSystem& files, std::string_view path, const std::vector<WagonNameLine>& names,
                   int stays) {
     std::string bytes, text;
-    if (!files.readFile(path, bytes))
+    if (files.read(path, bytes, LargestSimFile) != ReadResult::Done)
         return false;
     decodeSimulatorText(bytes, text);
     const std::optional<std::string> result = textWithOneName(text, names, stays);
-    if (!result)
-        return false;
-    const FileAttributes attributes = files.attributes(path);
-    if (attributes.readOnly)
-        files.setAttributes(path, {});
-    const bool written = replaceFile(files, path, encodeText(*result, TextEncoding::Utf16));
-    if (attributes.readOnly)
-        files.setAttributes(path, attributes);
-    return written;
+    return result && replaceFile(files, path, encodeText(*result, TextEncoding::Utf16), ReadOnly::Kept);
 }
 
 } // namespace

@@ -37,8 +37,9 @@ class QuickStockReader {
   public:
     explicit QuickStockReader(FileSystem& files) : files_(files) {}
 
-    // Reads BasePath + Folder + "\" + FileName; a file that can't be read leaves `materiel` as it was.
-    void QuickReadStock(Materiel& materiel);
+    // Reads BasePath + Folder + "\" + FileName; a file that can't be read leaves `materiel` as it was, one
+    // for which no memory is left as far as it was read.
+    ReadResult QuickReadStock(Materiel& materiel);
 
   private:
     FileSystem& files_;

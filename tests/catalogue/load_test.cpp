@@ -74,6 +74,25 @@ TEST_F(CatalogueTest, LoadKeepsStockThatItCannotRead) {
     EXPECT_TRUE(dialogs.shown.empty());
 }
 
+TEST_F(CatalogueTest, LoadPassesOverWhatIsTooLargeAndTellsItOnce) {
+    const std::string huge = signedText(std::string(LargestSimFile, '\n'));
+    const std::string parc = trainsetPath(MstsRoot) + "Parc\\", consist = consistsPath(MstsRoot) + "huge.con";
+    state.PrintGreen = true;
+    files.put(consist, huge);
+    putStock("Parc\\voit.wag", WagonBody);
+    for (const char* name : {"a.eng", "b.eng", "c.eng", "d.wag", "e.wag", "f.wag"})
+        files.put(parc + name, huge);
+    for (const bool optimize : {true, false}) {
+        state.Optimize = optimize;
+        dialogs.shown.clear();
+        EXPECT_TRUE(LoadCatalogue(frame, catalogue));
+        EXPECT_EQ(messagesShown(), Names{"48 passed over\r\n" + consist + " of 33 MB\r\n" + parc +
+                                         "a.eng of 33 MB\r\n" + parc + "b.eng of 33 MB\r\n" + parc +
+                                         "c.eng of 33 MB\r\n" + parc + "d.wag of 33 MB\r\nand 2 more"});
+        EXPECT_EQ(catalogue.Materiels.back().Type, "Carriage") << "the load went on";
+    }
+}
+
 TEST_F(CatalogueTest, LoadRepairsSeveralNamesOnlyWhereItMayWrite) {
     const std::string path = trainsetPath(MstsRoot) + "Parc\\voit.wag";
     putStock("Parc\\voit.wag", std::string(WagonBody) + "Name ( \"Second name\" )\r\n)\r\n");

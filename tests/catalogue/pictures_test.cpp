@@ -70,7 +70,12 @@ TEST_F(PicturesTest, BitmapsAreKnownByTheirHeaders) {
         {"another signature", changed(plain, 0, "MB"), {}},
         {"pixels behind the end", changed(plain, 12, "\1"), {}},
         {"not a single pixel", plain.substr(0, 14 + 40 + 1024), {}},
-        {"cut in the pixels", plain.substr(0, 2000), usual},
+        {"without the filling of its last row", plain.substr(0, plain.size() - 3), usual},
+        {"cut in its last row", plain.substr(0, plain.size() - 4), {}},
+        {"packed", changed(plain, 30, "\1").substr(0, 14 + 40 + 1024 + 2 * 96), usual},
+        {"more than its runs can hold", changed(plain, 30, "\1").substr(0, 14 + 40 + 1024 + 2 * 96 - 1), {}},
+        {"deeper than its bytes", changed(plain, 28, "\x20"), {}},
+        {"wider than its bytes", changed(plain, 19, "\x30"), {}},
         {"nothing", "", {}},
         {"a text", std::string(4000, 'x'), {}},
     };

@@ -28,13 +28,13 @@ class EditorTest : public ::testing::Test, protected TestFrame {
 
     EditorTest() {
         files.put(state.LanguagePath,
-                  "[English]\r\n95=no train |1\r\n97=|3 MB in |1?\r\n98=shown up to |1\r\n30=failed "
+                  "[English]\r\n95=no train |1\r\n98=shown up to |1\r\n30=failed "
                   "|1\r\n31=no consist |1\r\n329=save |1?\r\n330=save new?\r\n"
                   "331=long |1\r\n332=|1 heavy |2\r\n394=R |1\r\n395=Brakes\r\n396=air\r\n402=piped air\r\n"
                   "400=Coupled\r\n401=|1 m\r\n404=auto\r\n405=bar\r\n406=chain\r\n407=hydro\r\n408=|1 t\r\n"
                   "428=misfit\r\n429=no name\r\n430=no full name\r\n431=|1 taken\r\n432=saved\r\n"
-                  "433=+kept |2\r\n443=incomplete\r\n586=limit |2 in |1\r\n820=unwritable |1\r\n"
-                  "830=|1 unkept in |2\r\n");
+                  "433=+kept |2\r\n443=incomplete\r\n586=limit |2 in |1\r\n800=|1 MB of |2\r\n"
+                  "802=unreadable\r\n803=unread |1: |3\r\n820=unwritable |1\r\n830=|1 unkept in |2\r\n");
         state.Language = "English";
         state.RootMSTS = state.RootPrimary = Simulator;
         state.RootTStore = state.RootSecondary = Store;

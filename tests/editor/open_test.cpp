@@ -122,15 +122,19 @@ TEST_F(OpenTest, WhatIsNoConsistChangesNothing) {
     }
 }
 
-TEST_F(OpenTest, AHugeFileIsOpenedOnlyWhenItsUserWantsIt) {
+TEST_F(OpenTest, AFileThatIsNotReadIsToldWithTheReason) {
     std::string text(ConsistSignature);
     text.append("\r\nTrain (\r\nTrainCfg ( big\r\nWagon (\r\nWagonData ( Wag1 Folder1 )\r\n)\r\n)\r\n)\r\n");
-    files.put(consistPath("big.con"), text + std::string(33u << 20, '\n'));
-    dialogs.answers = {answer::No, answer::Yes};
+    text.resize(32u << 20, '\n');
+    files.put(consistPath("big.con"), text + '\n');
+    files.put(consistPath("fits.con"), text);
+    files.put(consistPath("folder.con\\file"), "");
     EXPECT_FALSE(open("big.con"));
-    EXPECT_EQ(shown(), Shown{"292 33 MB in " + files.nativePath(consistPath("big.con")) + "?"});
+    EXPECT_FALSE(open("folder.con"));
+    EXPECT_EQ(shown(), (Shown{"48 unread " + consistPath("big.con") + ": 33 MB of 32",
+                              "48 unread " + consistPath("folder.con") + ": unreadable"}));
     EXPECT_FALSE(hasVehicles(document));
-    EXPECT_TRUE(open("big.con"));
+    EXPECT_TRUE(open("fits.con"));
     EXPECT_EQ(vehicleCount(document), 1);
 }
 

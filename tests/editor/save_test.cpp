@@ -297,7 +297,6 @@ TEST_F(SaveTest, AFailureAnywhereLosesNothing) {
             }
             const Rame rameBefore = document.rame;
             dialogs.shown.clear();
-            files.writeShort(40);
             files.failAt(call, c.allAfter);
             dialogs.defaultAnswer = answer::No;
             SaveFileRame(editor);

@@ -170,6 +170,18 @@ TEST_F(Settings, AReadOnlyFileKeepsItsValues) {
     EXPECT_EQ(files.get(Path), "[General]\r\na=1\r\n");
 }
 
+TEST_F(Settings, AFileThatIsTooLargeHasNoValuesAndIsNotWrittenOver) {
+    const std::string most = "[General]\r\na=1\r\n" + std::string(LargestProfile - 16, '\n');
+    for (const std::string& bytes : {most, most + '\n'}) {
+        files.put(Path, bytes);
+        const bool isTooLarge = bytes.size() > LargestProfile;
+        EXPECT_EQ(isProfileTooLarge(files, Path), isTooLarge);
+        EXPECT_EQ(read("a"), isTooLarge ? "" : "1");
+        EXPECT_EQ(write("a", "2"), !isTooLarge);
+        EXPECT_EQ(files.get(Path) == bytes, isTooLarge);
+    }
+}
+
 TEST_F(Settings, ADiskThatFailsAtAnyCallLosesNoSetting) {
     const std::string before = "[General]\r\na=1\r\nb=2\r\n";
     for (const bool andAllAfter : {false, true})

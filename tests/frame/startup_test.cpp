@@ -67,6 +67,24 @@ TEST_F(StartUp, WithoutTheLanguageFileNothingStarts) {
     EXPECT_EQ(settingsFile(), "none");
 }
 
+TEST_F(StartUp, FilesThatAreTooLargeAreToldWithTheirSizesAndKept) {
+    const ProgramFolders installed{"\\home", "\\bin", "zandor", "\\share"};
+    const std::string own = "\\home\\Langues.lng", huge(LargestProfile + 1, '\n');
+    files.put("\\share\\Langues.lng", encodeWindows1252("[Français]\r\n807=|3 MB in |1\r\n"));
+    files.put(own, huge);
+    EXPECT_FALSE(prepareStart(frame, installed));
+    EXPECT_EQ(languageFileFault(frame), std::string(LanguageFileTooLarge) + " (17 Mo) : " + own);
+    EXPECT_EQ(files.get(own), huge);
+
+    files.deleteFile(own);
+    EXPECT_TRUE(prepareStart(frame, installed));
+    EXPECT_EQ(languageFileFault(frame), "");
+    files.put(state.IniPath, huge);
+    loadSettings(frame, installed);
+    EXPECT_EQ(dialogs.lastText(), "17 MB in " + state.IniPath);
+    EXPECT_EQ(files.get(state.IniPath), huge);
+}
+
 TEST_F(StartUp, AFirstStartWritesTheDefaultsAndCleansUp) {
     const std::string setup = GetTempFolder() + "\\QX_Setup";
     files.put(setup + "\\a.cab", "x");

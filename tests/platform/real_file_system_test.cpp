@@ -1,14 +1,18 @@
 #include "platform/real_file_system.h"
+#include "platform/system.h"
 
 #include <gtest/gtest.h>
 
 #include <chrono>
 #include <filesystem>
 #include <fstream>
+#include <signal.h>
 #include <stdlib.h>
 #include <thread>
 
+#include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 namespace zandor {
@@ -24,6 +28,21 @@ class RealDisk : public testing::Test {
         std::string pattern = (disk::temp_directory_path() / "disk-XXXXXX").string();
         root = mkdtemp(pattern.data());
         files = makeRealFileSystem(root + "/prefix");
+    }
+    // Another process that does `work` and ends with 0 when that gives true.
+    template <typename Work> static pid_t start(Work work) {
+        const pid_t id = fork();
+        if (id == 0)
+            _exit(work() ? 0 : 1);
+        return id;
+    }
+    static bool succeeds(pid_t id) {
+        int status = -1;
+        return waitpid(id, &status, 0) == id && WIFEXITED(status) && WEXITSTATUS(status) == 0;
+    }
+    static bool runs(pid_t id) {
+        siginfo_t info{};
+        return waitid(P_PID, id_t(id), &info, WEXITED | WNOHANG | WNOWAIT) == 0 && info.si_pid == 0;
     }
     ~RealDisk() override { disk::remove_all(root); }
 
@@ -118,7 +137,7 @@ TEST_F(RealDisk, ChangesOfOtherProgramsAreSeenAtOnce) {
 TEST_F(RealDisk, OwnAndForeignChangesInTheSameMomentAreAllSeen) {
     for (int i = 0; i < 50; ++i) {
         const std::string number = std::to_string(i);
-        ASSERT_TRUE(files->writeFile(sim("own" + number), ""));
+        ASSERT_TRUE(replaceFile(*files, sim("own" + number), ""));
         make("Foreign" + number);
         ASSERT_TRUE(files->fileExists(sim("OWN" + number)));
         ASSERT_TRUE(files->fileExists(sim("foreign" + number)));
@@ -217,38 +236,108 @@ TEST_F(RealDisk, OnlyPlainFilesAreReadable) {
             EXPECT_EQ(read(sim(name)), "(none)") << name;
     for (const char* name : {"folder", "pipe", "zero", "broken"})
         EXPECT_FALSE(files->fileExists(sim(name)) || files->stamp(sim(name))) << name;
-    EXPECT_FALSE(files->writeFile(sim("pipe"), "x"));
+    EXPECT_FALSE(replaceFile(*files, sim("pipe"), "x"));
+}
+
+TEST_F(RealDisk, AReadTellsWhatStandsAgainstIt) {
+    disk::create_directory(native("folder"));
+    disk::create_symlink("nowhere", native("broken"));
+    disk::create_symlink("loop", native("loop"));
+    make("small", std::string(1000, 'x'));
+    make("large", std::string(3 << 20, 'x'));
+    make("sparse", "");
+    disk::resize_file(native("sparse"), std::uintmax_t(1900) << 20);
+    const struct {
+        const char* name;
+        std::uint64_t limit;
+        ReadResult result;
+    } cases[] = {
+        {"small", 1000, ReadResult::Done},          {"small", 999, ReadResult::TooLarge},
+        {"large", 3 << 20, ReadResult::Done},       {"large", (3 << 20) - 1, ReadResult::TooLarge},
+        {"sparse", 32 << 20, ReadResult::TooLarge}, {"folder", 32 << 20, ReadResult::Unreadable},
+        {"broken", 32 << 20, ReadResult::Missing},  {"loop", 32 << 20, ReadResult::Missing},
+        {"none", 32 << 20, ReadResult::Missing},    {"none/none", 32 << 20, ReadResult::Missing},
+    };
+    for (int round = 0; round < 2; ++round)
+        for (const auto& c : cases) {
+            std::string bytes = "rest of an earlier file";
+            EXPECT_EQ(files->read(sim(c.name), bytes, c.limit), c.result) << c.name << " " << c.limit;
+            EXPECT_EQ(bytes.empty(), c.result != ReadResult::Done);
+            EXPECT_LT(bytes.capacity(), 16u << 20);
+        }
+    EXPECT_EQ(megabytesOf(*files, sim("sparse")), "1900");
+    EXPECT_EQ(megabytesOf(*files, sim("small")), "1");
 }
 
 TEST_F(RealDisk, WritingKeepsTheSpellingOnTheDisk) {
     make("Dir/Old.con", "old");
-    EXPECT_TRUE(files->writeFile(sim("DIR/OLD.CON"), "1"));
-    EXPECT_TRUE(files->writeFile(sim("dir/NEW.con"), "2"));
-    EXPECT_TRUE(replaceFile(*files, sim("dir/old.con"), "3"));
-    EXPECT_TRUE(replaceFile(*files, sim("dir/Replaced.Con"), "4"));
-    EXPECT_EQ(namesIn("Dir"), (Names{"NEW.con", "Old.con", "Replaced.Con"}));
-    EXPECT_EQ(bytesOf("Dir/Old.con"), "3");
-    EXPECT_TRUE(files->renameFile(sim("dir/new.con"), sim("dir/New.CON")));
-    EXPECT_TRUE(files->deleteFile(sim("dir/REPLACED.con")));
-    EXPECT_EQ(namesIn("Dir"), (Names{"New.CON", "Old.con"}));
-    EXPECT_FALSE(files->writeFile(sim("none/a.con"), ""));
-    EXPECT_FALSE(files->writeFile(sim("dir"), ""));
+    EXPECT_TRUE(replaceFile(*files, sim("DIR/OLD.CON"), "1"));
+    EXPECT_TRUE(replaceFile(*files, sim("dir/NEW.con"), "2"));
+    EXPECT_EQ(namesIn("Dir"), (Names{"NEW.con", "Old.con"}));
+    EXPECT_EQ(bytesOf("Dir/Old.con"), "1");
+    EXPECT_TRUE(files->deleteFile(sim("dir/new.CON")));
+    EXPECT_EQ(namesIn("Dir"), Names{"Old.con"});
+    EXPECT_FALSE(replaceFile(*files, sim("none/a.con"), ""));
+    EXPECT_FALSE(replaceFile(*files, sim("dir"), ""));
     EXPECT_FALSE(files->deleteFile(sim("dir")));
 }
 
-TEST_F(RealDisk, ReplacingKeepsPermissionsAndLinks) {
+TEST_F(RealDisk, FoldersAreMadeAndDeleted) {
+    EXPECT_TRUE(files->createFolder(sim("New")));
+    EXPECT_TRUE(files->createFolder(sim("NEW")));
+    EXPECT_FALSE(files->createFolder(sim("none/below")));
+    EXPECT_TRUE(replaceFile(*files, sim("new/a"), ""));
+    EXPECT_FALSE(files->deleteFolder(sim("new")));
+    EXPECT_TRUE(files->deleteFile(sim("new/A")));
+    EXPECT_TRUE(files->deleteFolder(sim("new")));
+    EXPECT_FALSE(files->folderExists(sim("New")));
+    EXPECT_FALSE(replaceFile(*files, sim("new/a"), ""));
+    make("file");
+    EXPECT_FALSE(files->createFolder(sim("FILE")));
+    EXPECT_FALSE(files->deleteFolder(sim("file")));
+}
+
+// Replacing with files that have no name until they are whole, and on a disk that knows none.
+class Replacing : public RealDisk, public testing::WithParamInterface<NamelessFiles> {
+  protected:
+    Replacing() { files = makeRealFileSystem({}, GetParam()); }
+
+    // On a disk in memory if there is one, for what is done many times.
+    void moveToFastDisk() {
+        std::string pattern = "/dev/shm/disk-XXXXXX";
+        if (!mkdtemp(pattern.data()))
+            return;
+        disk::remove_all(root);
+        root = pattern;
+    }
+};
+INSTANTIATE_TEST_SUITE_P(All, Replacing, testing::Values(NamelessFiles::WherePossible, NamelessFiles::Never));
+
+TEST_P(Replacing, KeepsPermissionsOwnerAndLinks) {
     make("real/target.con", "old");
     chmod(native("real/target.con").c_str(), 0640);
+    const uid_t owner = geteuid() == 0 ? 1 : geteuid(); // who alone can give a file away
+    EXPECT_EQ(chown(native("real/target.con").c_str(), owner, gid_t(-1)), 0);
     disk::create_directory(native("links"));
     disk::create_symlink("../real/target.con", native("links/a.con"));
     EXPECT_TRUE(replaceFile(*files, sim("links/A.con"), "new"));
     EXPECT_EQ(bytesOf("real/target.con"), "new");
     EXPECT_EQ(modeOf("real/target.con"), 0640u);
+    struct stat info {};
+    stat(native("real/target.con").c_str(), &info);
+    EXPECT_EQ(info.st_uid, owner);
     EXPECT_TRUE(disk::is_symlink(native("links/a.con")));
     EXPECT_EQ(namesIn("links"), Names{"a.con"});
+    EXPECT_EQ(namesIn("real"), Names{"target.con"});
+
+    const mode_t mask = umask(027);
+    EXPECT_TRUE(replaceFile(*files, sim("real/New.con"), "new"));
+    umask(mask);
+    EXPECT_EQ(modeOf("real/New.con"), 0640u);
+    EXPECT_TRUE(replaceFile(*files, sim("real/" + std::string(250, 'n')), "the longest names have room"));
 }
 
-TEST_F(RealDisk, LinkToAnotherDiskIsReplacedThere) {
+TEST_P(Replacing, FollowsALinkToAnotherDisk) {
     std::string other = "/dev/shm/disk-XXXXXX";
     struct stat own {
     }, shared{};
@@ -265,35 +354,102 @@ TEST_F(RealDisk, LinkToAnotherDiskIsReplacedThere) {
     disk::remove_all(other);
 }
 
-TEST_F(RealDisk, ReadOnlyFilesAreLeftAlone) {
-    make("a.con", "old");
-    make("b.con", "other");
-    EXPECT_TRUE(files->setAttributes(sim("A.con"), {.readOnly = true}));
-    EXPECT_EQ(modeOf("a.con") & 0222, 0u);
-    EXPECT_TRUE(files->attributes(sim("a.con")).readOnly);
-    EXPECT_FALSE(files->writeFile(sim("a.con"), "new"));
-    EXPECT_FALSE(replaceFile(*files, sim("a.con"), "new"));
-    EXPECT_FALSE(files->renameFile(sim("b.con"), sim("a.con")));
-    EXPECT_FALSE(files->deleteFile(sim("a.con")));
-    EXPECT_EQ(bytesOf("a.con"), "old");
-    EXPECT_EQ(namesIn(""), (Names{"a.con", "b.con"}));
-    EXPECT_TRUE(files->setAttributes(sim("a.con"), {.readOnly = false}));
-    EXPECT_TRUE(replaceFile(*files, sim("a.con"), "new"));
+TEST_P(Replacing, TouchesNothingBesideTheFile) {
+    make("outside/mine.txt", "mine");
+    make("dir/a.con", "old");
+    make("dir/b.con~new", "mine too");
+    disk::create_symlink("../outside/mine.txt", native("dir/a.con~new"));
+    disk::create_symlink("../outside/none", native("dir/dangling.con"));
+    disk::create_symlink("loop.con", native("dir/loop.con"));
+    const Names before = namesIn("dir");
+    EXPECT_TRUE(replaceFile(*files, sim("dir/a.con"), "new"));
+    EXPECT_FALSE(replaceFile(*files, sim("dir/dangling.con"), "new"));
+    EXPECT_FALSE(replaceFile(*files, sim("dir/loop.con"), "new"));
+    EXPECT_EQ(namesIn("dir"), before);
+    EXPECT_TRUE(replaceFile(*files, sim("dir/b.con"), "new"));
+    EXPECT_EQ(bytesOf("outside/mine.txt") + bytesOf("dir/b.con~new"), "minemine too");
+    EXPECT_EQ(namesIn("outside"), Names{"mine.txt"});
+    EXPECT_EQ(bytesOf("dir/a.con") + bytesOf("dir/b.con"), "newnew");
 }
 
-TEST_F(RealDisk, FoldersAreMadeAndDeleted) {
-    EXPECT_TRUE(files->createFolder(sim("New")));
-    EXPECT_TRUE(files->createFolder(sim("NEW")));
-    EXPECT_FALSE(files->createFolder(sim("none/below")));
-    EXPECT_TRUE(files->writeFile(sim("new/a"), ""));
-    EXPECT_FALSE(files->deleteFolder(sim("new")));
-    EXPECT_TRUE(files->deleteFile(sim("new/A")));
-    EXPECT_TRUE(files->deleteFolder(sim("new")));
-    EXPECT_FALSE(files->folderExists(sim("New")));
-    EXPECT_FALSE(files->writeFile(sim("new/a"), ""));
-    make("file");
-    EXPECT_FALSE(files->createFolder(sim("FILE")));
-    EXPECT_FALSE(files->deleteFolder(sim("file")));
+TEST_P(Replacing, AReadOnlyFileIsNeverWritable) {
+    moveToFastDisk();
+    make("a.wag", "old");
+    chmod(native("a.wag").c_str(), 0444);
+    EXPECT_FALSE(replaceFile(*files, sim("a.wag"), "new"));
+    EXPECT_FALSE(files->deleteFile(sim("a.wag")));
+    EXPECT_EQ(bytesOf("a.wag"), "old");
+    const pid_t writer = start([&] {
+        bool done = true;
+        for (int i = 0; i < 300; ++i)
+            done = replaceFile(*files, sim("a.wag"), std::string(5000, 'n'), ReadOnly::Kept) && done;
+        return done;
+    });
+    for (bool last = false; !last;) {
+        last = !runs(writer);
+        ASSERT_EQ(modeOf("a.wag"), 0444u);
+    }
+    EXPECT_TRUE(succeeds(writer));
+    EXPECT_EQ(bytesOf("a.wag"), std::string(5000, 'n'));
+    EXPECT_EQ(namesIn(""), Names{"a.wag"});
+}
+
+TEST_P(Replacing, TwoProgramsThatSaveOneFileAndAThirdThatReadsItNeverMeet) {
+    moveToFastDisk();
+    const std::string contents[] = {std::string(5000, 'a'), std::string(9000, 'b')};
+    const auto save = [&](const std::string& bytes) {
+        bool done = true;
+        for (int round = 0; round < 400; ++round) {
+            done = replaceFile(*files, sim("a.con"), bytes) && done;
+            done = replaceFile(*files, sim("new" + std::to_string(round)), bytes) && done;
+        }
+        return done;
+    };
+    make("a.con", contents[0]);
+    const pid_t writers[] = {start([&] { return save(contents[0]); }),
+                             start([&] { return save(contents[1]); })};
+    while (runs(writers[0]) || runs(writers[1])) {
+        const std::string now = read(sim("A.con"));
+        ASSERT_TRUE(now == contents[0] || now == contents[1]) << now.size();
+    }
+    EXPECT_TRUE(succeeds(writers[0]));
+    EXPECT_TRUE(succeeds(writers[1]));
+    EXPECT_EQ(namesIn("").size(), 401u);
+}
+
+TEST_P(Replacing, AProgramThatIsKilledLeavesTheFileWhole) {
+    moveToFastDisk();
+    const std::string contents[] = {std::string(12 << 20, 'a'), std::string(16 << 20, 'b')};
+    make("a.con", contents[0]);
+    const bool nameless = GetParam() == NamelessFiles::WherePossible;
+    for (int round = 0; round < (nameless ? 24 : 4); ++round) {
+        const pid_t child = start([&] {
+            for (int i = 0;; ++i)
+                replaceFile(*files, sim("a.con"), contents[i % 2]);
+            return true;
+        });
+        std::this_thread::sleep_for(std::chrono::microseconds(1000 + 397 * round));
+        kill(child, SIGKILL);
+        succeeds(child);
+        const std::string now = read(sim("a.con"));
+        ASSERT_TRUE(now == contents[0] || now == contents[1]) << now.size();
+    }
+    // A name of its own stands for a moment too short to be met twice.
+    EXPECT_TRUE(!nameless || namesIn("").size() <= 2);
+}
+
+TEST_P(Replacing, ALimitOnTheSizeOfFilesIsAnError) {
+    make("a.con", "old");
+    EXPECT_TRUE(succeeds(start([&] {
+        tellSizeLimitsAsErrors();
+        const rlimit limit{4096, 4096};
+        setrlimit(RLIMIT_FSIZE, &limit);
+        const std::string large(100'000, 'n');
+        return !replaceFile(*files, sim("a.con"), large) && !replaceFile(*files, sim("b.con"), large) &&
+               replaceFile(*files, sim("c.con"), "new");
+    })));
+    EXPECT_EQ(bytesOf("a.con") + bytesOf("c.con"), "oldnew");
+    EXPECT_EQ(namesIn(""), (Names{"a.con", "c.con"}));
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "app/application.h"
 #include "frame/windows/theme.h"
+#include "platform/system.h"
 
 #include <QApplication>
 #include <QIcon>
@@ -25,6 +26,7 @@ int printAnswer(int argc, char** argv) {
 } // namespace
 
 int main(int argc, char** argv) {
+    zandor::tellSizeLimitsAsErrors();
     if (zandor::asksForText(wordsOf(argc, argv)))
         return printAnswer(argc, argv);
     QApplication qt(argc, argv);

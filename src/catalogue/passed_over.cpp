@@ -1,0 +1,40 @@
+#include "catalogue/passed_over.h"
+
+#include <algorithm>
+
+namespace zandor {
+
+namespace {
+
+constexpr std::string_view LineBreak = "\r\n"; // in messages
+constexpr std::size_t MostNamed = 5;
+
+} // namespace
+
+void notePassedOver(Catalogue& catalogue, std::string_view path, ReadResult result) {
+    if (result == ReadResult::TooLarge || result == ReadResult::NoMemory)
+        catalogue.passedOver.emplace_back(path);
+}
+
+void notePassedOver(Catalogue& catalogue, std::string_view path, const std::optional<SimError>& error) {
+    if (error && (error->number == FileTooLarge || error->number == NoMemoryLeft))
+        catalogue.passedOver.emplace_back(path);
+}
+
+void tellPassedOver(Frame& frame, const Catalogue& catalogue) {
+    const std::vector<std::string>& paths = catalogue.passedOver;
+    const std::size_t named = std::min(paths.size(), MostNamed);
+    std::string list;
+    for (std::size_t i = 0; i < named; ++i) {
+        const std::string native = frame.files.nativePath(paths[i]),
+                          size = megabytesOf(frame.files, paths[i]);
+        list.append(LineBreak).append(frame.text(Message::FileAndSize, {{"|1", native}, {"|2", size}}));
+    }
+    const std::string others = std::to_string(paths.size() - named);
+    if (others != "0")
+        list.append(LineBreak).append(frame.text(Message::AndMoreFiles, {{"|1", others}}));
+    if (!list.empty())
+        frame.show(frame.text(Message::FilesPassedOver, {{"|1", list}}), style::Exclamation);
+}
+
+} // namespace zandor
