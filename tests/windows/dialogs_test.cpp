@@ -377,7 +377,8 @@ TEST_F(FrameWindow, TheMessageOfALoadIsOnTheScreenAtOnceAndGoesWithItsObject) {
 // ---- folders
 
 struct FolderWindows : FrameWindow {
-    std::atomic<bool> slow = false;
+    // shared with the reads, which may outlast the test
+    std::shared_ptr<std::atomic<bool>> slow = std::make_shared<std::atomic<bool>>(false);
     FolderWindows() {
         for (const char* file :
              {"C:\\MSTS\\ROUTES\\a", "C:\\MSTS\\TRAINS\\a", "C:\\Games\\a", "\\media\\cd\\a"})
@@ -387,8 +388,8 @@ struct FolderWindows : FrameWindow {
     }
     // Each read gets a copy, as it would a disk of its own.
     DiskMaker disks() {
-        return [this, copy = test.files] {
-            while (slow)
+        return [waits = slow, copy = test.files] {
+            while (*waits)
                 QThread::msleep(5);
             return std::make_shared<MemoryFileSystem>(copy);
         };
@@ -445,7 +446,7 @@ TEST_F(FolderWindows, ADriveLeadsToItsRootAndCancelKeepsNothing) {
 }
 
 TEST_F(FolderWindows, AFolderThatDoesNotAnswerKeepsNobodyWaiting) {
-    slow = true;
+    *slow = true;
     {
         frmPathMSTS window(test.frame, nullptr, disks());
         window.show();
@@ -453,14 +454,14 @@ TEST_F(FolderWindows, AFolderThatDoesNotAnswerKeepsNobodyWaiting) {
         QTest::qWait(30);
         EXPECT_EQ(list.count(), 3) << "the way to the folder, and the sign that it is being read";
         QTest::keyClick(&list, Qt::Key_Backspace);
-        slow = false;
+        *slow = false;
         ASSERT_TRUE(waitForRow(list, "Games"));
         QTest::qWait(60);
         EXPECT_EQ(rowOf(list, "TRAINS"), -1) << "the answer for the folder that was left is no longer wanted";
-        slow = true;
+        *slow = true;
         QTest::keyClick(&list, Qt::Key_Backspace);
     }
-    slow = false; // what still waits ends without its window
+    *slow = false; // what still waits ends without its window
     QTest::qWait(60);
 }
 
