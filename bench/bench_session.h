@@ -45,7 +45,7 @@ struct Session {
     Catalogue catalogue;
 
     explicit Session(const std::string& root) {
-        state.RootPrimary = state.RootMSTS = root;
+        state.roots.RootMSTS = root;
         state.Language = "English";
         state.LanguagePath = ZANDOR_SOURCE_DIR "/src/frame/Langues.lng";
     }

@@ -33,7 +33,7 @@ template <class Work> double medianMs(Work work) {
 
 void addStock(Catalogue& catalogue, const char* name, const char* type, const char* engine,
               const char* coupling) {
-    Materiel& stock = catalogue.Materiels.back();
+    Materiel& stock = catalogue.here().Materiels.back();
     stock.FileName = stock.EngineName = stock.WagonName = name;
     stock.Type = type;
     stock.EngineType = engine;
@@ -41,7 +41,7 @@ void addStock(Catalogue& catalogue, const char* name, const char* type, const ch
     stock.BrakeSystem = "Air_Twin_Pipe";
     stock.Size = "3m 4m 18m";
     stock.Mass = "80t";
-    catalogue.Materiels.emplace_back();
+    catalogue.here().Materiels.emplace_back();
 }
 
 void compose(Editor& editor) {

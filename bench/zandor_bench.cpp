@@ -26,7 +26,7 @@ void measureLoad(benchmark::State& state, const Tree& tree, bool full) {
         session.state.Optimize = full;
         state.ResumeTiming();
         if (!LoadCatalogue(session.frame, session.catalogue, ReadOnlyLoad) ||
-            session.catalogue.Materiels.size() != tree.stockFiles.size())
+            session.catalogue.here().Materiels.size() != tree.stockFiles.size())
             state.SkipWithError("the load isn't complete");
     }
 }

@@ -161,15 +161,13 @@ Application::End Application::load() {
 bool Application::chooseRoots() {
     if (options_.root.isEmpty())
         return findRoots(frame_);
-    state_.RootMSTS = state_.RootPrimary = pathFromQt(QDir(options_.root).absolutePath());
-    if (!FolderExists(*files_, state_.RootPrimary)) {
+    state_.roots = {pathFromQt(QDir(options_.root).absolutePath()), {}, Root::Simulator};
+    if (!FolderExists(*files_, state_.roots.RootPrimary())) {
         frame_.show(
             frame_.text(Message::SimulatorNotFound, {{"|1", "Microsoft Train Simulator"}, {"|2", "\n"}}),
             style::Exclamation);
         return false;
     }
-    state_.RootTStore.clear();
-    state_.RootSecondary.clear();
     return true;
 }
 

@@ -8,12 +8,12 @@ namespace zandor {
 
 namespace {
 
-constexpr const char *Root = "root", *Picture = "picture", *Help = "help", *Version = "version";
+constexpr const char *RootOption = "root", *Picture = "picture", *Help = "help", *Version = "version";
 
 void describe(QCommandLineParser& parser) {
     parser.setApplicationDescription("Puts trains together for Microsoft Train Simulator.");
     parser.addPositionalArgument("FILE.con", "The consist to open; anything else is ignored.", "[FILE.con]");
-    parser.addOptions({{Root, "Use the simulator in this folder, for this run only.", "DIR"},
+    parser.addOptions({{RootOption, "Use the simulator in this folder, for this run only.", "DIR"},
                        {Picture, "Save a picture of the main window (PNG) after the start, and end.", "FILE"},
                        {{"h", Help}, "Print this text and end."},
                        {{"v", Version}, "Print the version and end."}});
@@ -30,7 +30,7 @@ void parse(QCommandLineParser& parser, const QStringList& arguments) {
 LaunchOptions parseLaunchOptions(const QStringList& arguments) {
     QCommandLineParser parser;
     parse(parser, arguments);
-    return {parser.positionalArguments().value(0), parser.value(Root), parser.value(Picture)};
+    return {parser.positionalArguments().value(0), parser.value(RootOption), parser.value(Picture)};
 }
 
 bool asksForText(const QStringList& arguments) {

@@ -1,5 +1,4 @@
-// What is known of one simulator folder: its stock and consists, and who uses what. Arrays are zero-based and
-// hold one free slot (empty key text) when logically empty; every walk skips such a slot.
+// What is known of the two roots: their stock and consists, and who uses what.
 #pragma once
 
 #include "catalogue/pictures.h"
@@ -51,72 +50,6 @@ struct ConsistSummary {
 };
 inline constexpr std::string_view RouteMarkYes = "ROUTE_YES", RouteMarkNo = "ROUTE_NO"; // a service's consist
 
-// Copies of the arrays of one root, so that going back to it reads no file.
-struct CatalogueSnapshot {
-    bool valid = false;
-    std::string root;
-    std::vector<std::string> ConsistFiles;
-    std::vector<Materiel> Materiels;
-    std::vector<std::string> RamesEnService;
-    std::vector<ConsistSummary> ConsistSummaries;
-    bool summariesRead = false;
-};
-
-struct Catalogue {
-    std::vector<Materiel> Materiels{
-        1}; // engines first, then wagons, in folder and directory order; never sorted
-    std::vector<std::string> ConsistFiles{1};
-    std::vector<std::string> StockFolders{1};
-    std::vector<std::string> BitmapPrefixes{1}; // the lines of Bitmaps.ini
-    std::vector<ConsistEntry> ConsistIndex{1};
-    std::vector<StockUse> StockUsage{1};
-    std::vector<std::string> RamesEnService{1}; // the consist files that services name
-    std::vector<ConsistSummary> ConsistSummaries{1};
-    bool summariesRead = false;     // ConsistSummaries has a row for every consist
-    CatalogueSnapshot snapshots[2]; // the simulator's, the Train Store's
-    bool complete = true;           // false: the user ended the last load, so it is no good as a snapshot
-
-    std::vector<std::string> passedOver; // paths of the files that the last load left unread
-    StockUseIndex stockUseIndex;         // of StockUsage
-    PictureSizes pictureSizes;           // of the thumbnails loaded so far
-    PictureFolders pictureFolders = PictureFolders::MadeAsNeeded;
-};
-
-struct LoadOptions {
-    NameRepair repair = NameRepair::Allowed;
-    PictureFolders pictureFolders = PictureFolders::MadeAsNeeded; // LeftAlone: no thumbnail is moved either
-};
-inline constexpr LoadOptions ReadOnlyLoad{NameRepair::Never, PictureFolders::LeftAlone}; // writes no file
-
-// The whole loading sequence for RootPrimary. False: the user ended it, and what was loaded so far stands.
-bool LoadCatalogue(Frame& frame, Catalogue& catalogue, LoadOptions options = {});
-
-void ListConsistFiles(Frame& frame, Catalogue& catalogue, std::string_view root);
-void ListStockFolders(Frame& frame, Catalogue& catalogue, std::string_view trainsetPath, bool stopAtLimit);
-// False: the user ended it.
-bool ScanStockFiles(Frame& frame, Catalogue& catalogue);
-bool ScanConsists(Frame& frame, Catalogue& catalogue);
-// The reading of every stock file, the last step of the load. False: the user ended it.
-bool readAllStock(Frame& frame, Catalogue& catalogue, LoadOptions options = {});
-
-void SaveCatalogueSnapshot(const AppState& state, Catalogue& catalogue, std::string_view root);
-bool RestoreCatalogueSnapshot(Catalogue& catalogue, std::string_view root);
-// The rows of the open-consist dialog no longer count: its next opening reads the consists.
-void forgetSummaries(Catalogue& catalogue);
-// A root has got another path: its snapshot no longer counts.
-void dropSnapshot(const AppState& state, Catalogue& catalogue, bool simulatorRoot);
-
-// The catalogue part of a change of roots: a valid snapshot, else a full load. False: the user ended the
-// load.
-bool reloadCatalogue(Frame& frame, Catalogue& catalogue);
-
-// The record of StockUsage, folder and file compared with case ignored, nullptr when there is none. Consists
-// may spell one stock in several cases, each with a record of its own: one that counts comes before one that
-// doesn't.
-StockUse* findStockUse(Catalogue& catalogue, std::string_view folder, std::string_view file);
-const StockUse* findStockUse(const Catalogue& catalogue, std::string_view folder, std::string_view file);
-StockUse& appendStockUse(Catalogue& catalogue, std::string_view folder, std::string_view file, int count);
-
 // The index of the first entry of this folder and file, case ignored, or -1. Walks no array: the look-up
 // table is made anew when `materiels` has changed in length or storage since the last call, or names another
 // stock where it points. Whoever fills an array anew in its place calls forget().
@@ -132,6 +65,71 @@ class MaterielFinder {
     std::size_t size_ = 0;
     std::unordered_map<std::string, int, TextHash, std::equal_to<>> byName_;
 };
+
+// What is known of one root. It stays when the other root comes into use: going back to it reads no file.
+struct RootCatalogue {
+    std::string loadedFrom; // the root's path; empty until a load of it has come to its end
+    std::vector<Materiel>
+        Materiels; // engines first, then wagons, in folder and directory order; never sorted
+    std::vector<std::string> ConsistFiles;
+    std::vector<std::string> RamesEnService; // the consist files that services name
+    std::vector<ConsistSummary> ConsistSummaries;
+    bool summariesRead = false; // ConsistSummaries has a row for every consist
+    MaterielFinder finder;      // of Materiels
+};
+
+struct Catalogue {
+    RootCatalogue simulator, store;
+    Root current = Root::Simulator; // which of them is in use
+
+    RootCatalogue& of(Root root) { return root == Root::Simulator ? simulator : store; }
+    const RootCatalogue& of(Root root) const { return root == Root::Simulator ? simulator : store; }
+    RootCatalogue& here() { return of(current); }
+    const RootCatalogue& here() const { return of(current); }
+
+    std::vector<std::string> BitmapPrefixes; // the lines of Bitmaps.ini
+    // Of the consists of both roots, as the scan at the start found them.
+    std::vector<ConsistEntry> ConsistIndex;
+    std::vector<StockUse> StockUsage;
+    StockUseIndex stockUseIndex; // of StockUsage
+
+    std::vector<std::string> passedOver; // paths of the files that the last load left unread
+    PictureSizes pictureSizes;           // of the thumbnails loaded so far
+    PictureFolders pictureFolders = PictureFolders::MadeAsNeeded;
+};
+
+struct LoadOptions {
+    NameRepair repair = NameRepair::Allowed;
+    PictureFolders pictureFolders = PictureFolders::MadeAsNeeded; // LeftAlone: no thumbnail is moved either
+};
+inline constexpr LoadOptions ReadOnlyLoad{NameRepair::Never, PictureFolders::LeftAlone}; // writes no file
+
+// The whole loading sequence for the root that comes first. False: the user ended it, and what was loaded so
+// far stands.
+bool LoadCatalogue(Frame& frame, Catalogue& catalogue, LoadOptions options = {});
+
+void ListConsistFiles(Frame& frame, Catalogue& catalogue, std::string_view root);
+// At most as many as positions can number; the user is told when there are more.
+std::vector<std::string> ListStockFolders(Frame& frame, std::string_view trainsetPath, bool stopAtLimit);
+// False: the user ended it.
+bool ScanStockFiles(Frame& frame, Catalogue& catalogue, const std::vector<std::string>& folders);
+bool ScanConsists(Frame& frame, Catalogue& catalogue);
+// The reading of every stock file, the last step of the load. False: the user ended it.
+bool readAllStock(Frame& frame, Catalogue& catalogue, LoadOptions options = {});
+
+// The rows of the open-consist dialog no longer count: its next opening reads the consists.
+void forgetSummaries(RootCatalogue& catalogue);
+
+// To be called when AppState's roots have changed, their order or their paths: goes to the one that comes
+// first, and loads it unless it has been loaded from this path before. False: the user ended the load.
+bool reloadCatalogue(Frame& frame, Catalogue& catalogue);
+
+// The record of StockUsage, folder and file compared with case ignored, nullptr when there is none. Consists
+// may spell one stock in several cases, each with a record of its own: one that counts comes before one that
+// doesn't.
+StockUse* findStockUse(Catalogue& catalogue, std::string_view folder, std::string_view file);
+const StockUse* findStockUse(const Catalogue& catalogue, std::string_view folder, std::string_view file);
+StockUse& appendStockUse(Catalogue& catalogue, std::string_view folder, std::string_view file, int count);
 
 std::string trainsetPath(std::string_view root); // root + "\TRAINS\TRAINSET\"
 std::string consistsPath(std::string_view root); // root + "\TRAINS\CONSISTS\"

@@ -28,7 +28,7 @@ bool loadConsists(Frame& frame, Catalogue& catalogue, const std::string& stepDon
     if (scan && !ScanConsists(frame, catalogue))
         return false;
     if (!scan)
-        ListConsistFiles(frame, catalogue, frame.state.RootPrimary);
+        ListConsistFiles(frame, catalogue, frame.state.roots.RootPrimary());
     if (scan || frame.state.MainReady)
         frame.progress.ShowProgress(0, 255, 0, stepDone);
     return true;
@@ -47,9 +47,10 @@ bool loadSteps(Frame& frame, Catalogue& catalogue, LoadOptions options) {
     markStep();
     if (!loadConsists(frame, catalogue, stepDone))
         return false;
-    ListStockFolders(frame, catalogue, trainsetPath(frame.state.RootPrimary), true);
+    const std::vector<std::string> folders =
+        ListStockFolders(frame, trainsetPath(frame.state.roots.RootPrimary()), true);
     markStep();
-    if (!ScanStockFiles(frame, catalogue))
+    if (!ScanStockFiles(frame, catalogue, folders))
         return false;
     markStep();
     if (wantsThumbnailControl(frame, catalogue)) {
@@ -65,6 +66,11 @@ bool loadSteps(Frame& frame, Catalogue& catalogue, LoadOptions options) {
 
 } // namespace
 
+void forgetSummaries(RootCatalogue& catalogue) {
+    catalogue.ConsistSummaries.clear();
+    catalogue.summariesRead = false;
+}
+
 std::string trainsetPath(std::string_view root) {
     return std::string(root) + "\\TRAINS\\TRAINSET\\";
 }
@@ -75,25 +81,28 @@ std::string consistsPath(std::string_view root) {
 
 bool LoadCatalogue(Frame& frame, Catalogue& catalogue, LoadOptions options) {
     catalogue.pictureFolders = options.pictureFolders;
-    forgetSummaries(catalogue);
+    catalogue.current = frame.state.roots.first;
+    RootCatalogue& root = catalogue.here();
+    root.loadedFrom.clear();
+    forgetSummaries(root);
     catalogue.passedOver.clear();
-    catalogue.complete = loadSteps(frame, catalogue, options);
-    if (catalogue.complete)
+    const bool complete = loadSteps(frame, catalogue, options);
+    if (complete) {
+        root.loadedFrom = frame.state.roots.RootPrimary();
         tellPassedOver(frame, catalogue);
+    }
     frame.state.Busy = false;
-    return catalogue.complete;
+    return complete;
 }
 
 bool readAllStock(Frame& frame, Catalogue& catalogue, LoadOptions options) {
     SimReader reader(frame.files, frame.language);
     QuickStockReader quick(frame.files);
     ReadingTexts texts(frame.text(Message::ReadingStock));
-    const int last = static_cast<int>(catalogue.Materiels.size()) - 1;
-    int index = -1;
-    for (Materiel& materiel : catalogue.Materiels) {
-        ++index;
-        if (materiel.FileName.empty())
-            continue;
+    std::vector<Materiel>& materiels = catalogue.here().Materiels;
+    const int last = static_cast<int>(materiels.size()) - 1;
+    int index = 0;
+    for (Materiel& materiel : materiels) {
         if (!frame.progress.yield())
             return false;
         texts.moveTo(materiel);
@@ -104,18 +113,19 @@ bool readAllStock(Frame& frame, Catalogue& catalogue, LoadOptions options) {
                            ReadStockFile(reader, texts.path, materiel, options.repair).error);
         else
             notePassedOver(catalogue, texts.path, quick.QuickReadStock(materiel));
-        frame.progress.ShowProgress(0, last, index, texts.shown);
+        frame.progress.ShowProgress(0, last, index++, texts.shown);
     }
     return true;
 }
 
 bool reloadCatalogue(Frame& frame, Catalogue& catalogue) {
-    catalogue.RamesEnService.assign(1, {});
-    forgetSummaries(catalogue);
-    if (RestoreCatalogueSnapshot(catalogue, frame.state.RootPrimary)) {
+    const RootCatalogue& wanted = catalogue.of(frame.state.roots.first);
+    if (!wanted.loadedFrom.empty() && equalIgnoringCase(wanted.loadedFrom, frame.state.roots.RootPrimary())) {
+        catalogue.current = frame.state.roots.first;
         frame.state.Busy = false;
         return true;
     }
+    catalogue.of(frame.state.roots.first).RamesEnService.clear();
     if (!LoadCatalogue(frame, catalogue))
         return false;
     frame.progress.ShowProgress(0, 255, 0, frame.text(Message::StepDone));

@@ -29,9 +29,7 @@ void MaterielFinder::index(const std::vector<Materiel>& materiels) {
     known_ = materiels.data();
     size_ = materiels.size();
     for (std::size_t i = 0; i < size_; ++i)
-        if (!materiels[i].FileName.empty())
-            byName_.try_emplace(foldedNameKey(materiels[i].Folder, materiels[i].FileName),
-                                static_cast<int>(i));
+        byName_.try_emplace(foldedNameKey(materiels[i].Folder, materiels[i].FileName), static_cast<int>(i));
 }
 
 } // namespace zandor

@@ -98,8 +98,6 @@ void takeLines(Catalogue& catalogue, std::string_view text) {
         if (const std::string_view name = trim(line); !name.empty())
             prefixes.emplace_back(name);
     });
-    if (prefixes.empty())
-        prefixes.emplace_back();
 }
 
 void makeFolder(Frame& frame, const Catalogue& catalogue, const std::string& folder) {

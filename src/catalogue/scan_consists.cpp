@@ -16,9 +16,8 @@ struct ConsistScratch {
 };
 
 void forgetConsists(Catalogue& catalogue) {
-    catalogue.ConsistFiles.assign(1, {});
-    catalogue.ConsistIndex.assign(1, {});
-    catalogue.StockUsage.assign(1, {});
+    catalogue.ConsistIndex.clear();
+    catalogue.StockUsage.clear();
     catalogue.stockUseIndex.clear();
 }
 
@@ -27,18 +26,17 @@ void indexConsists(Frame& frame, Catalogue& catalogue, std::string_view root) {
         return;
     const std::string folder = consistsPath(root);
     for (std::string& file : listFiles(frame.files, folder, ".con")) {
-        if (!catalogue.ConsistIndex.back().FileName.empty())
-            catalogue.ConsistIndex.emplace_back();
-        ConsistEntry& added = catalogue.ConsistIndex.back();
+        ConsistEntry& added = catalogue.ConsistIndex.emplace_back();
         added.FileName = std::move(file);
         added.FolderPath = folder;
     }
 }
 
 void copyConsistFiles(Catalogue& catalogue) {
-    catalogue.ConsistFiles.clear();
+    std::vector<std::string>& names = catalogue.here().ConsistFiles;
+    names.clear();
     for (const ConsistEntry& entry : catalogue.ConsistIndex)
-        catalogue.ConsistFiles.push_back(entry.FileName);
+        names.push_back(entry.FileName);
 }
 
 void countUse(Catalogue& catalogue, const StockPair& used, int known) {
@@ -61,16 +59,14 @@ void takeItems(Catalogue& catalogue, ConsistEntry& entry, ConsistScratch& scratc
         countUse(catalogue, used, scratch.known[next++]);
 }
 
-// A consist without vehicles keeps an empty name and one free slot.
+// A consist without vehicles keeps an empty name.
 void readEntry(Catalogue& catalogue, ConsistEntry& entry, ConsistScratch& scratch) {
     // What the reader objects to is the verifier's business; the vehicles read until then count. The
     // durability isn't looked at.
     const std::string path = entry.FolderPath + entry.FileName;
     notePassedOver(catalogue, path, ReadConsistFile(scratch.reader, scratch.rame, scratch.items, path));
     takeItems(catalogue, entry, scratch);
-    if (entry.Items.empty())
-        entry.Items.emplace_back();
-    else
+    if (!entry.Items.empty())
         entry.DisplayName = scratch.rame.Name.empty() ? scratch.rame.CfgName : scratch.rame.Name;
 }
 
@@ -78,9 +74,9 @@ void readEntry(Catalogue& catalogue, ConsistEntry& entry, ConsistScratch& scratc
 
 bool ScanConsists(Frame& frame, Catalogue& catalogue) {
     forgetConsists(catalogue);
-    indexConsists(frame, catalogue, frame.state.RootPrimary);
+    indexConsists(frame, catalogue, frame.state.roots.RootPrimary());
     copyConsistFiles(catalogue);
-    indexConsists(frame, catalogue, frame.state.RootSecondary);
+    indexConsists(frame, catalogue, frame.state.roots.RootSecondary());
     ConsistScratch scratch{SimReader(frame.files, frame.language), {}, {}, {}};
     const std::string shown = frame.text(Message::ReadingConsists);
     const int last = static_cast<int>(catalogue.ConsistIndex.size()) - 1;
@@ -104,9 +100,7 @@ const StockUse* findStockUse(const Catalogue& catalogue, std::string_view folder
 
 StockUse& appendStockUse(Catalogue& catalogue, std::string_view folder, std::string_view file, int count) {
     std::vector<StockUse>& usage = catalogue.StockUsage;
-    if (usage.empty() || !usage.back().FileName.empty())
-        usage.emplace_back();
-    usage.back() = StockUse{std::string(folder), std::string(file), count};
+    usage.push_back({std::string(folder), std::string(file), count});
     catalogue.stockUseIndex.addLast(usage);
     return usage.back();
 }

@@ -71,7 +71,7 @@ template <std::size_t N> int iconOf(const IconRow (&rows)[N], std::string_view t
 }
 
 StockListRow makeRow(const AppState& state, const Catalogue& catalogue, int index, bool byFileName) {
-    const Materiel& materiel = catalogue.Materiels[static_cast<std::size_t>(index)];
+    const Materiel& materiel = catalogue.here().Materiels[static_cast<std::size_t>(index)];
     StockListRow row;
     row.key = std::string(KeyPrefix) + std::to_string(index);
     row.text = byFileName ? materiel.FileName : shownName(materiel);
@@ -100,9 +100,10 @@ std::vector<StockListRow> FillStockList(const AppState& state, const Catalogue& 
     if (classIndex < 0)
         return rows;
     int brakes = 0, coupling = 0; // they go on from one stock to the next, of whatever class
-    for (std::size_t i = 0; i < catalogue.Materiels.size(); ++i) {
-        const Materiel& materiel = catalogue.Materiels[i];
-        if (materiel.FileName.empty() || materiel.FileName == UncataloguedWagon)
+    const std::vector<Materiel>& materiels = catalogue.here().Materiels;
+    for (std::size_t i = 0; i < materiels.size(); ++i) {
+        const Materiel& materiel = materiels[i];
+        if (materiel.FileName == UncataloguedWagon)
             continue;
         if (const int own = brakeIcon(materiel.BrakeSystem))
             brakes = own;

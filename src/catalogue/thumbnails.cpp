@@ -82,37 +82,32 @@ ThumbnailFiles listThumbnails(FileSystem& files, const std::string& folder) {
     return listed;
 }
 
-bool collectPass(Frame& frame, const Catalogue& catalogue, const std::string& basePath, const StockPass& pass,
-                 std::vector<std::string>& names) {
+bool collectPass(Frame& frame, const std::vector<std::string>& folders, const std::string& basePath,
+                 const StockPass& pass, std::vector<std::string>& names) {
     const std::string shown = frame.text(pass.listing);
-    const int last = static_cast<int>(catalogue.StockFolders.size()) - 1;
-    int index = -1;
-    for (const std::string& folder : catalogue.StockFolders) {
-        ++index;
-        if (folder.empty())
-            continue;
+    const int last = static_cast<int>(folders.size()) - 1;
+    int index = 0;
+    for (const std::string& folder : folders) {
         if (!frame.progress.yield())
             return false;
         for (const std::string& file : listStockFiles(frame.files, basePath + folder + "\\", pass.extension))
             names.emplace_back(withoutEnding(file));
-        frame.progress.ShowProgress(0, last, index, shown);
+        frame.progress.ShowProgress(0, last, index++, shown);
     }
     return true;
 }
 
 // Adds the names of a root's stock. False: the user ended it.
-bool collectNames(Frame& frame, Catalogue& catalogue, std::string_view root, std::string_view program,
+bool collectNames(Frame& frame, std::string_view root, std::string_view program,
                   std::vector<std::string>& names) {
     if (root.empty())
         return true;
     frame.progress.ShowProgress(0, 255, 0, frame.text(Message::ThumbnailsOf) + std::string(program));
     const std::string basePath = trainsetPath(root);
-    ListStockFolders(frame, catalogue, basePath, false);
-    const bool complete = std::ranges::all_of(StockPasses, [&](const StockPass& pass) {
-        return collectPass(frame, catalogue, basePath, pass, names);
+    const std::vector<std::string> folders = ListStockFolders(frame, basePath, false);
+    return std::ranges::all_of(StockPasses, [&](const StockPass& pass) {
+        return collectPass(frame, folders, basePath, pass, names);
     });
-    catalogue.StockFolders.assign(1, {});
-    return complete;
 }
 
 // Finds out which thumbnails are in use, and brings back those that are again.
@@ -221,8 +216,8 @@ bool ControlThumbnails(Frame& frame, Catalogue& catalogue) {
     if (const std::string folder = unusablePath(state); !FolderExists(frame.files, folder))
         frame.files.createFolder(folder.substr(0, folder.size() - 1));
     std::vector<std::string> names;
-    if (!collectNames(frame, catalogue, state.RootMSTS, "... Train Simulator", names) ||
-        !collectNames(frame, catalogue, state.RootTStore, "... Train Store", names))
+    if (!collectNames(frame, state.roots.RootMSTS, "... Train Simulator", names) ||
+        !collectNames(frame, state.roots.RootTStore, "... Train Store", names))
         return false;
 
     ThumbnailSearch search(frame, catalogue);

@@ -19,9 +19,7 @@ struct StockCounts {
 
 StockCounts countStock(const Catalogue& catalogue) {
     StockCounts counts;
-    for (const Materiel& materiel : catalogue.Materiels) {
-        if (materiel.FileName.empty())
-            continue;
+    for (const Materiel& materiel : catalogue.here().Materiels) {
         const int stockClass = stockClassOf(materiel);
         ++(stockClass < 0 ? counts.other : counts.classes[static_cast<std::size_t>(stockClass)]);
         ++(endsWithIgnoringCase(materiel.FileName, ".eng") ? counts.engines : counts.wagons);
@@ -37,20 +35,6 @@ Json classesOf(const StockCounts& counts) {
     return classes;
 }
 
-bool isFree(const std::string& name) {
-    return name.empty();
-}
-template <class Record> bool isFree(const Record& record) {
-    return record.FileName.empty();
-}
-
-template <class Record> int countOccupied(const std::vector<Record>& records) {
-    int count = 0;
-    for (const Record& record : records)
-        count += isFree(record) ? 0 : 1;
-    return count;
-}
-
 Json elementOf(const std::string& name) {
     return name;
 }
@@ -62,8 +46,7 @@ template <class Record>
 void printList(JsonObject& object, std::string_view name, const std::vector<Record>& records) {
     JsonList list = object.list(name);
     for (const Record& record : records)
-        if (!isFree(record))
-            list.add(elementOf(record));
+        list.add(elementOf(record));
     list.close();
 }
 
@@ -83,9 +66,9 @@ class CatalogueCommand final : public Command {
         AppState& state = session.state;
         state.PrintGreen = state.PrintGreen || list_;
         Catalogue catalogue;
-        session.atWork = state.RootPrimary;
+        session.atWork = state.roots.RootPrimary();
         LoadCatalogue(session.frame, catalogue, ReadOnlyLoad);
-        session.atWork = state.RootPrimary;
+        session.atWork = state.roots.RootPrimary();
         print(session, catalogue);
         return session.dialogs.alerts > 0 ? exitcode::Faults : exitcode::Done;
     }
@@ -93,20 +76,20 @@ class CatalogueCommand final : public Command {
   private:
     void print(Session& session, const Catalogue& catalogue) const {
         const StockCounts counts = countStock(catalogue);
-        const int consists = countOccupied(catalogue.ConsistFiles);
+        const std::size_t consists = catalogue.here().ConsistFiles.size();
         JsonObject object(session.result);
-        object.member("root", session.shown(session.state.RootPrimary));
+        object.member("root", session.shown(session.state.roots.RootPrimary()));
         object.member("classes", classesOf(counts));
         object.member("engines", counts.engines);
         object.member("wagons", counts.wagons);
         object.member("consists", consists);
         object.member("totals", {{"stock", counts.engines + counts.wagons},
                                  {"consists", consists},
-                                 {"indexedConsists", countOccupied(catalogue.ConsistIndex)},
-                                 {"usedStock", countOccupied(catalogue.StockUsage)}});
+                                 {"indexedConsists", catalogue.ConsistIndex.size()},
+                                 {"usedStock", catalogue.StockUsage.size()}});
         if (list_) {
-            printList(object, "materiels", catalogue.Materiels);
-            printList(object, "consistFiles", catalogue.ConsistFiles);
+            printList(object, "materiels", catalogue.here().Materiels);
+            printList(object, "consistFiles", catalogue.here().ConsistFiles);
             printList(object, "stockUsage", catalogue.StockUsage);
             printList(object, "consistIndex", catalogue.ConsistIndex);
         }

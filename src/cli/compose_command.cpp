@@ -34,9 +34,10 @@ WantedVehicle wantedVehicle(const std::string& given) {
     return wanted;
 }
 
-int findStock(MaterielFinder& finder, const Catalogue& catalogue, const WantedVehicle& wanted) {
+int findStock(RootCatalogue& catalogue, const WantedVehicle& wanted) {
     for (const char* extension : {"", ".eng", ".wag"})
-        if (const int index = finder.find(catalogue.Materiels, wanted.folder, wanted.file + extension);
+        if (const int index =
+                catalogue.finder.find(catalogue.Materiels, wanted.folder, wanted.file + extension);
             index >= 0)
             return index;
     return -1;
@@ -89,7 +90,7 @@ class ComposeCommand final : public Command {
         std::vector<WantedVehicle> wanted;
         for (const std::string& given : given_) {
             wanted.push_back(wantedVehicle(given));
-            wanted.back().index = findStock(document.finder, catalogue, wanted.back());
+            wanted.back().index = findStock(catalogue.here(), wanted.back());
             if (wanted.back().index < 0)
                 return session.cannotRun("This stock is not in the catalogue: " + given);
         }
@@ -99,7 +100,7 @@ class ComposeCommand final : public Command {
   private:
     int compose(Session& session, Editor& editor, const std::string& shortName,
                 const std::vector<WantedVehicle>& wanted) const {
-        const std::string path = consistsPath(session.state.RootPrimary) + shortName + ".con";
+        const std::string path = consistsPath(session.state.roots.RootPrimary()) + shortName + ".con";
         const bool exists = FileExists(session.frame.files, path);
         initialiseDocument(editor);
         if (exists && overwrite_ && !openConsist(editor, path))

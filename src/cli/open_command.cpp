@@ -16,7 +16,7 @@ std::optional<std::string> findConsist(Session& session, const std::string& give
         return path;
     if (given.find_first_of("\\/") != std::string::npos)
         return std::nullopt;
-    const std::string listed = consistsPath(session.state.RootPrimary) + given;
+    const std::string listed = consistsPath(session.state.roots.RootPrimary()) + given;
     for (const std::string& name : {listed, listed + ".con"})
         if (FileExists(files, name))
             return name;

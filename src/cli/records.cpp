@@ -33,8 +33,7 @@ constexpr std::array<TextField, 17> MaterielTexts{{
 Json pairsOf(const std::vector<StockPair>& pairs) {
     Json list = Json::array();
     for (const StockPair& pair : pairs)
-        if (!pair.FileName.empty())
-            list.push_back({{"FileName", pair.FileName}, {"Folder", pair.Folder}});
+        list.push_back({{"FileName", pair.FileName}, {"Folder", pair.Folder}});
     return list;
 }
 

@@ -78,18 +78,19 @@ bool Session::prepareLanguage() {
 }
 
 bool Session::prepareRoots() {
-    if (!takeGivenFolder("--root", options_.root, state.RootMSTS) ||
-        !takeGivenFolder("--tstore", options_.tstore, state.RootTStore))
+    if (!takeGivenFolder("--root", options_.root, state.roots.RootMSTS) ||
+        !takeGivenFolder("--tstore", options_.tstore, state.roots.RootTStore))
         return false;
     takeRootsOfSettings();
     if (options_.primary.empty() && options_.root.empty())
         assignRoots(frame);
     else
-        assignRoots(state, !equalIgnoringCase(options_.primary, "tstore"));
-    if (!state.RootPrimary.empty())
-        return FolderExists(frame.files, state.RootPrimary + "\\TRAINS") ||
-               refuse("There is no TRAINS folder in " + shown(state.RootPrimary));
-    const bool simulatorWanted = state.RootMSTS.empty() && !equalIgnoringCase(options_.primary, "tstore");
+        state.roots.first = equalIgnoringCase(options_.primary, "tstore") ? Root::Store : Root::Simulator;
+    if (!state.roots.RootPrimary().empty())
+        return FolderExists(frame.files, state.roots.RootPrimary() + "\\TRAINS") ||
+               refuse("There is no TRAINS folder in " + shown(state.roots.RootPrimary()));
+    const bool simulatorWanted =
+        state.roots.RootMSTS.empty() && !equalIgnoringCase(options_.primary, "tstore");
     return refuse(std::string(simulatorWanted
                                   ? "No simulator folder is known: give it with --root DIR or as InstallDir"
                                   : "No Train Store folder is known: give it with --tstore DIR or as "
@@ -108,9 +109,9 @@ bool Session::takeGivenFolder(std::string_view option, const std::string& given,
 void Session::takeRootsOfSettings() {
     if (!options_.root.empty())
         return;
-    state.RootMSTS = knownSimulator(frame);
-    if (state.RootTStore.empty())
-        state.RootTStore = knownTrainStore(frame);
+    state.roots.RootMSTS = knownSimulator(frame);
+    if (state.roots.RootTStore.empty())
+        state.roots.RootTStore = knownTrainStore(frame);
 }
 
 int readWholeFile(Session& session, SimReader& reader, const std::string& path) {

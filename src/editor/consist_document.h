@@ -78,7 +78,6 @@ struct ConsistDocument {
     bool openedFromOptions = false;
     bool faultyFile = false; // a part of the opened file could not be read
     bool noBackup = false;   // the user wants no copy of a file that a save replaces
-    MaterielFinder finder;
 };
 
 // Everything an editing operation works on.

@@ -20,7 +20,7 @@ const std::string& CompositionTexts::of(int engines, int wagons) {
 }
 
 ServiceConsists::ServiceConsists(const Catalogue& catalogue) {
-    for (const std::string& name : catalogue.RamesEnService)
+    for (const std::string& name : catalogue.here().RamesEnService)
         names_.insert(lowerCase(name));
 }
 
@@ -33,7 +33,8 @@ bool StockPresence::has(std::string_view folder, std::string_view file) {
     const auto known = known_.find(key_);
     if (known != known_.end())
         return known->second;
-    const bool found = isIn(state_.RootMSTS, folder, file) || isIn(state_.RootTStore, folder, file);
+    const bool found =
+        isIn(state_.roots.RootMSTS, folder, file) || isIn(state_.roots.RootTStore, folder, file);
     known_.emplace(key_, found);
     return found;
 }
@@ -47,7 +48,7 @@ bool StockPresence::isIn(std::string_view root, std::string_view folder, std::st
 }
 
 SummaryReader::SummaryReader(Frame& frame, const Catalogue& catalogue)
-    : folder_(consistsPath(frame.state.RootPrimary)), reader_(frame.files, frame.language),
+    : folder_(consistsPath(frame.state.roots.RootPrimary())), reader_(frame.files, frame.language),
       stock_(frame.files, frame.state), services_(catalogue), compositions_(frame) {}
 
 void SummaryReader::takeItem(const RameItem& item, ConsistSummary& summary) {
@@ -69,48 +70,42 @@ void SummaryReader::ReadConsistSummary(const std::string& fileName, std::vector<
 }
 
 bool BuildConsistSummaries(Frame& frame, Catalogue& catalogue, Progress& progress) {
-    forgetSummaries(catalogue);
-    const std::vector<std::string> names = catalogue.ConsistFiles; // events are served while this runs
+    forgetSummaries(catalogue.here());
+    const std::vector<std::string> names = catalogue.here().ConsistFiles; // events are served while this runs
     const std::string head = frame.text(Message::ReadingStock) + "   ";
     const int last = static_cast<int>(names.size()) - 1;
     SummaryReader reader(frame, catalogue);
     std::vector<ConsistSummary> summaries;
     summaries.reserve(names.size());
-    int current = -1;
+    int current = 0;
     for (const std::string& name : names) {
-        ++current;
-        if (name.empty())
-            continue;
-        progress.ShowProgress(0, last, current, head + name);
+        progress.ShowProgress(0, last, current++, head + name);
         if (!progress.yield())
             return false;
         reader.ReadConsistSummary(name, summaries);
     }
-    if (summaries.empty())
-        summaries.emplace_back();
-    catalogue.ConsistSummaries = std::move(summaries);
-    catalogue.summariesRead = true;
+    catalogue.here().ConsistSummaries = std::move(summaries);
+    catalogue.here().summariesRead = true;
     return true;
 }
 
 bool prepareSummaries(Frame& frame, Catalogue& catalogue, Progress& progress) {
     // A load that is running has its own use for the arrays: the last table serves.
-    if (!catalogue.summariesRead && !frame.state.Busy)
+    if (!catalogue.here().summariesRead && !frame.state.Busy)
         return BuildConsistSummaries(frame, catalogue, progress);
     CompositionTexts compositions(frame);
-    for (ConsistSummary& summary : catalogue.ConsistSummaries)
-        if (!summary.FileName.empty())
-            summary.Composition = compositions.of(summary.Engines, summary.Wagons);
+    for (ConsistSummary& summary : catalogue.here().ConsistSummaries)
+        summary.Composition = compositions.of(summary.Engines, summary.Wagons);
     return true;
 }
 
 std::vector<int> FillConsistList(const Catalogue& catalogue) {
-    const std::vector<ConsistSummary>& summaries = catalogue.ConsistSummaries;
+    const std::vector<ConsistSummary>& summaries = catalogue.here().ConsistSummaries;
     std::vector<int> rows;
     rows.reserve(summaries.size());
     for (const bool complete : {true, false})
         for (std::size_t i = 0; i < summaries.size(); ++i)
-            if (!summaries[i].FileName.empty() && summaries[i].Complete == complete)
+            if (summaries[i].Complete == complete)
                 rows.push_back(static_cast<int>(i));
     return rows;
 }

@@ -66,7 +66,7 @@ bool meets(std::string_view end, const Ends& other) {
 // Looked up in Materiels for every vehicle, also for one of the simulator snapshot. A Missing vehicle has no
 // entry anywhere.
 std::string_view uniqueOf(const Editor& editor, const Vehicule& vehicule) {
-    const auto& materiels = editor.catalogue.Materiels;
+    const auto& materiels = editor.catalogue.here().Materiels;
     const auto index = static_cast<std::size_t>(vehicule.MaterielIndex);
     if (vehicule.Missing || index >= materiels.size())
         return {};
@@ -87,7 +87,7 @@ bool CouplingCompatible(std::string_view couplingA, std::string_view couplingB, 
 
 bool CheckCoupling(const Editor& editor, int left, int right, bool rightIsVehicule) {
     const std::vector<Vehicule>& vehicules = editor.document.Vehicules;
-    const std::vector<Materiel>& materiels = editor.catalogue.Materiels;
+    const std::vector<Materiel>& materiels = editor.catalogue.here().Materiels;
     if (!isPosition(editor.document, left) || vehicules.back().Coupling.empty())
         return true;
     const Vehicule& placed = vehicules[static_cast<std::size_t>(left)];

@@ -20,7 +20,7 @@ const Materiel* materielOf(const Editor& editor, const Vehicule& vehicule) {
         return nullptr;
     const Catalogue& catalogue = editor.catalogue;
     const std::vector<Materiel>& materiels =
-        vehicule.FromSimulator ? catalogue.snapshots[0].Materiels : catalogue.Materiels;
+        (vehicule.FromSimulator ? catalogue.simulator : catalogue.here()).Materiels;
     const auto index = static_cast<std::size_t>(vehicule.MaterielIndex);
     return index < materiels.size() ? &materiels[index] : nullptr;
 }
@@ -92,10 +92,8 @@ bool closeEditor(Editor& editor) {
 bool ReloadAfterOptions(Editor& editor) {
     AppState& state = editor.frame.state;
     state.Busy = true;
-    editor.catalogue.ConsistSummaries.assign(1, {});
     beginNewConsist(editor);
     const bool complete = reloadCatalogue(editor.frame, editor.catalogue);
-    editor.document.finder.forget();
     state.Busy = false;
     return complete;
 }

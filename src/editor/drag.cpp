@@ -6,9 +6,8 @@ namespace zandor {
 namespace {
 
 bool isStock(const Editor& editor, int index) {
-    const auto& materiels = editor.catalogue.Materiels;
-    return index >= 0 && static_cast<std::size_t>(index) < materiels.size() &&
-           !materiels[static_cast<std::size_t>(index)].FileName.empty();
+    const auto& materiels = editor.catalogue.here().Materiels;
+    return index >= 0 && static_cast<std::size_t>(index) < materiels.size();
 }
 
 // The neighbours that the stock would get right of position `pos`; at the very front the one on the right
@@ -48,7 +47,7 @@ bool insertStock(Editor& editor, int pos, int index) {
     document.DragTarget = target;
     const int scrollBefore = document.controls.scrollValue;
     const bool wasHidden = endIsHidden(document);
-    Materiel& materiel = editor.catalogue.Materiels[static_cast<std::size_t>(index)];
+    Materiel& materiel = editor.catalogue.here().Materiels[static_cast<std::size_t>(index)];
     document.PictureWidth = LoadMaterielPicture(editor.frame, editor.catalogue, materiel).width;
     InsertVehicule(editor, index, true, false);
     scrollAfterInsert(document, pos, scrollBefore);

@@ -35,16 +35,6 @@ inline std::string figureText(double value) {
     return std::string(text, end);
 }
 
-// Puts an element into the free slot at the end of an array, or behind it when the last slot is taken. An
-// array of one free slot is an empty one.
-template <class T> T& addToArray(std::vector<T>& array, bool lastIsFree, T element) {
-    if (lastIsFree)
-        array.back() = std::move(element);
-    else
-        array.push_back(std::move(element));
-    return array.back();
-}
-
 // Tells that the strip holds as many vehicles as positions can number.
 void showStripFull(Editor& editor);
 

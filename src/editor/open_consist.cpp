@@ -24,10 +24,8 @@ class StockResolver {
   public:
     explicit StockResolver(Editor& editor)
         : files_(editor.frame.files), state_(editor.frame.state),
-          reader_(files_, editor.frame.language), primary_{editor.catalogue.Materiels,
-                                                           editor.document.finder,
-                                                           {}},
-          simulator_{editor.catalogue.snapshots[0].Materiels, simulatorFinder_, {}} {}
+          reader_(files_, editor.frame.language), primary_{editor.catalogue.here(), {}},
+          simulator_{editor.catalogue.simulator, {}} {}
 
     StockPlace resolve(const RameItem& item) {
         const auto [known, isNew] = places_.try_emplace(lowerCase(item.Folder + "\\" + stockFileOf(item)));
@@ -44,18 +42,17 @@ class StockResolver {
 
   private:
     struct Shelf {
-        std::vector<Materiel>& materiels;
-        MaterielFinder& finder;
+        RootCatalogue& catalogue;
         std::vector<Materiel> added;
     };
 
     StockPlace search(const RameItem& item) {
-        if (standsUnder(state_.RootPrimary, item))
-            return entryOf(primary_, StockPlace::Primary, state_.RootPrimary, item);
+        if (standsUnder(state_.roots.RootPrimary(), item))
+            return entryOf(primary_, StockPlace::Primary, state_.roots.RootPrimary(), item);
         // The stock of a Train Store consist may stand in the simulator's own tree.
-        if (!state_.RootMSTS.empty() && equalIgnoringCase(state_.RootPrimary, state_.RootTStore) &&
-            standsUnder(state_.RootMSTS, item))
-            return entryOf(simulator_, StockPlace::Simulator, state_.RootMSTS, item);
+        if (state_.roots.first == Root::Store && !state_.roots.RootMSTS.empty() &&
+            standsUnder(state_.roots.RootMSTS, item))
+            return entryOf(simulator_, StockPlace::Simulator, state_.roots.RootMSTS, item);
         return {};
     }
 
@@ -63,15 +60,12 @@ class StockResolver {
         return FileExists(files_, trainsetPath(root) + item.Folder + "\\" + stockFileOf(item));
     }
 
-    static std::size_t occupied(const std::vector<Materiel>& materiels) {
-        return materiels.size() - (!materiels.empty() && materiels.back().FileName.empty() ? 1 : 0);
-    }
-
     StockPlace entryOf(Shelf& shelf, StockPlace::Kind kind, std::string_view root, const RameItem& item) {
-        const int found = shelf.finder.find(shelf.materiels, item.Folder, stockFileOf(item));
+        const std::vector<Materiel>& materiels = shelf.catalogue.Materiels;
+        const int found = shelf.catalogue.finder.find(materiels, item.Folder, stockFileOf(item));
         if (found >= 0)
             return {kind, found};
-        const std::size_t index = occupied(shelf.materiels) + shelf.added.size();
+        const std::size_t index = materiels.size() + shelf.added.size();
         if (index >= static_cast<std::size_t>(MaxEntries))
             return {}; // no index is left for it
         shelf.added.push_back(readEntry(root, item));
@@ -92,16 +86,14 @@ class StockResolver {
     static void addEntries(Shelf& shelf) {
         if (shelf.added.empty())
             return;
-        shelf.materiels.resize(occupied(shelf.materiels));
-        std::move(shelf.added.begin(), shelf.added.end(), std::back_inserter(shelf.materiels));
+        std::move(shelf.added.begin(), shelf.added.end(), std::back_inserter(shelf.catalogue.Materiels));
         shelf.added.clear();
-        shelf.finder.forget();
+        shelf.catalogue.finder.forget();
     }
 
     FileSystem& files_;
     const AppState& state_;
     SimReader reader_;
-    MaterielFinder simulatorFinder_;
     Shelf primary_, simulator_;
     std::unordered_map<std::string, StockPlace> places_;
 };
@@ -131,7 +123,7 @@ PictureRef loadPicture(Editor& editor, StockPlace place) {
     if (place.kind == StockPlace::Missing)
         return shippedPicture(MissingPicture);
     std::vector<Materiel>& materiels =
-        place.kind == StockPlace::Primary ? catalogue.Materiels : catalogue.snapshots[0].Materiels;
+        place.kind == StockPlace::Primary ? catalogue.here().Materiels : catalogue.simulator.Materiels;
     return LoadMaterielPicture(editor.frame, catalogue, materiels[static_cast<std::size_t>(place.index)]);
 }
 

@@ -89,9 +89,9 @@ std::string figureLine(const Frame& frame, Message message, std::string_view val
 } // namespace
 
 MaterielInfo ShowMaterielInfo(Editor& editor, int index) {
-    std::vector<Materiel>& materiels = editor.catalogue.Materiels;
+    std::vector<Materiel>& materiels = editor.catalogue.here().Materiels;
     const auto position = static_cast<std::size_t>(index);
-    if (index < 0 || position >= materiels.size() || materiels[position].FileName.empty())
+    if (index < 0 || position >= materiels.size())
         return {};
     MaterielInfo info = ShowMaterielInfo(editor.frame, materiels[position]);
     info.picture = LoadMaterielPicture(editor.frame, editor.catalogue, materiels[position]);

@@ -32,7 +32,7 @@ void showNameTaken(Editor& editor, const std::string& file) {
 }
 
 bool isListed(const Catalogue& catalogue, std::string_view file) {
-    const auto& names = catalogue.ConsistFiles;
+    const auto& names = catalogue.here().ConsistFiles;
     return std::any_of(names.begin(), names.end(),
                        [file](const std::string& name) { return equalIgnoringCase(name, file); });
 }
@@ -47,7 +47,7 @@ bool showsDoubleName(const ConsistDocument& document) {
 // Where the consist under edit is saved; that of a new one is the folder of the root in use.
 std::string targetFolder(const AppState& state) {
     return state.HasFile && !state.ConsistFolder.empty() ? state.ConsistFolder
-                                                         : consistsPath(state.RootPrimary);
+                                                         : consistsPath(state.roots.RootPrimary());
 }
 
 // Also one that can't be opened.
@@ -236,7 +236,7 @@ bool mayReplaceUnkept(Editor& editor, const Backup& backup) {
 bool writeConsist(Editor& editor, const std::string& folder, const Rame& rame, const VehicleList& list) {
     FileSystem& files = editor.frame.files;
     const AppState& state = editor.frame.state;
-    if (!state.HasFile && FolderExists(files, state.RootPrimary))
+    if (!state.HasFile && FolderExists(files, state.roots.RootPrimary()))
         ensureFolder(files, folder);
     return replaceFile(files, folder + rame.FileName, encodeConsist(buildConsistText(rame, list.lines)));
 }
@@ -268,17 +268,17 @@ ConsistSummary summaryOf(const Editor& editor, const Rame& rame, const VehicleLi
 
 // The lists that mirror the CONSISTS folder of the root in use.
 void listSavedFile(Catalogue& catalogue, ConsistSummary saved) {
-    std::vector<std::string>& names = catalogue.ConsistFiles;
+    std::vector<std::string>& names = catalogue.here().ConsistFiles;
     if (!isListed(catalogue, saved.FileName))
-        addToArray(names, !names.empty() && names.back().empty(), saved.FileName);
+        names.push_back(saved.FileName);
 
-    std::vector<ConsistSummary>& summaries = catalogue.ConsistSummaries;
+    std::vector<ConsistSummary>& summaries = catalogue.here().ConsistSummaries;
     const auto known =
         std::find_if(summaries.begin(), summaries.end(), [&saved](const ConsistSummary& summary) {
             return equalIgnoringCase(summary.FileName, saved.FileName);
         });
     if (known == summaries.end()) {
-        addToArray(summaries, !summaries.empty() && summaries.back().FileName.empty(), std::move(saved));
+        summaries.push_back(std::move(saved));
         return;
     }
     saved.FileName = known->FileName; // as the disk spells it
@@ -314,7 +314,7 @@ void takeSaved(Editor& editor, const std::string& folder, Rame rame, VehicleList
     document.rame = std::move(rame);
     document.RameStockNew = std::move(list.stock);
     state.ConsistFolder = folder;
-    if (sameFolder(editor.frame.files, folder, consistsPath(state.RootPrimary)))
+    if (sameFolder(editor.frame.files, folder, consistsPath(state.roots.RootPrimary())))
         listSavedFile(editor.catalogue, saved);
     UpdateStockUse(editor, state.HasFile, document.rame.Name, document.rame.FileName, folder);
 }

@@ -46,7 +46,7 @@ void countDifference(Catalogue& catalogue, const std::vector<StockPair>& before,
                      const std::vector<StockPair>& now) {
     const PairSet oldSet = foldedSet(before), newSet = foldedSet(now);
     for (const StockPair& pair : before)
-        if (!pair.FileName.empty() && !newSet.contains(foldedPair(pair)))
+        if (!newSet.contains(foldedPair(pair)))
             lowerCount(catalogue, pair);
     for (const StockPair& pair : now)
         if (!oldSet.contains(foldedPair(pair)))
@@ -59,7 +59,7 @@ ConsistEntry& entryOf(Editor& editor, const std::string& fileName, const std::st
         if (equalIgnoringCase(entry.FileName, fileName) &&
             sameFolder(editor.frame.files, entry.FolderPath, folder))
             return entry;
-    return addToArray(index, !index.empty() && index.back().FileName.empty(), ConsistEntry());
+    return index.emplace_back();
 }
 
 } // namespace

@@ -1,6 +1,8 @@
 // The run-wide state that every module reads: flags, often-read settings, folders and file paths.
 #pragma once
 
+#include "frame/roots.h"
+
 #include <string>
 
 namespace zandor {
@@ -24,8 +26,8 @@ struct AppState {
     std::string ExePath;
     std::string LastAnswer;    // as a decimal text
     std::string ProgramFolder; // without a trailing separator; the settings file stands here
-    std::string RootMSTS, RootTStore, RootPrimary, RootSecondary; // without a trailing "\"; may be empty
-    std::string BackupDir;                                        // with a trailing "\"
+    Roots roots;
+    std::string BackupDir;     // with a trailing "\"
     std::string ConsistFolder; // where the consist under edit is saved; with a trailing "\"
     std::string ProgramFilesDir;
     std::string IniPath;

@@ -23,7 +23,7 @@ std::string existingOr(const Frame& frame, const std::string& folder, const std:
 }
 
 std::string& editedRoot(AppState& state) {
-    return state.EditingMstsPath ? state.RootMSTS : state.RootTStore;
+    return state.EditingMstsPath ? state.roots.RootMSTS : state.roots.RootTStore;
 }
 
 std::string withoutTrailingSeparator(std::string_view path) {

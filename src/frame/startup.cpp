@@ -255,28 +255,24 @@ bool findRoots(Frame& frame) {
     AppState& state = frame.state;
     state.ProgramFilesDir =
         ReadRegistryString(frame.registry, RegistryHive::LocalMachine, WindowsKey, "ProgramFilesDir");
-    state.RootMSTS = knownSimulator(frame);
-    if (state.RootMSTS.empty())
-        state.RootMSTS = askForSimulator(frame);
-    if (state.RootMSTS.empty()) {
+    state.roots.RootMSTS = knownSimulator(frame);
+    if (state.roots.RootMSTS.empty())
+        state.roots.RootMSTS = askForSimulator(frame);
+    if (state.roots.RootMSTS.empty()) {
         frame.show(frame.text(Message::SimulatorNotFound, {{"|1", SimulatorName}, {"|2", "\n"}}),
                    style::Exclamation);
         return false;
     }
-    state.RootTStore = knownTrainStore(frame);
+    state.roots.RootTStore = knownTrainStore(frame);
     assignRoots(frame);
     return true;
 }
 
 void assignRoots(Frame& frame) {
     // A Train Store that there isn't can't come first.
-    assignRoots(frame.state, frame.state.RootTStore.empty() ||
-                                 readNumericFlag(frame.profiles, "InitialiseMSTS", frame.state.IniPath));
-}
-
-void assignRoots(AppState& state, bool simulatorFirst) {
-    state.RootPrimary = simulatorFirst ? state.RootMSTS : state.RootTStore;
-    state.RootSecondary = simulatorFirst ? state.RootTStore : state.RootMSTS;
+    const bool simulatorFirst = frame.state.roots.RootTStore.empty() ||
+                                readNumericFlag(frame.profiles, "InitialiseMSTS", frame.state.IniPath);
+    frame.state.roots.first = simulatorFirst ? Root::Simulator : Root::Store;
 }
 
 std::string consistFromCommandLine(Frame& frame, std::string_view argument) {
@@ -304,8 +300,8 @@ bool AskSaveChanges(Frame& frame, const std::string& consistName) {
 
 void writeClosingSettings(Frame& frame) {
     frame.state.HasFile = false;
-    writeFolderSetting(frame, "InstallDir", frame.state.RootMSTS);
-    writeFolderSetting(frame, "TStoreDir", frame.state.RootTStore);
+    writeFolderSetting(frame, "InstallDir", frame.state.roots.RootMSTS);
+    writeFolderSetting(frame, "TStoreDir", frame.state.roots.RootTStore);
     writeSetting(frame, "Langage", frame.state.Language);
 }
 

@@ -45,9 +45,8 @@ std::string existingFolder(FileSystem& files, std::string_view path);
 // Finds both root folders: settings, then the registry, then the user. False: the user cancelled, and was
 // told that the system does not run without the simulator's folder.
 bool findRoots(Frame& frame);
-// RootPrimary and RootSecondary from RootMSTS, RootTStore and the setting InitialiseMSTS.
+// Which root comes first, by the setting InitialiseMSTS.
 void assignRoots(Frame& frame);
-void assignRoots(AppState& state, bool simulatorFirst);
 
 // The `.con` of the command line, cleaned and made absolute; empty when it isn't an existing consist file.
 std::string consistFromCommandLine(Frame& frame, std::string_view argument);

@@ -24,8 +24,8 @@ struct CatalogueTest : ::testing::Test, TestFrame {
                                       "502=consists\r\n586=limit |2 in |1\r\n804=passed over|1\r\n"
                                       "805=|1 of |2 MB\r\n806=and |1 more\r\n");
         state.Language = "Test";
-        state.RootMSTS = state.RootPrimary = MstsRoot;
-        state.RootTStore = state.RootSecondary = StoreRoot;
+        state.roots.RootMSTS = MstsRoot;
+        state.roots.RootTStore = StoreRoot;
         state.Optimize = true;
         state.Busy = true;
     }
@@ -49,7 +49,7 @@ struct CatalogueTest : ::testing::Test, TestFrame {
     // "folder\file" of every entry that isn't free.
     std::vector<std::string> stockNames() const {
         std::vector<std::string> names;
-        for (const Materiel& materiel : catalogue.Materiels)
+        for (const Materiel& materiel : catalogue.here().Materiels)
             if (!materiel.FileName.empty())
                 names.push_back(materiel.Folder + "\\" + materiel.FileName);
         return names;

@@ -21,7 +21,7 @@ TEST_P(LoadSteps, ComeInOrderWithTheirMarks) {
     state.PrintGreen = GetParam().printGreen;
     ASSERT_TRUE(LoadCatalogue(frame, catalogue));
     EXPECT_EQ(progressShown(), GetParam().steps);
-    EXPECT_EQ(catalogue.ConsistFiles, Names{"train.con"});
+    EXPECT_EQ(catalogue.here().ConsistFiles, Names{"train.con"});
     EXPECT_EQ(usage().size(), GetParam().printGreen && !GetParam().mainReady ? 1u : 0u);
 }
 
@@ -50,17 +50,17 @@ TEST_F(CatalogueTest, LoadNeverBuildsStockUseAnewAfterTheStart) {
     putConsist("other.con", "other", {"EngineData ( other Parc )"});
     LoadCatalogue(frame, catalogue);
     EXPECT_EQ(usage(), Names{"Parc\\loco.eng 1"});
-    EXPECT_EQ(catalogue.ConsistFiles, (Names{"other.con", "train.con"}));
+    EXPECT_EQ(catalogue.here().ConsistFiles, (Names{"other.con", "train.con"}));
 }
 
 TEST_F(CatalogueTest, OptimizeChoosesTheFullReader) {
     putStock("Parc\\voit.wag", "Wagon ( voit\r\nType ( Carriage ) Mass ( 30t )\r\n");
     LoadCatalogue(frame, catalogue);
-    EXPECT_EQ(catalogue.Materiels[0].Mass, "30t");
+    EXPECT_EQ(catalogue.here().Materiels[0].Mass, "30t");
     state.Optimize = false; // the quick reader sees one key a line
     LoadCatalogue(frame, catalogue);
-    EXPECT_EQ(catalogue.Materiels[0].Mass, "");
-    EXPECT_EQ(catalogue.Materiels[0].WagonName, "voit");
+    EXPECT_EQ(catalogue.here().Materiels[0].Mass, "");
+    EXPECT_EQ(catalogue.here().Materiels[0].WagonName, "voit");
 }
 
 TEST_F(CatalogueTest, LoadKeepsStockThatItCannotRead) {
@@ -69,8 +69,8 @@ TEST_F(CatalogueTest, LoadKeepsStockThatItCannotRead) {
     putStock("Parc\\voit.wag", WagonBody);
     EXPECT_TRUE(LoadCatalogue(frame, catalogue));
     ASSERT_EQ(stockNames(), (Names{"Parc\\binary.eng", "Parc\\empty.wag", "Parc\\voit.wag"}));
-    EXPECT_EQ(catalogue.Materiels[0].Type + catalogue.Materiels[1].Type, "");
-    EXPECT_EQ(catalogue.Materiels[2].Type, "Carriage");
+    EXPECT_EQ(catalogue.here().Materiels[0].Type + catalogue.here().Materiels[1].Type, "");
+    EXPECT_EQ(catalogue.here().Materiels[2].Type, "Carriage");
     EXPECT_TRUE(dialogs.shown.empty());
 }
 
@@ -89,7 +89,7 @@ TEST_F(CatalogueTest, LoadPassesOverWhatIsTooLargeAndTellsItOnce) {
         EXPECT_EQ(messagesShown(), Names{"48 passed over\r\n" + consist + " of 33 MB\r\n" + parc +
                                          "a.eng of 33 MB\r\n" + parc + "b.eng of 33 MB\r\n" + parc +
                                          "c.eng of 33 MB\r\n" + parc + "d.wag of 33 MB\r\nand 2 more"});
-        EXPECT_EQ(catalogue.Materiels.back().Type, "Carriage") << "the load went on";
+        EXPECT_EQ(catalogue.here().Materiels.back().Type, "Carriage") << "the load went on";
     }
 }
 
@@ -132,18 +132,17 @@ TEST_F(CatalogueTest, ReadOnlyLoadWritesNothing) {
 TEST_F(CatalogueTest, AReloadLooksForPicturesAnew) {
     putStock("Parc\\voit.wag", WagonBody);
     LoadCatalogue(frame, catalogue);
-    LoadMaterielPicture(frame, catalogue, catalogue.Materiels[0]);
-    EXPECT_EQ(catalogue.Materiels[0].Picture, "5003");
+    LoadMaterielPicture(frame, catalogue, catalogue.here().Materiels[0]);
+    EXPECT_EQ(catalogue.here().Materiels[0].Picture, "5003");
     LoadCatalogue(frame, catalogue);
-    EXPECT_EQ(catalogue.Materiels[0].Picture, "");
+    EXPECT_EQ(catalogue.here().Materiels[0].Picture, "");
 }
 
 TEST_F(CatalogueTest, LoadOfAMissingRootIsEmptyAndNoError) {
     EXPECT_TRUE(LoadCatalogue(frame, catalogue));
     EXPECT_FALSE(state.Busy);
-    ASSERT_EQ(catalogue.Materiels.size(), 1u);
-    EXPECT_EQ(catalogue.Materiels[0].FileName, "");
-    EXPECT_EQ(catalogue.ConsistFiles, Names{""});
+    EXPECT_TRUE(catalogue.here().Materiels.empty());
+    EXPECT_TRUE(catalogue.here().ConsistFiles.empty());
     EXPECT_TRUE(dialogs.shown.empty());
 }
 
@@ -155,8 +154,8 @@ TEST_F(CatalogueTest, LoadStopsAtOnceWhenTheUserEndsIt) {
     EXPECT_FALSE(LoadCatalogue(frame, catalogue));
     EXPECT_FALSE(state.Busy);
     ASSERT_EQ(stockNames().size(), 3u);
-    EXPECT_EQ(catalogue.Materiels[1].Type, "Carriage");
-    EXPECT_EQ(catalogue.Materiels[2].Type, "");
+    EXPECT_EQ(catalogue.here().Materiels[1].Type, "Carriage");
+    EXPECT_EQ(catalogue.here().Materiels[2].Type, "");
     EXPECT_EQ(progressShown().back(), "0-2:1 reading b.wag");
 }
 

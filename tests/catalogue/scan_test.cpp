@@ -11,12 +11,11 @@ TEST_F(CatalogueTest, StockIsEnginesThenWagonsByFolder) {
     putStock("Ateliers\\notes.txt");
     files.put(trainsetPath(MstsRoot) + "loose.eng", "not in a stock folder");
     putStock("Zone\\a.eng", {}, StoreRoot);
-    ListStockFolders(frame, catalogue, trainsetPath(MstsRoot), true);
-    EXPECT_EQ(catalogue.StockFolders, (Names{"Ateliers", "Zone"}));
-    ScanStockFiles(frame, catalogue);
+    const Names folders = ListStockFolders(frame, trainsetPath(MstsRoot), true);
+    EXPECT_EQ(folders, (Names{"Ateliers", "Zone"}));
+    ScanStockFiles(frame, catalogue, folders);
     EXPECT_EQ(stockNames(), (Names{"Ateliers\\b.eng", "Zone\\a.eng", "Ateliers\\b.wag", "Ateliers\\C.WAG"}));
-    EXPECT_EQ(catalogue.Materiels[0].BasePath, "C:\\MSTS\\TRAINS\\TRAINSET\\");
-    EXPECT_EQ(catalogue.StockFolders, Names{""});
+    EXPECT_EQ(catalogue.here().Materiels[0].BasePath, "C:\\MSTS\\TRAINS\\TRAINSET\\");
 }
 
 struct DefaultWagon {
@@ -29,8 +28,7 @@ TEST_F(CatalogueTest, OnlyTheLowerCaseDefaultWagonIsLeftOut) {
                                     DefaultWagon{"default.WAG", true}, DefaultWagon{"default.eng", true}}) {
         const std::string folder = trainsetPath(MstsRoot) + "Parc\\";
         files.put(folder + one.file, "");
-        catalogue.StockFolders = {"Parc"};
-        ScanStockFiles(frame, catalogue);
+        ScanStockFiles(frame, catalogue, {"Parc"});
         EXPECT_EQ(stockNames().size(), one.catalogued ? 1u : 0u) << one.file;
         files.deleteFile(folder + one.file);
     }
@@ -46,17 +44,15 @@ void putMany(MemoryFileSystem& files, int count, const char* extension) {
 
 TEST_F(CatalogueTest, StockBeyondTheLimitIsToldOncePerKind) {
     putMany(files, MaxEntries, ".eng");
-    ListStockFolders(frame, catalogue, trainsetPath(MstsRoot), true);
-    ScanStockFiles(frame, catalogue);
-    EXPECT_EQ(catalogue.Materiels.size(), static_cast<std::size_t>(MaxEntries));
+    ScanStockFiles(frame, catalogue, ListStockFolders(frame, trainsetPath(MstsRoot), true));
+    EXPECT_EQ(catalogue.here().Materiels.size(), static_cast<std::size_t>(MaxEntries));
     EXPECT_TRUE(dialogs.shown.empty()) << "just full";
 
     putStock("F104\\one.eng");
     putStock("F100\\one.wag");
     putStock("F100\\two.wag");
-    ListStockFolders(frame, catalogue, trainsetPath(MstsRoot), true);
-    ScanStockFiles(frame, catalogue);
-    EXPECT_EQ(catalogue.Materiels.size(), static_cast<std::size_t>(MaxEntries));
+    ScanStockFiles(frame, catalogue, ListStockFolders(frame, trainsetPath(MstsRoot), true));
+    EXPECT_EQ(catalogue.here().Materiels.size(), static_cast<std::size_t>(MaxEntries));
     const std::string message = "48 limit 32766 in " + files.nativePath(trainsetPath(MstsRoot));
     EXPECT_EQ(messagesShown(), (Names{message, message}));
 }
@@ -65,11 +61,11 @@ TEST_F(CatalogueTest, StockFoldersStopAtTheLimitWhenAsked) {
     putStock("0\\makes the folders above.eng");
     for (int i = 1; i <= MaxEntries; ++i)
         files.createFolder(trainsetPath(MstsRoot) + std::to_string(i));
-    ListStockFolders(frame, catalogue, trainsetPath(MstsRoot), false);
-    EXPECT_EQ(catalogue.StockFolders.size(), static_cast<std::size_t>(MaxEntries) + 1);
+    EXPECT_EQ(ListStockFolders(frame, trainsetPath(MstsRoot), false).size(),
+              static_cast<std::size_t>(MaxEntries) + 1);
     EXPECT_TRUE(dialogs.shown.empty());
-    ListStockFolders(frame, catalogue, trainsetPath(MstsRoot), true);
-    EXPECT_EQ(catalogue.StockFolders.size(), static_cast<std::size_t>(MaxEntries));
+    EXPECT_EQ(ListStockFolders(frame, trainsetPath(MstsRoot), true).size(),
+              static_cast<std::size_t>(MaxEntries));
     EXPECT_EQ(dialogs.shown.size(), 1u);
 }
 
@@ -81,7 +77,7 @@ TEST_F(CatalogueTest, ConsistsOfBothRootsAreIndexedAndCounted) {
                StoreRoot);
     ASSERT_TRUE(ScanConsists(frame, catalogue));
 
-    EXPECT_EQ(catalogue.ConsistFiles, (Names{"a.con", "bare.con"}));
+    EXPECT_EQ(catalogue.here().ConsistFiles, (Names{"a.con", "bare.con"}));
     EXPECT_EQ(usage(), (Names{"Parc\\loco.eng 1", "Parc\\voit.wag 3", "Parc\\VOIT.wag 1"}));
     ASSERT_EQ(catalogue.ConsistIndex.size(), 3u);
     const ConsistEntry& first = catalogue.ConsistIndex[0];
@@ -90,7 +86,7 @@ TEST_F(CatalogueTest, ConsistsOfBothRootsAreIndexedAndCounted) {
     EXPECT_EQ(first.Items,
               (std::vector<StockPair>{{"loco.eng", "Parc"}, {"voit.wag", "Parc"}, {"voit.wag", "Parc"}}));
     EXPECT_EQ(catalogue.ConsistIndex[1].DisplayName, "");
-    EXPECT_EQ(catalogue.ConsistIndex[1].Items, std::vector<StockPair>(1));
+    EXPECT_EQ(catalogue.ConsistIndex[1].Items, std::vector<StockPair>());
     EXPECT_EQ(catalogue.ConsistIndex[2].FolderPath, "C:\\Store\\TRAINS\\CONSISTS\\");
     EXPECT_EQ(catalogue.ConsistIndex[2].DisplayName, "No full name");
 }
@@ -100,7 +96,7 @@ TEST_F(CatalogueTest, ScanOfConsistsStartsAfreshAndMayLackTheStore) {
     putConsist("b.con", "b", {"WagonData ( stored Parc )"}, StoreRoot);
     ScanConsists(frame, catalogue);
     EXPECT_EQ(usage(), (Names{"Parc\\voit.wag 1", "Parc\\stored.wag 1"}));
-    state.RootSecondary.clear();
+    state.roots.RootTStore.clear();
     ScanConsists(frame, catalogue);
     EXPECT_EQ(usage(), Names{"Parc\\voit.wag 1"});
     EXPECT_EQ(catalogue.ConsistIndex.size(), 1u);
@@ -117,7 +113,6 @@ TEST_F(CatalogueTest, ABrokenConsistCountsWhatStandsBeforeTheFault) {
 }
 
 TEST_F(CatalogueTest, StockUseIsFoundInAnyCaseTheFirstRecordFirst) {
-    EXPECT_EQ(findStockUse(catalogue, "", ""), nullptr) << "a free slot is no record";
     appendStockUse(catalogue, "Parc", "voit.wag", 1);
     appendStockUse(catalogue, "PARC", "Voit.wag", 5);
     ASSERT_EQ(catalogue.StockUsage.size(), 2u);
@@ -158,7 +153,6 @@ TEST(MaterielFinderTest, FindsTheFirstOfANameInAnyCase) {
     EXPECT_EQ(finder.find(materiels, "parc", "Voit.WAG"), 1);
     EXPECT_EQ(finder.find(materiels, "autre", "voit.wag"), 3);
     EXPECT_EQ(finder.find(materiels, "parc", "voit.eng"), -1);
-    EXPECT_EQ(finder.find(materiels, "", ""), -1);
 
     materiels.emplace_back();
     name(4, "Parc", "neuf.eng");

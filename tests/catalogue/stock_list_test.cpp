@@ -22,10 +22,10 @@ TEST(StockClass, FollowsTypeAndEngineTypeInAnyCase) {
 }
 
 struct StockListTest : CatalogueTest {
-    StockListTest() { catalogue.Materiels.clear(); }
+    StockListTest() { catalogue.here().Materiels.clear(); }
 
     Materiel& add(const char* file, const char* type, const char* engineType = "") {
-        Materiel& added = catalogue.Materiels.emplace_back();
+        Materiel& added = catalogue.here().Materiels.emplace_back();
         added.Folder = "Parc";
         added.FileName = file;
         added.Type = type;
@@ -36,7 +36,6 @@ struct StockListTest : CatalogueTest {
 
 TEST_F(StockListTest, HoldsTheClassInCatalogueOrder) {
     add("z.eng", "Engine", "Diesel").EngineName = "Zed";
-    add("", "Engine", "Diesel");            // a free slot
     add("default.wag", "Engine", "Diesel"); // a consist that uses it was opened
     add("a.wag", "Freight").WagonName = "Box";
     Materiel& last = add("a.eng", "engine", "DIESEL");
@@ -47,7 +46,7 @@ TEST_F(StockListTest, HoldsTheClassInCatalogueOrder) {
     ASSERT_EQ(rows.size(), 2u);
     EXPECT_EQ(rows[0].key + rows[0].text, "KEY_0Zed");
     EXPECT_EQ(rows[0].icon, NoCabIcon);
-    EXPECT_EQ(rows[1].key + rows[1].text, "KEY_4Shell");
+    EXPECT_EQ(rows[1].key + rows[1].text, "KEY_3Shell");
     EXPECT_EQ(rows[1].icon, CabIcon);
     EXPECT_EQ(FillStockList(state, catalogue, 1, true)[0].text, "z.eng");
     EXPECT_TRUE(FillStockList(state, catalogue, 0, false).empty());

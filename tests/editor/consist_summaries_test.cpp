@@ -36,18 +36,18 @@ class SummariesTest : public EditorTest {
         list(file + ".con");
     }
     void list(const std::string& file) {
-        if (catalogue.ConsistFiles.back().empty())
-            catalogue.ConsistFiles.pop_back();
-        catalogue.ConsistFiles.push_back(file);
+        if (catalogue.here().ConsistFiles.back().empty())
+            catalogue.here().ConsistFiles.pop_back();
+        catalogue.here().ConsistFiles.push_back(file);
     }
     ConsistSummary only() {
         BuildConsistSummaries(frame, catalogue, progress);
-        return catalogue.ConsistSummaries.at(0);
+        return catalogue.here().ConsistSummaries.at(0);
     }
     std::vector<std::string> listed() const {
         std::vector<std::string> names;
         for (const int row : FillConsistList(catalogue))
-            names.push_back(catalogue.ConsistSummaries[static_cast<std::size_t>(row)].FileName);
+            names.push_back(catalogue.here().ConsistSummaries[static_cast<std::size_t>(row)].FileName);
         return names;
     }
 };
@@ -67,7 +67,7 @@ TEST_F(SummariesTest, TheCompositionCountsEnginesAndWagons) {
         {{"E", "W", "E", "gone.wag"}, "2 engines+2 wagons"},
     };
     for (const Case& c : cases) {
-        catalogue.ConsistFiles.assign(1, {});
+        catalogue.here().ConsistFiles.clear();
         putTrain("train", c.vehicles);
         EXPECT_EQ(only().Composition, c.text);
     }
@@ -87,14 +87,15 @@ TEST_F(SummariesTest, StockOfEitherRootIsThereWhicheverIsInUse) {
         {{}, true, true},
     };
     for (const Case& c : cases)
-        for (const char* primary : {Simulator, Store}) {
-            state.RootPrimary = primary;
-            state.RootTStore = c.withStore ? Store : "";
-            catalogue.ConsistFiles.assign(1, {});
+        for (const Root first : {Root::Simulator, Root::Store}) {
+            if (first == Root::Store && !c.withStore)
+                continue;
+            state.roots = {Simulator, c.withStore ? Store : "", first};
+            catalogue.here().ConsistFiles.clear();
             putTrain("train", c.vehicles);
             files.put(consistsPath(Store) + "train.con", files.get(consistPath("train.con")).value());
             const ConsistSummary summary = only();
-            EXPECT_EQ(summary.Complete, c.complete) << primary << " " << c.vehicles.size();
+            EXPECT_EQ(summary.Complete, c.complete) << static_cast<int>(first) << " " << c.vehicles.size();
             EXPECT_EQ(summary.FullName, "Name of train");
         }
 }
@@ -119,17 +120,17 @@ TEST_F(SummariesTest, CompleteConsistsStandFirstAndFreeSlotsAreLeftOut) {
     putTrain("d", {});
     BuildConsistSummaries(frame, catalogue, progress);
     EXPECT_EQ(listed(), (Shown{"c.con", "d.con", "b.con", "a.con"}));
-    catalogue.ConsistSummaries[1] = {};
+    catalogue.here().ConsistSummaries[1] = {};
     EXPECT_EQ(listed(), (Shown{"d.con", "b.con", "a.con"}));
 }
 
 TEST_F(SummariesTest, AConsistThatAServiceNamesIsMarked) {
-    catalogue.RamesEnService = {"Express Du Nord.con", ".con"};
+    catalogue.here().RamesEnService = {"Express Du Nord.con", ".con"};
     putTrain("EXPRESS du nord", {"E"});
     putTrain("other", {"E"});
     BuildConsistSummaries(frame, catalogue, progress);
-    EXPECT_EQ(catalogue.ConsistSummaries[0].RouteMark, "ROUTE_YES");
-    EXPECT_EQ(catalogue.ConsistSummaries[1].RouteMark, "ROUTE_NO");
+    EXPECT_EQ(catalogue.here().ConsistSummaries[0].RouteMark, "ROUTE_YES");
+    EXPECT_EQ(catalogue.here().ConsistSummaries[1].RouteMark, "ROUTE_NO");
 }
 
 TEST_F(SummariesTest, AFileThatCannotBeReadIsListedLikeAnEmptyConsist) {
@@ -138,7 +139,7 @@ TEST_F(SummariesTest, AFileThatCannotBeReadIsListedLikeAnEmptyConsist) {
     list("bad.con");
     BuildConsistSummaries(frame, catalogue, progress);
     EXPECT_EQ(listed(), (Shown{"gone.con", "bad.con"}));
-    for (const ConsistSummary& summary : catalogue.ConsistSummaries) {
+    for (const ConsistSummary& summary : catalogue.here().ConsistSummaries) {
         EXPECT_EQ(summary.FullName + summary.Composition, "");
         EXPECT_TRUE(summary.Complete);
     }
@@ -149,7 +150,7 @@ TEST_F(SummariesTest, ARootWithoutConsistsHasNoRow) {
     EXPECT_TRUE(BuildConsistSummaries(frame, catalogue, progress));
     EXPECT_TRUE(progress.steps.empty());
     EXPECT_EQ(listed(), Shown{});
-    EXPECT_TRUE(catalogue.summariesRead);
+    EXPECT_TRUE(catalogue.here().summariesRead);
 }
 
 TEST_F(SummariesTest, ProgressIsShownFileByFile) {
@@ -214,19 +215,19 @@ TEST_F(SummariesTest, TheTableSpeaksTheLanguageOfNow) {
     prepareSummaries(frame, catalogue, progress);
     state.Language = "Deutsch";
     prepareSummaries(frame, catalogue, progress);
-    EXPECT_EQ(catalogue.ConsistSummaries[0].Composition, "1 D-engine+2 D-wagons");
+    EXPECT_EQ(catalogue.here().ConsistSummaries[0].Composition, "1 D-engine+2 D-wagons");
 }
 
 TEST_F(SummariesTest, ASaveBringsItsRowUpToDate) {
     putTrain("Train", {"E", "gone.wag"});
     prepareSummaries(frame, catalogue, progress);
-    catalogue.RamesEnService = {"Train.con"};
+    catalogue.here().RamesEnService = {"Train.con"};
     ASSERT_TRUE(openConsist(editor, consistPath("train.con")));
     RemoveVehicule(editor);
     changeFullName(editor, "New name");
     SaveFileRame(editor);
     ASSERT_EQ(listed(), Shown{"Train.con"});
-    const ConsistSummary& row = catalogue.ConsistSummaries[0];
+    const ConsistSummary& row = catalogue.here().ConsistSummaries[0];
     EXPECT_EQ(row.FullName + "|" + row.Composition + "|" + row.RouteMark, "New name|1 wagon|ROUTE_YES");
     EXPECT_FALSE(row.Complete);
 
@@ -235,7 +236,7 @@ TEST_F(SummariesTest, ASaveBringsItsRowUpToDate) {
     nameConsist("Second");
     SaveFileRame(editor);
     EXPECT_EQ(listed(), (Shown{"Second.con", "Train.con"}));
-    EXPECT_EQ(catalogue.ConsistSummaries[1].Composition, "2 wagons");
+    EXPECT_EQ(catalogue.here().ConsistSummaries[1].Composition, "2 wagons");
 }
 
 } // namespace

@@ -144,7 +144,7 @@ TEST_F(CouplingTest, AStripThatEndsInUnknownCouplingIsNotChecked) {
 }
 
 TEST_F(CouplingTest, AMissingVehicleFitsEverything) {
-    catalogue.Materiels[0].CouplingUnique = "own"; // the entry that its index would lead to
+    catalogue.here().Materiels[0].CouplingUnique = "own"; // the entry that its index would lead to
     const RameItem gone{false, 0, false, "gone", "Parc", ""};
     InsertVehicule(editor, 0, false, false, &gone);
     strip({bar});
@@ -195,7 +195,7 @@ TEST_F(CouplingTest, ThePanelShowsThePictureOfAnEntry) {
     const MaterielInfo info = ShowMaterielInfo(editor, index);
     EXPECT_EQ(info.path, "Folder1\\A.wag");
     EXPECT_EQ(info.picture.name, "5004");
-    EXPECT_EQ(catalogue.Materiels[static_cast<std::size_t>(index)].Picture, "5004") << "it is kept";
+    EXPECT_EQ(catalogue.here().Materiels[static_cast<std::size_t>(index)].Picture, "5004") << "it is kept";
     for (const int none : {-1, index + 1}) {
         EXPECT_FALSE(ShowMaterielInfo(editor, none).picture.found());
         EXPECT_EQ(ShowMaterielInfo(editor, none).select, "");

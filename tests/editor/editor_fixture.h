@@ -36,8 +36,8 @@ class EditorTest : public ::testing::Test, protected TestFrame {
                   "433=+kept |2\r\n443=incomplete\r\n586=limit |2 in |1\r\n800=|1 MB of |2\r\n"
                   "802=unreadable\r\n803=unread |1: |3\r\n820=unwritable |1\r\n830=|1 unkept in |2\r\n");
         state.Language = "English";
-        state.RootMSTS = state.RootPrimary = Simulator;
-        state.RootTStore = state.RootSecondary = Store;
+        state.roots.RootMSTS = Simulator;
+        state.roots.RootTStore = Store;
         settings("1", "0");
         files.put("C:\\MSTS\\train.exe", "");
         initialiseDocument(editor);
@@ -59,17 +59,17 @@ class EditorTest : public ::testing::Test, protected TestFrame {
     int addStock(std::string_view fileName, std::string_view coupling = {},
                  std::string_view folder = "Folder1") {
         Materiel materiel;
-        materiel.BasePath = trainsetPath(state.RootPrimary);
+        materiel.BasePath = trainsetPath(state.roots.RootPrimary());
         materiel.Folder = folder;
         materiel.FileName = fileName;
         materiel.EngineName = std::string(fileName.substr(0, fileName.size() - 4));
         materiel.Coupling = coupling;
         materiel.Type = "Freight";
         files.put(materiel.BasePath + materiel.Folder + "\\" + materiel.FileName, "stock");
-        if (catalogue.Materiels.back().FileName.empty())
-            catalogue.Materiels.pop_back();
-        catalogue.Materiels.push_back(std::move(materiel));
-        return static_cast<int>(catalogue.Materiels.size()) - 1;
+        if (catalogue.here().Materiels.back().FileName.empty())
+            catalogue.here().Materiels.pop_back();
+        catalogue.here().Materiels.push_back(std::move(materiel));
+        return static_cast<int>(catalogue.here().Materiels.size()) - 1;
     }
     // One new vehicle a letter at the end of the strip, which counts as saved afterwards.
     void compose(std::string_view letters) {
@@ -81,8 +81,8 @@ class EditorTest : public ::testing::Test, protected TestFrame {
     }
     int stockOf(char letter) {
         const std::string file = std::string(1, letter) + ".wag";
-        for (std::size_t i = 0; i < catalogue.Materiels.size(); ++i)
-            if (catalogue.Materiels[i].FileName == file)
+        for (std::size_t i = 0; i < catalogue.here().Materiels.size(); ++i)
+            if (catalogue.here().Materiels[i].FileName == file)
                 return static_cast<int>(i);
         return addStock(file);
     }

@@ -67,7 +67,7 @@ TEST_F(OpenTest, WhatIsSavedIsWhatWasRead) {
     EXPECT_EQ(rows(), before);
     SaveFileRame(editor);
     EXPECT_EQ(savedText("mixed.con"), saved);
-    EXPECT_FALSE(catalogue.ConsistSummaries.back().Complete);
+    EXPECT_FALSE(catalogue.here().ConsistSummaries.back().Complete);
 }
 
 TEST_F(OpenTest, AMissingVehicleTakesANewNumberWithItsOldLines) {
@@ -208,25 +208,25 @@ TEST_F(OpenTest, StockThatCameAfterTheLoadIsAddedAtTheEnd) {
     for (int i = 0; i < 2; ++i) {
         ASSERT_TRUE(open("late.con"));
         EXPECT_EQ(order(), "LateWag1Late");
-        ASSERT_EQ(catalogue.Materiels.size(), 3u) << "once";
-        EXPECT_EQ(catalogue.Materiels[0].FileName, "Loco1.eng");
+        ASSERT_EQ(catalogue.here().Materiels.size(), 3u) << "once";
+        EXPECT_EQ(catalogue.here().Materiels[0].FileName, "Loco1.eng");
         EXPECT_EQ(document.Vehicules[2].MaterielIndex, 2);
     }
-    catalogue.Materiels.resize(2);
-    catalogue.Materiels.resize(MaxEntries, catalogue.Materiels[0]);
+    catalogue.here().Materiels.resize(2);
+    catalogue.here().Materiels.resize(MaxEntries, catalogue.here().Materiels[0]);
     ASSERT_TRUE(open("late.con"));
     EXPECT_TRUE(document.Vehicules[0].Missing) << "no index is left";
-    EXPECT_EQ(catalogue.Materiels.size(), static_cast<std::size_t>(MaxEntries));
+    EXPECT_EQ(catalogue.here().Materiels.size(), static_cast<std::size_t>(MaxEntries));
 }
 
 TEST_F(OpenTest, StockIsAddedOnceToAnEmptyCatalogueToo) {
-    catalogue.Materiels.assign(1, {});
+    catalogue.here().Materiels.clear();
     putConsist("one.con",
                "Train (\r\nTrainCfg ( one\r\nWagon (\r\nWagonData ( Wag1 Folder1 )\r\n)\r\n)\r\n)\r\n");
     for (int i = 0; i < 2; ++i) {
         ASSERT_TRUE(open("one.con"));
-        ASSERT_EQ(catalogue.Materiels.size(), 1u);
-        EXPECT_EQ(catalogue.Materiels[0].FileName, "Wag1.wag");
+        ASSERT_EQ(catalogue.here().Materiels.size(), 1u);
+        EXPECT_EQ(catalogue.here().Materiels[0].FileName, "Wag1.wag");
     }
 }
 
@@ -234,9 +234,9 @@ class StoreTest : public OpenTest {
   protected:
     StoreTest() {
         // Loco1 and Wag1 stand in the simulator's tree alone.
-        state.RootPrimary = Store;
-        state.RootSecondary = Simulator;
-        catalogue.Materiels.assign(1, {});
+        state.roots.first = Root::Store;
+        catalogue.current = Root::Store;
+        catalogue.here().Materiels.clear();
         putConsist("mixed.con", Vehicles);
     }
 };
@@ -246,13 +246,13 @@ TEST_F(StoreTest, StockOfTheSimulatorIsFoundFromTheTrainStore) {
     known.Folder = "Folder1";
     known.FileName = "Loco1.eng";
     known.EngineName = "Known";
-    catalogue.snapshots[0].Materiels = {known};
+    catalogue.simulator.Materiels = {known};
     ASSERT_TRUE(open("mixed.con"));
     EXPECT_EQ(rows(),
               "Known simulator flipped 4 EngineVariables(1 2 3)|Gone.eng missing 5 EngineVariables(7)|"
               "Wag1.wag simulator 6 |Gone too.wag missing flipped 8 |");
-    EXPECT_EQ(catalogue.snapshots[0].Materiels.size(), 2u);
-    EXPECT_EQ(catalogue.snapshots[0].Materiels[1].BasePath, trainsetPath(Simulator));
+    EXPECT_EQ(catalogue.simulator.Materiels.size(), 2u);
+    EXPECT_EQ(catalogue.simulator.Materiels[1].BasePath, trainsetPath(Simulator));
     SaveFileRame(editor);
     EXPECT_TRUE(savedHas("mixed.con", "EngineData ( Loco1 Folder1 )"));
     EXPECT_TRUE(savedHas("mixed.con", "WagonData ( Wag1 Folder1 )"));
@@ -260,8 +260,7 @@ TEST_F(StoreTest, StockOfTheSimulatorIsFoundFromTheTrainStore) {
 
 TEST_F(StoreTest, ThePrimarySimulatorNeverLooksInTheTrainStore) {
     files.put(trainsetPath(Store) + "Parc\\Gone too.wag", "stock");
-    state.RootPrimary = Simulator;
-    state.RootSecondary = Store;
+    state.roots.first = catalogue.current = Root::Simulator;
     ASSERT_TRUE(open("mixed.con"));
     EXPECT_TRUE(document.Vehicules[3].Missing);
 }
@@ -269,7 +268,7 @@ TEST_F(StoreTest, ThePrimarySimulatorNeverLooksInTheTrainStore) {
 TEST_F(StoreTest, AChangeOfRootsEmptiesTheEditorAndFindsTheOtherStock) {
     ASSERT_TRUE(open("mixed.con"));
     changeDurability(editor, 600);
-    std::swap(state.RootPrimary, state.RootSecondary);
+    state.roots.first = otherThan(state.roots.first);
     state.MainReady = true;
     EXPECT_TRUE(ReloadAfterOptions(editor));
     EXPECT_FALSE(state.Busy || state.Modified || state.HasFile || hasVehicles(document));
@@ -293,8 +292,8 @@ TEST_F(OpenTest, AConsistBeyondTheLimitOpensUpToIt) {
 TEST_F(OpenTest, VehiclesAreAsWideAsTheirPictures) {
     const std::string thumbnail = "\\program\\Thumbnails\\Loco1.bmp";
     files.put(thumbnail, makeBitmap(200, 96));
-    catalogue.Materiels[static_cast<std::size_t>(wagon)].Type = "Engine";
-    catalogue.Materiels[static_cast<std::size_t>(wagon)].EngineType = "other";
+    catalogue.here().Materiels[static_cast<std::size_t>(wagon)].Type = "Engine";
+    catalogue.here().Materiels[static_cast<std::size_t>(wagon)].EngineType = "other";
     putConsist("mixed.con", Vehicles);
     ASSERT_TRUE(open("mixed.con"));
     const int widths[] = {200, PlainPictureWidth, 0, PlainPictureWidth};

@@ -52,12 +52,12 @@ TEST_F(SaveTest, ASavedConsistStaysAndIsClean) {
     EXPECT_TRUE(state.HasFile && controls.deleteEnabled);
     EXPECT_FALSE(state.Modified || controls.saveEnabled || controls.shortNameEnabled);
     EXPECT_EQ(order(), "Loco1Wag1");
-    EXPECT_EQ(catalogue.ConsistFiles, Shown{"Test.con"});
-    EXPECT_EQ(catalogue.ConsistSummaries[0].FileName, "Test.con");
-    EXPECT_TRUE(catalogue.ConsistSummaries[0].Complete);
+    EXPECT_EQ(catalogue.here().ConsistFiles, Shown{"Test.con"});
+    EXPECT_EQ(catalogue.here().ConsistSummaries[0].FileName, "Test.con");
+    EXPECT_TRUE(catalogue.here().ConsistSummaries[0].Complete);
     SaveFileRame(editor);
-    EXPECT_EQ(catalogue.ConsistFiles, Shown{"Test.con"});
-    EXPECT_EQ(catalogue.ConsistSummaries.size(), 1u);
+    EXPECT_EQ(catalogue.here().ConsistFiles, Shown{"Test.con"});
+    EXPECT_EQ(catalogue.here().ConsistSummaries.size(), 1u);
 }
 
 TEST_F(SaveTest, ANewConsistBeginsWhenTheSettingOrTheToolWindowAsksForIt) {
@@ -78,7 +78,7 @@ TEST_F(SaveTest, ANewConsistBeginsWhenTheSettingOrTheToolWindowAsksForIt) {
 
 TEST_F(SaveTest, ABadNameStopsTheSave) {
     files.put(consistPath("Unlisted.con"), "of another program");
-    catalogue.ConsistFiles = {"Listed.con"};
+    catalogue.here().ConsistFiles = {"Listed.con"};
     struct Case {
         const char *shortName, *fullName, *message;
     };
@@ -112,7 +112,7 @@ TEST_F(SaveTest, AFullNameOfAnyLettersKeepsTheVehicles) {
         EXPECT_EQ(vehicleCount(document), 1) << name;
         EXPECT_EQ(controls.fullName, kept);
         files.deleteFile(consistPath("full.con"));
-        catalogue.ConsistFiles.assign(1, {});
+        catalogue.here().ConsistFiles.clear();
     }
 }
 
@@ -127,7 +127,7 @@ TEST_F(SaveTest, StockThatNoFileCanHoldIsRefusedByItsName) {
         const auto before = files.allFiles();
         dialogs.shown.clear();
         SaveFileRame(editor);
-        const Materiel& odd = catalogue.Materiels[static_cast<std::size_t>(index)];
+        const Materiel& odd = catalogue.here().Materiels[static_cast<std::size_t>(index)];
         EXPECT_EQ(shown(), Shown{"48 unwritable " + odd.Folder + "\\" + odd.FileName});
         EXPECT_EQ(files.allFiles(), before);
         EXPECT_TRUE(state.Modified && !state.HasFile);
@@ -162,7 +162,7 @@ TEST_F(SaveTest, MaxVelocityFollowsTheEngine) {
 }
 
 TEST_F(SaveTest, TheWagonsOwnSpellingOfItsNameIsWritten) {
-    catalogue.Materiels[static_cast<std::size_t>(wagon)].WagonName = "WAG1";
+    catalogue.here().Materiels[static_cast<std::size_t>(wagon)].WagonName = "WAG1";
     const int odd = addStock("odd.txt");
     appendStock(editor, wagon);
     appendStock(editor, odd);
@@ -253,7 +253,7 @@ TEST_F(SaveTest, AnotherNameMakesAnotherFile) {
 }
 
 TEST_F(SaveTest, WithoutItsRootNothingIsCreated) {
-    state.RootPrimary = "D:\\Gone";
+    state.roots.RootMSTS = "D:\\Gone";
     composeExample();
     const auto before = files.allFiles();
     SaveFileRame(editor);
@@ -264,11 +264,11 @@ TEST_F(SaveTest, WithoutItsRootNothingIsCreated) {
 
 TEST_F(SaveTest, ACloseWaitsForASaveThatFails) {
     composeExample();
-    state.RootPrimary = "D:\\Gone";
+    state.roots.RootMSTS = "D:\\Gone";
     dialogs.defaultAnswer = answer::Yes;
     EXPECT_FALSE(closeEditor(editor));
     EXPECT_EQ(order(), "Loco1Wag1");
-    state.RootPrimary = Simulator;
+    state.roots.RootMSTS = Simulator;
     EXPECT_TRUE(closeEditor(editor));
     EXPECT_TRUE(files.get(consistPath("Test.con")));
 }
@@ -284,8 +284,8 @@ TEST_F(SaveTest, AFailureAnywhereLosesNothing) {
             files = MemoryFileSystem();
             files.put("C:\\MSTS\\train.exe", "");
             settings("1", "0");
-            catalogue.ConsistFiles.assign(1, {});
-            catalogue.ConsistSummaries.assign(1, {});
+            catalogue.here().ConsistFiles.clear();
+            catalogue.here().ConsistSummaries.clear();
             initialiseDocument(editor);
             composeExample();
             std::optional<std::string> old;
@@ -319,7 +319,7 @@ TEST_F(SaveTest, AFailureAnywhereLosesNothing) {
                 EXPECT_EQ(document.rame.CfgName, rameBefore.CfgName);
                 EXPECT_EQ(document.rame.NextWagonUID, rameBefore.NextWagonUID);
                 EXPECT_EQ(state.HasFile, c.hasFile);
-                EXPECT_EQ(catalogue.ConsistFiles.back(), c.hasFile ? "Test.con" : "");
+                EXPECT_EQ(catalogue.here().ConsistFiles.back(), c.hasFile ? "Test.con" : "");
             }
             if (!failed)
                 break;

@@ -37,7 +37,7 @@ class StripDrawingTest : public EditorTest {
     Vehicule& add(std::string_view name, std::string_view picture = "w121", std::string_view brakes = "",
                   std::string_view coupling = "") {
         const int index = addStock(std::string(name) + ".wag", coupling);
-        Materiel& materiel = catalogue.Materiels[static_cast<std::size_t>(index)];
+        Materiel& materiel = catalogue.here().Materiels[static_cast<std::size_t>(index)];
         materiel.Picture = picture;
         materiel.BrakeSystem = brakes;
         document.PictureWidth =
@@ -275,7 +275,7 @@ TEST_F(StripDrawingTest, StockOfTheSimulatorIsLookedUpInItsOwnArray) {
     other.FromSimulator = true;
     other.MaterielIndex = 0;
     EXPECT_TRUE(drawn<FillBar>().empty()) << "the array has no such entry";
-    Materiel& materiel = catalogue.snapshots[0].Materiels.emplace_back();
+    Materiel& materiel = catalogue.simulator.Materiels.emplace_back();
     materiel.BrakeSystem = "vacuum_twin_pipe";
     EXPECT_EQ(drawn<FillBar>(), (std::vector{FillBar{{121, StripHeight - 12, 120, 5}, Red}}));
     EXPECT_EQ(drawn<PlaceMark>(), (std::vector{PlaceMark{CouplingMark::Chain, 113, 51}}));

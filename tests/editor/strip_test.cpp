@@ -233,8 +233,8 @@ TEST_F(StripTest, TotalsAreCutNotRounded) {
          {Case{"3m 4m 18.98765m", "80.5t", "long 37.975 heavy 161"}, Case{"3m 4m 18m", "", "long 36"},
           Case{"", "12.25", " heavy 24.5"}, Case{"", "", ""}, Case{"wide", "0", ""}}) {
         newConsist(editor);
-        catalogue.Materiels[static_cast<std::size_t>(stockOf('A'))].Size = c.size;
-        catalogue.Materiels[static_cast<std::size_t>(stockOf('A'))].Mass = c.mass;
+        catalogue.here().Materiels[static_cast<std::size_t>(stockOf('A'))].Size = c.size;
+        catalogue.here().Materiels[static_cast<std::size_t>(stockOf('A'))].Mass = c.mass;
         compose("AA");
         EXPECT_EQ(controls.totals, c.total);
     }
@@ -242,7 +242,7 @@ TEST_F(StripTest, TotalsAreCutNotRounded) {
 
 TEST_F(StripTest, FiguresHaveTheMarkOfTheLanguage) {
     files.put(state.LanguagePath, *files.get(state.LanguagePath) + "831=,\r\n");
-    Materiel& materiel = catalogue.Materiels[static_cast<std::size_t>(stockOf('A'))];
+    Materiel& materiel = catalogue.here().Materiels[static_cast<std::size_t>(stockOf('A'))];
     materiel.Size = "3m 4m 18.98765m";
     materiel.Mass = "80.5t";
     compose("A");
@@ -268,7 +268,7 @@ TEST_F(StripTest, AFullStripTakesNoMore) {
 }
 
 TEST_F(StripTest, StockWithoutANameShowsItsFile) {
-    catalogue.Materiels[static_cast<std::size_t>(stockOf('A'))].EngineName.clear();
+    catalogue.here().Materiels[static_cast<std::size_t>(stockOf('A'))].EngineName.clear();
     compose("A");
     EXPECT_EQ(order(), "A.wag");
     EXPECT_EQ(vehicleCount(document), 1);

@@ -34,7 +34,7 @@ TEST(FolderChoice, BeginsAtTheFolderInUseOrTheNearestSensibleOne) {
             test.files.put(folder, "");
         test.state.ProgramFilesDir = "C:\\Programs";
         test.state.EditingMstsPath = c.simulator;
-        (c.simulator ? test.state.RootMSTS : test.state.RootTStore) = c.root;
+        (c.simulator ? test.state.roots.RootMSTS : test.state.roots.RootTStore) = c.root;
         const FolderChoice choice = chooseRootFolder(test.frame);
         EXPECT_EQ(choice.start, c.start);
         EXPECT_EQ(choice.mayAcceptAtOnce, c.acceptable) << c.root;
@@ -54,17 +54,17 @@ TEST(FolderChoice, TheDefaultBackupFolderIsMade) {
 
 TEST(FolderChoice, WhatIsAcceptedGoesIntoTheStateAndNothingElseDoes) {
     AppState state;
-    state.RootMSTS = "C:\\A";
-    state.RootTStore = "C:\\B";
+    state.roots.RootMSTS = "C:\\A";
+    state.roots.RootTStore = "C:\\B";
     state.EditingMstsPath = true;
     acceptRootFolder(state, "");
-    EXPECT_EQ(state.RootMSTS, "C:\\A");
+    EXPECT_EQ(state.roots.RootMSTS, "C:\\A");
     acceptRootFolder(state, "C:\\New\\");
-    EXPECT_EQ(state.RootMSTS, "C:\\New");
-    EXPECT_EQ(state.RootTStore, "C:\\B");
+    EXPECT_EQ(state.roots.RootMSTS, "C:\\New");
+    EXPECT_EQ(state.roots.RootTStore, "C:\\B");
     state.EditingMstsPath = false;
     acceptRootFolder(state, "\\");
-    EXPECT_EQ(state.RootTStore, "\\");
+    EXPECT_EQ(state.roots.RootTStore, "\\");
     acceptBackupFolder(state, "D:\\Kept");
     EXPECT_EQ(state.BackupDir, "D:\\Kept\\");
     acceptBackupFolder(state, "");

@@ -21,7 +21,8 @@ struct StartUp : ::testing::Test, TestFrame {
     }
     void putFolder(const std::string& path) { files.put(path + "\\anchor", ""); }
     std::string roots() const {
-        return state.RootMSTS + "|" + state.RootTStore + "|" + state.RootPrimary + "|" + state.RootSecondary;
+        return state.roots.RootMSTS + "|" + state.roots.RootTStore + "|" + state.roots.RootPrimary() + "|" +
+               state.roots.RootSecondary();
     }
 };
 
@@ -260,7 +261,7 @@ TEST_F(StartUp, TheUserShowsTheSimulator) {
          {std::pair{"E:\\Games\\MSTS\\train.exe", "E:\\Games\\MSTS"}, {"/mnt/msts/Train.exe", "/mnt/msts"}}) {
         dialogs.openFile = chosen;
         EXPECT_TRUE(findRoots(frame));
-        EXPECT_EQ(state.RootMSTS, root);
+        EXPECT_EQ(state.roots.RootMSTS, root);
     }
     const FakeDialogs::Asked& asked = dialogs.asked.front();
     EXPECT_EQ(asked.title, frame.text(Message::FindSimulator));
@@ -318,16 +319,16 @@ TEST_F(StartUp, UnsavedChangesAreAskedFor) {
 TEST_F(StartUp, ACloseKeepsFoldersAndLanguageForTheNextRun) {
     putFolder("D:\\Mśts");
     load();
-    state.RootMSTS = "D:\\Mśts";
-    state.RootTStore = "";
+    state.roots.RootMSTS = "D:\\Mśts";
+    state.roots.RootTStore = "";
     state.Language = "Deutsch";
     state.HasFile = true;
     writeClosingSettings(frame);
     EXPECT_FALSE(state.HasFile);
     EXPECT_EQ(setting("TStoreDir"), "");
-    state.RootMSTS.clear();
+    state.roots.RootMSTS.clear();
     EXPECT_TRUE(findRoots(frame));
-    EXPECT_EQ(state.RootMSTS, "D:\\Mśts");
+    EXPECT_EQ(state.roots.RootMSTS, "D:\\Mśts");
     ASSERT_TRUE(prepareStart(frame, folders()));
     EXPECT_EQ(state.Language, "Deutsch");
 }

@@ -67,7 +67,7 @@ class Shots {
         window.resize(1024, 700);
         save(window, "frmPrincipal-empty");
         for (const char* consist : {"orme_ore_down.con", "fell_mail.con"}) {
-            window.openFile(consistsPath(test_.state.RootMSTS) + consist);
+            window.openFile(consistsPath(test_.state.roots.RootMSTS) + consist);
             save(window, QByteArray("frmPrincipal-").append(consist).chopped(4));
         }
         window.resize(1024, 600);

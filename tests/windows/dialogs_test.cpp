@@ -283,7 +283,7 @@ TEST_F(HelpWindow, F1OpensThePageOfItsWindow) {
 // ---- questions
 
 TEST_F(FrameWindow, TheQuestionForTheOtherFolderIsAskedUntilTheBoxIsChecked) {
-    state.RootSecondary = "C:\\Store";
+    state.roots.RootTStore = "C:\\Store";
     bool ask = false;
     frmQuestion window(test.frame, ask);
     EXPECT_TRUE(ask);
@@ -323,7 +323,7 @@ TEST_F(FrameWindow, AThumbnailIsOnlyReplacedWhenThatWasConfirmed) {
 // ---- progress
 
 TEST_F(FrameWindow, AReloadRunsInItsWindowAndEndsWithIt) {
-    state.RootPrimary = "C:\\MSTS";
+    state.roots.RootMSTS = "C:\\MSTS";
     QtProgress progress;
     frmProgress window(test.frame);
     EXPECT_TRUE(window.windowTitle().contains("MSTS"));
@@ -383,7 +383,7 @@ struct FolderWindows : FrameWindow {
         for (const char* file :
              {"C:\\MSTS\\ROUTES\\a", "C:\\MSTS\\TRAINS\\a", "C:\\Games\\a", "\\media\\cd\\a"})
             test.files.put(file, "");
-        state.RootMSTS = "C:\\MSTS";
+        state.roots.RootMSTS = "C:\\MSTS";
         state.EditingMstsPath = true;
     }
     // Each read gets a copy, as it would a disk of its own.
@@ -427,9 +427,9 @@ TEST_F(FolderWindows, ADoubleClickGoesToAFolderAndOkKeepsIt) {
     list.setCurrentRow(rowOf(list, "Games"));
     QTest::keyClick(&list, Qt::Key_Return);
     EXPECT_TRUE(window.isVisible()) << "Enter in the list opens a folder";
-    EXPECT_EQ(state.RootMSTS, "C:\\MSTS");
+    EXPECT_EQ(state.roots.RootMSTS, "C:\\MSTS");
     press(window, "cmdOK");
-    EXPECT_EQ(state.RootMSTS, "C:\\Games");
+    EXPECT_EQ(state.roots.RootMSTS, "C:\\Games");
     EXPECT_FALSE(window.isVisible());
 }
 
@@ -442,7 +442,7 @@ TEST_F(FolderWindows, ADriveLeadsToItsRootAndCancelKeepsNothing) {
     QTest::keyClick(&drives, Qt::Key_End);
     EXPECT_EQ(part<QLabel>(window, "lblCHEMIN").text().toStdString(), test.files.nativePath("\\media\\cd"));
     press(window, "cmdCANCEL");
-    EXPECT_EQ(state.RootMSTS, "C:\\MSTS");
+    EXPECT_EQ(state.roots.RootMSTS, "C:\\MSTS");
 }
 
 TEST_F(FolderWindows, AFolderThatDoesNotAnswerKeepsNobodyWaiting) {

@@ -185,7 +185,7 @@ TEST_F(KeyboardTest, TheMenuOffersWhatMakesSense) {
 
 TEST_F(KeyboardTest, AnotherLanguageIsShownAtOnceAndKept) {
     build({"BB 9288"});
-    const std::size_t row = catalogue.Materiels.size();
+    const std::size_t row = catalogue.here().Materiels.size();
     const QString before = get<QPushButton>("cmdNEW").text();
     const QString totals = get<QLabel>("lblLongueurNewRame").text();
     window->chooseLanguage("English");
@@ -193,7 +193,7 @@ TEST_F(KeyboardTest, AnotherLanguageIsShownAtOnceAndKept) {
     EXPECT_NE(get<QLabel>("lblLongueurNewRame").text(), totals);
     EXPECT_EQ(get<QComboBox>("cmbMATERIEL").itemText(1).toStdString(), test.frame.text(Message::ClassDiesel));
     EXPECT_EQ(vehicles().size(), 1u);
-    EXPECT_EQ(catalogue.Materiels.size(), row);
+    EXPECT_EQ(catalogue.here().Materiels.size(), row);
     const auto entries = window->findChild<QMenu*>("mnuLANGUAGE")->actions();
     ASSERT_EQ(entries.size(), 6);
     for (const QAction* entry : entries)

@@ -34,16 +34,16 @@ class OpenWindowTest : public ::testing::Test, protected TestFrame {
     bool opens = true;
 
     OpenWindowTest() {
-        state.RootMSTS = state.RootPrimary = "C:\\MSTS";
+        state.roots.RootMSTS = "C:\\MSTS";
         set("Color1", "12582847"); // 191, 255, 191
         set("Color2", "8388608");  // 0, 0, 128
-        files.put(trainsetPath(state.RootMSTS) + "Parc\\loco.eng", "stock");
-        catalogue.ConsistFiles.clear();
+        files.put(trainsetPath(state.roots.RootMSTS) + "Parc\\loco.eng", "stock");
+        catalogue.here().ConsistFiles.clear();
         addConsist("mistral.con", "Le Mistral", "loco");
         addConsist("broken.con", "Ancien train", "gone");
         addConsist("zephyr.con", "Zéphyr", "loco");
         addConsist("aquilon.con", "aquilon", "loco", 2);
-        catalogue.RamesEnService = {"Mistral.con"};
+        catalogue.here().RamesEnService = {"Mistral.con"};
     }
     void addConsist(const std::string& file, const std::string& name, const std::string& engine,
                     int engines = 1) {
@@ -51,8 +51,8 @@ class OpenWindowTest : public ::testing::Test, protected TestFrame {
                            name + "\" )\r\n";
         for (int i = 0; i < engines; ++i)
             text += "Engine (\r\nEngineData ( " + engine + " Parc )\r\n)\r\n";
-        files.put(consistsPath(state.RootMSTS) + file, encodeConsist(text + ")\r\n)\r\n"));
-        catalogue.ConsistFiles.push_back(file);
+        files.put(consistsPath(state.roots.RootMSTS) + file, encodeConsist(text + ")\r\n)\r\n"));
+        catalogue.here().ConsistFiles.push_back(file);
     }
     void addMany(int count) {
         for (int i = 0; i < count; ++i)
@@ -105,7 +105,7 @@ class OpenWindowTest : public ::testing::Test, protected TestFrame {
         const QPoint at(header.sectionViewportPosition(column) + 20, header.height() / 2);
         QTest::mouseClick(header.viewport(), Qt::LeftButton, {}, at);
     }
-    std::string pathOf(const char* file) const { return consistsPath(state.RootMSTS) + file; }
+    std::string pathOf(const char* file) const { return consistsPath(state.roots.RootMSTS) + file; }
 };
 
 TEST_F(OpenWindowTest, TheListTellsEverythingOfEachConsist) {
@@ -211,7 +211,7 @@ TEST_F(OpenWindowTest, CancellingLosesNothing) {
 }
 
 TEST_F(OpenWindowTest, WithoutConsistsThereIsNothingToOpen) {
-    catalogue.ConsistFiles.assign(1, {});
+    catalogue.here().ConsistFiles.clear();
     show();
     EXPECT_EQ(label(), frame.text(Message::OpenNone));
     QTest::mouseClick(&get<QPushButton>("cmdOPEN"), Qt::LeftButton);
@@ -296,7 +296,7 @@ TEST_F(OpenWindowTest, TheReadingEndsAtOnceWhenTheUserCancelsIt) {
         EXPECT_EQ(window->exec(), QDialog::Rejected);
         EXPECT_LT(files.log.size(), 300u);
         EXPECT_TRUE(opened.empty());
-        EXPECT_FALSE(catalogue.summariesRead);
+        EXPECT_FALSE(catalogue.here().summariesRead);
         EXPECT_EQ(list().model()->rowCount(), 0);
     }
     show();

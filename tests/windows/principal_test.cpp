@@ -114,11 +114,11 @@ TEST_F(WindowTest, ColumnClicksTurnTheOrderRoundAndKeepTheSelection) {
 }
 
 TEST_F(WindowTest, NamesStandInTheOrderOfTheLanguage) {
-    const Materiel sample = catalogue.Materiels[stockIndex("BB 9288")];
-    catalogue.Materiels.clear();
+    const Materiel sample = catalogue.here().Materiels[stockIndex("BB 9288")];
+    catalogue.here().Materiels.clear();
     for (const char* name : {"BB 10", "bb 9", "Zug", "Nz", "Ña", "élan", "Elm", "Ela", "BB 9", "BB 007"}) {
-        catalogue.Materiels.push_back(sample);
-        catalogue.Materiels.back().EngineName = name;
+        catalogue.here().Materiels.push_back(sample);
+        catalogue.here().Materiels.back().EngineName = name;
     }
     window->chooseLanguage("English");
     window->fillStockList();
@@ -429,7 +429,7 @@ TEST_F(WindowTest, ControlSWritesTheConsist) {
     window->activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
     QTest::keyClick(window.get(), Qt::Key_S, Qt::ControlModifier);
-    const auto bytes = test.files.get(consistsPath(state.RootMSTS) + "Corail.con");
+    const auto bytes = test.files.get(consistsPath(state.roots.RootMSTS) + "Corail.con");
     ASSERT_TRUE(bytes);
     std::string text;
     decodeSimulatorText(*bytes, text);
@@ -451,7 +451,7 @@ TEST_F(WindowTest, NewAsksFirstAndEmptiesTheStrip) {
 }
 
 TEST_F(WindowTest, OpenShowsTheConsistAndItsDoubleNameInRed) {
-    const std::string path = consistsPath(state.RootMSTS) + "other.con";
+    const std::string path = consistsPath(state.roots.RootMSTS) + "other.con";
     test.files.put(
         path, encodeConsist(std::string(ConsistSignature) +
                             "\r\nTrain (\r\nTrainCfg ( inside\r\nName ( \"Full name\" )\r\n"
@@ -475,7 +475,7 @@ TEST_F(WindowTest, OpenShowsTheConsistAndItsDoubleNameInRed) {
 }
 
 TEST_F(WindowTest, ACancelledOpenChangesNothing) {
-    test.files.put(consistsPath(state.RootMSTS) + "a.con", "");
+    test.files.put(consistsPath(state.roots.RootMSTS) + "a.con", "");
     LoadCatalogue(test.frame, catalogue);
     build({"BB 9288"});
     state.HasFile = true;
@@ -495,7 +495,7 @@ TEST_F(WindowTest, CloseWaitsForASaveThatDidNotHappen) {
     test.dialogs.answers = {answer::No};
     press("cmdCANCEL");
     EXPECT_FALSE(window->isVisible());
-    EXPECT_EQ(test.setting("InstallDir"), state.RootMSTS);
+    EXPECT_EQ(test.setting("InstallDir"), state.roots.RootMSTS);
 }
 
 TEST_F(WindowTest, TheNumberButtonRenumbersOnce) {

@@ -33,7 +33,7 @@ inline QImage withoutLetters(std::vector<StripStep> steps, PictureStore& picture
 class DemoStrip {
   public:
     DemoStrip() {
-        test.state.RootMSTS = test.state.RootPrimary = "C:\\MSTS";
+        test.state.roots.RootMSTS = "C:\\MSTS";
         putFolder(std::string(ZANDOR_SOURCE_DIR) + "/demo/Train Simulator", "C:\\MSTS\\");
     }
     // Thumbnails of a folder of this machine's disk.
@@ -46,7 +46,7 @@ class DemoStrip {
         LoadCatalogue(test.frame, catalogue_, ReadOnlyLoad);
         initialiseDocument(editor_);
         document_.controls.viewWidth = 1; // the picture is as wide as the strip makes it
-        EXPECT_TRUE(openConsist(editor_, consistsPath(test.state.RootMSTS) + std::string(consist)));
+        EXPECT_TRUE(openConsist(editor_, consistsPath(test.state.roots.RootMSTS) + std::string(consist)));
         return withoutLetters(DrawStrip(editor_, pictures_, NoLetters()), pictures_);
     }
     const ConsistDocument& document() const { return document_; }

@@ -299,12 +299,12 @@ TEST(DemoStripTest, AConsistOfTheDemonstrationIsDrawnWhole) {
 }
 
 TEST_F(WindowTest, TenThousandRowsAreListed) {
-    const Materiel sample = catalogue.Materiels[stockIndex("BB 9288")];
+    const Materiel sample = catalogue.here().Materiels[stockIndex("BB 9288")];
     for (int i = 0; i < 10000; ++i) {
         Materiel copy = sample;
         copy.FileName = "copy" + std::to_string(i) + ".eng";
         copy.EngineName = "Copie " + std::to_string((i * 7919) % 10000);
-        catalogue.Materiels.push_back(std::move(copy));
+        catalogue.here().Materiels.push_back(std::move(copy));
     }
     window->fillStockList();
     EXPECT_EQ(list().model()->rowCount(), 10002);

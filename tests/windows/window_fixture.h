@@ -63,13 +63,13 @@ struct WindowTest : ::testing::Test {
     std::unique_ptr<frmPrincipal> window;
 
     WindowTest() {
-        state.RootMSTS = state.RootPrimary = "C:\\MSTS";
+        state.roots.RootMSTS = "C:\\MSTS";
         state.PrintName = state.PrintGreen = state.Optimize = true;
         test.set("NewFile", "0");
         for (const StockSample& sample : Samples)
-            test.files.put(trainsetPath(state.RootMSTS) + sample.folder + "\\" + sample.file,
+            test.files.put(trainsetPath(state.roots.RootMSTS) + sample.folder + "\\" + sample.file,
                            stockText(sample));
-        test.files.put(consistsPath(state.RootMSTS) + "empty.txt", "");
+        test.files.put(consistsPath(state.roots.RootMSTS) + "empty.txt", "");
         LoadCatalogue(test.frame, catalogue);
         initialiseDocument(editor);
         window = std::make_unique<frmPrincipal>(editor);
@@ -90,8 +90,8 @@ struct WindowTest : ::testing::Test {
     void press(const char* button) { QTest::mouseClick(&get<QPushButton>(button), Qt::LeftButton); }
 
     int stockIndex(std::string_view name) const {
-        for (std::size_t i = 0; i < catalogue.Materiels.size(); ++i)
-            if (shownName(catalogue.Materiels[i]) == name)
+        for (std::size_t i = 0; i < catalogue.here().Materiels.size(); ++i)
+            if (shownName(catalogue.here().Materiels[i]) == name)
                 return static_cast<int>(i);
         ADD_FAILURE() << "no stock " << name;
         return -1;

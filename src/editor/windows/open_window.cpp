@@ -140,7 +140,7 @@ void frmOpen::done(int result) {
 void frmOpen::showList() {
     if (ended_)
         return;
-    model_->setRows(catalogue_.ConsistSummaries, FillConsistList(catalogue_));
+    model_->setRows(catalogue_.here().ConsistSummaries, FillConsistList(catalogue_));
     ProgressBar1_->hide();
     sizeColumns();
     showCounts();
@@ -200,7 +200,7 @@ void frmOpen::OpenSelectedConsist() {
     if (!row.isValid())
         return;
     const QString file = row.siblingAtColumn(OpenModel::FileColumn).data().toString();
-    if (open_(consistsPath(frame_.state.RootPrimary) + fromQt(file)))
+    if (open_(consistsPath(frame_.state.roots.RootPrimary()) + fromQt(file)))
         accept();
 }
 

@@ -51,8 +51,8 @@ constexpr int RepaintEvery = 1000; // ms: Timer1
 
 const Materiel* materielOfKey(const Catalogue& catalogue, const QString& key) {
     const int index = indexOfKey(fromQt(key));
-    const bool known = index >= 0 && index < static_cast<int>(catalogue.Materiels.size());
-    return known ? &catalogue.Materiels[index] : nullptr;
+    const bool known = index >= 0 && index < static_cast<int>(catalogue.here().Materiels.size());
+    return known ? &catalogue.here().Materiels[index] : nullptr;
 }
 
 constexpr const char *PlaceSection = "Window", *PlacePrefix = "Main"; // in the settings
@@ -290,11 +290,11 @@ bool frmPrincipal::openFile(const std::string& path) {
     const BusyPointer busy;
     const frmLoading loading(toQt(editor_.frame.text(Message::OpeningConsist, {{"|1", GetFileName(path)}})),
                              parentOfDialogs());
-    const std::size_t known = editor_.catalogue.Materiels.size();
+    const std::size_t known = editor_.catalogue.here().Materiels.size();
     const bool opened = openConsist(editor_, path);
     if (opened)
         selectVehicule(editor_.document, 0);
-    if (editor_.catalogue.Materiels.size() != known) { // stock that came since the load
+    if (editor_.catalogue.here().Materiels.size() != known) { // stock that came since the load
         const QString key = controls_.lstViewMATERIEL->currentKey();
         fillStockList();
         controls_.lstViewMATERIEL->selectKey(key);
@@ -458,9 +458,9 @@ void frmPrincipal::lookUp(int materielIndex) {
         c.picPREVIEW->clear();
         return sayNotInList();
     }
-    if (materielIndex >= static_cast<int>(editor_.catalogue.Materiels.size()))
+    if (materielIndex >= static_cast<int>(editor_.catalogue.here().Materiels.size()))
         return;
-    const int stockClass = stockClassOf(editor_.catalogue.Materiels[materielIndex]);
+    const int stockClass = stockClassOf(editor_.catalogue.here().Materiels[materielIndex]);
     if (stockClass < 0)
         return sayNotInList();
     c.cmbMATERIEL->setCurrentIndex(stockClass);

@@ -31,9 +31,9 @@ frmProgress::frmProgress(Frame& frame, QWidget* parent)
     : QDialog(parent), state_(frame.state), text_(new ElidedLabel(this, Qt::ElideMiddle)),
       bar_(new ProgressBar(this)) {
     setObjectName("frmProgress");
-    setWindowTitle(
-        toQt(frame.text(Message::ProgressTitle, {{"|1", frame.state.Title},
-                                                 {"|2", frame.files.nativePath(frame.state.RootPrimary)}})));
+    setWindowTitle(toQt(frame.text(
+        Message::ProgressTitle,
+        {{"|1", frame.state.Title}, {"|2", frame.files.nativePath(frame.state.roots.RootPrimary())}})));
     setModal(true);
     setHelpContext(*this, helpContext::Stock);
     setCursor(Qt::WaitCursor);

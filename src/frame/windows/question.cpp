@@ -15,11 +15,12 @@ namespace zandor {
 namespace {
 
 std::string questionText(const Frame& frame) {
-    return frame.text(Message::AskOtherRoot, {{"|1", frame.state.Title},
-                                              {"|2", frame.files.nativePath(frame.state.RootSecondary)},
-                                              {"|3", "\n"},
-                                              {"|4", "\n"},
-                                              {"|5", "\n"}});
+    return frame.text(Message::AskOtherRoot,
+                      {{"|1", frame.state.Title},
+                       {"|2", frame.files.nativePath(frame.state.roots.RootSecondary())},
+                       {"|3", "\n"},
+                       {"|4", "\n"},
+                       {"|5", "\n"}});
 }
 
 } // namespace
