@@ -159,15 +159,6 @@ TEST_F(CatalogueTest, LoadStopsAtOnceWhenTheUserEndsIt) {
     EXPECT_EQ(progressShown().back(), "0-2:1 reading b.wag");
 }
 
-TEST_F(CatalogueTest, TheListingOfFoldersStopsAtOnceWhenTheUserEndsIt) {
-    putStock("A\\a.wag", WagonBody);
-    putStock("B\\b.wag", WagonBody);
-    progress.cancelAtYield = progress.yields + 4;
-    EXPECT_FALSE(LoadCatalogue(frame, catalogue));
-    EXPECT_EQ(stockNames(), Names{"A\\a.wag"});
-    EXPECT_FALSE(state.Busy);
-}
-
 TEST_F(CatalogueTest, ScanOfConsistsStopsAtOnceWhenTheUserEndsIt) {
     putStock("Parc\\a.wag", WagonBody);
     putConsist("a.con", "a", {"WagonData ( a Parc )"});

@@ -242,16 +242,5 @@ TEST_F(PicturesTest, TheFolderIsMadeUnlessItIsToBeLeftAlone) {
     }
 }
 
-TEST_F(PicturesTest, AFailingDiskLeavesTheTypeAtWorst) {
-    for (int call = 1; call < 8; ++call) {
-        putThumbnail("voit", 90);
-        Materiel materiel = stock("voit.wag");
-        files.failAt(call, true);
-        EXPECT_TRUE(load(materiel).found()) << call;
-        files.failAt(0);
-        EXPECT_TRUE(load(materiel).found()) << call;
-    }
-}
-
 } // namespace
 } // namespace zandor

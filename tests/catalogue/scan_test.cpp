@@ -126,20 +126,6 @@ TEST_F(CatalogueTest, StockUseIsFoundInAnyCaseTheFirstRecordFirst) {
     EXPECT_NE(findStockUse(catalogue, "éTÉ", "œuvre.WAG"), nullptr);
 }
 
-TEST_F(CatalogueTest, EveryOneOfThousandsOfStockUsesIsFoundInTheOrderOfItsSpellings) {
-    const auto name = [](int number) { return "wagon" + std::to_string(number) + ".wag"; };
-    for (int number = 0; number < 3000; ++number)
-        for (const char* folder : {"Parc", "PARC"})
-            appendStockUse(catalogue, folder, name(number), number);
-    for (int number = 0; number < 3000; ++number) {
-        const StockUse* use = findStockUse(catalogue, "parc", name(number));
-        ASSERT_NE(use, nullptr) << number;
-        EXPECT_EQ(use->Folder, "Parc") << number;
-        EXPECT_EQ(use->Count, number);
-    }
-    EXPECT_EQ(findStockUse(catalogue, "parc", name(3000)), nullptr);
-}
-
 TEST(MaterielFinderTest, FindsTheFirstOfANameInAnyCase) {
     std::vector<Materiel> materiels(4);
     const auto name = [&](int i, const char* folder, const char* file) {

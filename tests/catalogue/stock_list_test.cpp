@@ -72,15 +72,13 @@ TEST_F(StockListTest, AnUnknownBrakeOrCouplingRepeatsTheIconBeforeIt) {
         added.Coupling = c.coupling;
     }
     const auto rows = FillStockList(state, catalogue, 4, false);
-    std::size_t next = 0;
-    for (const Case& c : cases) {
-        if (std::string_view(c.type) != "Freight")
-            continue;
-        ASSERT_LT(next, rows.size());
-        EXPECT_EQ(rows[next].brakeIcon, c.brakeIcon) << next;
-        EXPECT_EQ(rows[next].couplingIcon, c.couplingIcon) << next;
-        ++next;
-    }
+    auto row = rows.begin();
+    for (const Case& c : cases)
+        if (std::string_view(c.type) == "Freight") {
+            ASSERT_NE(row, rows.end());
+            EXPECT_EQ(row->brakeIcon, c.brakeIcon) << c.brakes;
+            EXPECT_EQ((row++)->couplingIcon, c.couplingIcon) << c.coupling;
+        }
     add("b.wag", "Carriage").Coupling = "bar";
     EXPECT_EQ(FillStockList(state, catalogue, 3, false)[0].couplingIcon, 0) << "carriages list no coupling";
 }

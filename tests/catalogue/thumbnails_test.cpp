@@ -99,15 +99,6 @@ TEST_F(ThumbnailsTest, OneMessageTellsWhatWasMoved) {
     }
 }
 
-TEST_F(ThumbnailsTest, ProgressNamesEachStep) {
-    putStock("Parc\\a.wag");
-    putThumbnails(Folder, {"a", "x"});
-    ControlThumbnails(frame, catalogue);
-    EXPECT_EQ(progressShown(),
-              (Names{"0-255:0 names... Train Simulator", "0-0:0 engines", "0-0:0 wagons",
-                     "0-255:0 names... Train Store", "0-0:0 T checks", "0-1:0 T checks", "0-1:1 T checks"}));
-}
-
 TEST_F(ThumbnailsTest, NoFailureOfTheDiskLosesAThumbnail) {
     for (bool allAfter : {false, true})
         for (int call = 1;; ++call) {
@@ -133,14 +124,6 @@ TEST_F(ThumbnailsTest, NoFailureOfTheDiskLosesAThumbnail) {
             if (!failed)
                 break;
         }
-}
-
-TEST_F(ThumbnailsTest, AFolderThatCannotBeMadeIsToldOnce) {
-    files.put("\\program\\Unusable_Thumbnails", "a file of this name");
-    putThumbnails(Folder, {"x", "y"});
-    EXPECT_TRUE(ControlThumbnails(frame, catalogue));
-    EXPECT_EQ(messagesShown(), Names{"48 failed " + std::string(Unusable)});
-    EXPECT_EQ(thumbnails(Folder), (Names{"x", "y"}));
 }
 
 TEST_F(ThumbnailsTest, NothingIsMovedOnceTheUserHasEndedIt) {

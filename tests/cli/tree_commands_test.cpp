@@ -1,6 +1,5 @@
 // The commands that work on a simulator folder.
 #include "cli_fixture.h"
-#include "support/bitmaps.h"
 
 namespace zandor {
 namespace {
@@ -38,15 +37,6 @@ TEST_F(TreeCommands, CatalogueListsItsArraysAlsoWhenTheSettingsLeaveUseAlone) {
     EXPECT_EQ(lists["consistIndex"][0]["DisplayName"], "local in full");
     EXPECT_EQ(lists["consistIndex"][0]["Items"][1],
               json::parse(R"({"FileName":"First Class.wag","Folder":"Old Coaches"})"));
-}
-
-TEST_F(TreeCommands, CatalogueRewritesNothing) {
-    const std::string file = stockPath("Old Coaches/First Class.wag");
-    putSim(file, "Wagon ( W\r\n Name ( \"One\" )\r\n Name ( \"Two\" )\r\n Type ( Carriage )\r\n"
-                 " Size ( 1m 1m 1m )\r\n Mass ( 1t )\r\n Coupling (\r\n  Type ( Bar )\r\n )\r\n)\r\n");
-    const std::string before = bytesOf(file);
-    EXPECT_EQ(runOnTree({"catalogue"}).exitCode, 0);
-    EXPECT_EQ(bytesOf(file), before);
 }
 
 TEST_F(TreeCommands, RootsComeFromTheOptionsTheSettingsOrTheRegistry) {
@@ -244,31 +234,6 @@ TEST_F(TreeCommands, OpenShowsMissingStockAndFails) {
     EXPECT_EQ(vehicle["file"], "Loco.eng");
     EXPECT_EQ(vehicle["folder"], "Diesels");
     EXPECT_EQ(ran.json()["totals"]["missing"], 1);
-}
-
-TEST_F(TreeCommands, OpenOfWhatIsNoConsistIsAFault) {
-    putBytes(consistPath("garbage.con"), "not of the simulator");
-    const Ran ran = runOnTree({"open", "garbage"});
-    EXPECT_EQ(ran.exitCode, 1);
-    EXPECT_EQ(ran.out, "");
-    EXPECT_TRUE(isOneLine(ran.err)) << ran.err;
-}
-
-TEST_F(TreeCommands, ThumbnailsAndTheirListCountButNothingIsWrittenBesideTheProgram) {
-    putSettings("ControlThumbnails=1\r\n");
-    putBytes(at("home/Thumbnails/First.bmp"), makeBitmap(50, 96));
-    putBytes(at("home/Thumbnails/loco.bmp"), makeBitmap(300, 96));
-    for (const bool listed : {false, true}) {
-        if (listed)
-            putBytes(at("home/Thumbnails/Bitmaps.ini"), "First\r\n");
-        EXPECT_EQ(runOnTree({"open", "local"}).json()["totals"]["width"], 300 + (listed ? 50 : 121));
-    }
-    std::filesystem::remove_all(at("home/Thumbnails"));
-    EXPECT_EQ(runOnTree({"catalogue"}).exitCode, 0);
-    EXPECT_EQ(runOnTree({"compose", "new", "Diesels/Loco"}).exitCode, 0);
-    EXPECT_EQ(runOnTree({"open", "local"}).exitCode, 0);
-    EXPECT_FALSE(std::filesystem::exists(at("home/Thumbnails")));
-    EXPECT_FALSE(std::filesystem::exists(at("home/Unusable_Thumbnails")));
 }
 
 } // namespace

@@ -146,34 +146,6 @@ TEST_F(SummariesTest, AFileThatCannotBeReadIsListedLikeAnEmptyConsist) {
     EXPECT_EQ(shown(), Shown{});
 }
 
-TEST_F(SummariesTest, ARootWithoutConsistsHasNoRow) {
-    EXPECT_TRUE(BuildConsistSummaries(frame, catalogue, progress));
-    EXPECT_TRUE(progress.steps.empty());
-    EXPECT_EQ(listed(), Shown{});
-    EXPECT_TRUE(catalogue.here().summariesRead);
-}
-
-TEST_F(SummariesTest, ProgressIsShownFileByFile) {
-    putTrain("a", {"E"});
-    putTrain("b", {"E"});
-    BuildConsistSummaries(frame, catalogue, progress);
-    ASSERT_EQ(progress.steps.size(), 2u);
-    EXPECT_EQ(progress.steps[1].text, "reading   b.con");
-    EXPECT_EQ(progress.steps[1].current, progress.steps[1].upper);
-}
-
-TEST_F(SummariesTest, TheConsistUnderEditIsLeftAlone) {
-    compose("ab");
-    nameConsist("Mine");
-    state.HasFile = true;
-    putTrain("train", {"E"});
-    BuildConsistSummaries(frame, catalogue, progress);
-    EXPECT_EQ(order(), "ab");
-    EXPECT_EQ(controls.fullName, "Mine");
-    EXPECT_EQ(document.rame.Name, "");
-    EXPECT_TRUE(state.HasFile);
-}
-
 // ---- the table
 
 TEST_F(SummariesTest, TheConsistsAreReadOnceForEachLoad) {

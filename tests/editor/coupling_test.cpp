@@ -34,14 +34,6 @@ TEST(CouplingRule, NeedsOneTypeInCommon) {
     }
 }
 
-TEST(CouplingRule, KnownTypesHaveAnImage) {
-    EXPECT_EQ(CouplingImageName("Chain_BAR"), "CHAIN_BAR");
-    EXPECT_EQ(CouplingImageName("hydraulic"), "HYDRO");
-    EXPECT_EQ(CouplingImageName("automatic_hydraulic"), "AUTO_HYDRO");
-    for (const char* other : {"", "bar_bar", "scharfenberg", "chain_"})
-        EXPECT_EQ(CouplingImageName(other), "") << other;
-}
-
 class CouplingTest : public EditorTest {
   protected:
     int chain = addStock("c.wag", "chain"), bar = addStock("b.wag", "bar"),
@@ -59,13 +51,6 @@ class CouplingTest : public EditorTest {
                std::to_string(document.StripWidth) + (state.Modified ? " modified" : "") + controls.totals;
     }
 };
-
-TEST_F(CouplingTest, ABadPairIsToldAndAccepted) {
-    strip({chain});
-    EXPECT_TRUE(appendStock(editor, bar));
-    EXPECT_EQ(shown(), Shown{"48 misfit"});
-    EXPECT_EQ(order(), "cb");
-}
 
 TEST_F(CouplingTest, WithoutAnAlertNothingIsRefused) {
     strip({chain});
@@ -89,16 +74,6 @@ TEST_F(CouplingTest, ARefusalLeavesEverythingAsItIs) {
     EXPECT_EQ(everything(), before);
     EXPECT_EQ(shown(), (Shown{"48 misfit", "48 misfit", "48 misfit"}));
     EXPECT_FALSE(document.DragActive || document.StripPressed);
-}
-
-TEST_F(CouplingTest, AVehicleBetweenOthersIsCheckedOnBothSides) {
-    strip({both, bar});
-    state.PassIsBadCoupling = true;
-    dragOverStrip(editor, middleOf(1), 10);
-    EXPECT_FALSE(dropStock(editor, chain)) << "fits on the left alone";
-    dragOverStrip(editor, middleOf(0), 10);
-    EXPECT_TRUE(dropStock(editor, chain)) << "at the front the neighbour alone counts";
-    EXPECT_EQ(order(), "cxb");
 }
 
 TEST_F(CouplingTest, AMoveIsCheckedWhereTheVehicleComesToStand) {

@@ -70,15 +70,6 @@ TEST_F(OpenTest, WhatIsSavedIsWhatWasRead) {
     EXPECT_FALSE(catalogue.here().ConsistSummaries.back().Complete);
 }
 
-TEST_F(OpenTest, AMissingVehicleTakesANewNumberWithItsOldLines) {
-    putConsist("mixed.con", Vehicles);
-    open("mixed.con");
-    numberButtonPressed(editor);
-    SaveFileRame(editor);
-    EXPECT_NE(savedText("mixed.con").find("UiD ( 1 )\r\n\t\t\tEngineData ( Gone \"Old Parc\" )"),
-              std::string::npos);
-}
-
 TEST_F(OpenTest, AFileNamedOtherwiseShowsBothNamesAndKeepsThem) {
     const std::string longName(35, 'L');
     struct Case {
@@ -190,13 +181,6 @@ TEST_F(OpenTest, VehiclesBehindAStrayBracketAreToldAndNotLostUnasked) {
     }
 }
 
-TEST_F(OpenTest, AConsistWithoutVehiclesOpensEmpty) {
-    putConsist("none.con", "Train (\r\nTrainCfg ( \r\n)\r\n)\r\n");
-    ASSERT_TRUE(open("none.con"));
-    EXPECT_TRUE(state.HasFile);
-    EXPECT_FALSE(hasVehicles(document));
-}
-
 TEST_F(OpenTest, StockThatCameAfterTheLoadIsAddedAtTheEnd) {
     files.put(trainsetPath(Simulator) + "Parc\\late.eng",
               std::string(ConsistSignature) +
@@ -306,13 +290,6 @@ TEST_F(OpenTest, VehiclesAreAsWideAsTheirPictures) {
     EXPECT_TRUE(document.Vehicules[1].ImageIsResource);
     EXPECT_TRUE(appendStock(editor, loco));
     EXPECT_EQ(document.StripWidth, 400 + 2 * PlainPictureWidth);
-}
-
-TEST_F(StoreTest, StockOfTheSimulatorHasItsThumbnailToo) {
-    files.put("\\program\\Thumbnails\\Wag1.bmp", makeBitmap(64, 96));
-    ASSERT_TRUE(open("mixed.con"));
-    EXPECT_TRUE(document.Vehicules[2].FromSimulator);
-    EXPECT_EQ(document.Vehicules[2].Width, 64);
 }
 
 } // namespace

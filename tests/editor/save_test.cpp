@@ -134,20 +134,6 @@ TEST_F(SaveTest, StockThatNoFileCanHoldIsRefusedByItsName) {
     }
 }
 
-TEST_F(SaveTest, BlanksAndBracketsInNamesAreQuotedOnceHoweverOftenItIsSaved) {
-    appendStock(editor, addStock("My Wagon.wag", "", "My Folder"));
-    nameConsist("My Train");
-    for (int i = 0; i < 2; ++i) {
-        dialogs.shown.clear();
-        SaveFileRame(editor);
-        EXPECT_EQ(shown().size(), 1u);
-        EXPECT_TRUE(shown()[0].starts_with("64 saved")) << shown()[0];
-        EXPECT_TRUE(savedHas("My Train.con", "TrainCfg ( \"My Train\""));
-        EXPECT_TRUE(savedHas("My Train.con", "WagonData ( \"My Wagon\" \"My Folder\" )"));
-        EXPECT_EQ(controls.shortName, "My Train");
-    }
-}
-
 TEST_F(SaveTest, MaxVelocityFollowsTheEngine) {
     appendStock(editor, wagon);
     nameConsist("v");
@@ -250,16 +236,6 @@ TEST_F(SaveTest, AnotherNameMakesAnotherFile) {
     SaveFileRame(editor);
     EXPECT_EQ(files.get(consistPath("Test.con")), first);
     EXPECT_TRUE(savedHas("Second.con", "TrainCfg ( Second"));
-}
-
-TEST_F(SaveTest, WithoutItsRootNothingIsCreated) {
-    state.roots.RootMSTS = "D:\\Gone";
-    composeExample();
-    const auto before = files.allFiles();
-    SaveFileRame(editor);
-    EXPECT_TRUE(state.Modified && controls.saveEnabled);
-    EXPECT_EQ(files.allFiles(), before);
-    EXPECT_EQ(shown(), Shown{"48 failed " + files.nativePath("D:\\Gone\\TRAINS\\CONSISTS\\Test.con")});
 }
 
 TEST_F(SaveTest, ACloseWaitsForASaveThatFails) {

@@ -42,11 +42,6 @@ TEST_F(StockUseTest, CountsFollowTheDifferenceOfTheLists) {
     }
 }
 
-TEST_F(StockUseTest, StockUnknownSoFarGetsARecord) {
-    use({}, {a, a, b}, false);
-    EXPECT_EQ(counts(), "a.wag 2 b.wag 1 ");
-}
-
 TEST_F(StockUseTest, TheIndexHoldsOneEntryAFile) {
     catalogue.ConsistIndex[0] = {"A.CON", "Old", "c:\\msts\\trains\\consists\\", {b}, false};
     catalogue.ConsistIndex.push_back({"a.con", "Other root", "C:\\Store\\TRAINS\\CONSISTS\\", {b}, false});

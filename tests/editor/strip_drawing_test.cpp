@@ -63,10 +63,6 @@ class StripDrawingTest : public EditorTest {
     }
 };
 
-TEST_F(StripDrawingTest, AnEmptyStripIsPlain) {
-    EXPECT_EQ(draw(), (std::vector<StripStep>{SizeStrip{800}, ClearStrip{StripSky}}));
-}
-
 TEST_F(StripDrawingTest, EverythingOfAConsistHasItsPlace) {
     state.PrintName = true;
     add("Loco", "w200", "air_piped", "chain").Flipped = true;
@@ -147,39 +143,6 @@ TEST_F(StripDrawingTest, ThePictureGrowsWithTheStripUpToItsLimit) {
     }
 }
 
-TEST_F(StripDrawingTest, TheVehicleUnderThePointerIsOutlinedDuringADrag) {
-    for (const char* name : {"A", "B", "C"})
-        add(name);
-    EXPECT_TRUE(drawn<DrawOutline>().empty());
-    const auto outlineOf = [](int position) {
-        return std::vector{DrawOutline{{position * PlainPictureWidth, 0, PlainPictureWidth, 96}, 3, Yellow}};
-    };
-    pressStrip(editor, middleOf(1), 10);
-    EXPECT_EQ(drawn<DrawOutline>(), outlineOf(1));
-    dragOverStrip(editor, middleOf(2), 10);
-    EXPECT_EQ(drawn<DrawOutline>(), outlineOf(2));
-    clearDrag(document);
-    EXPECT_TRUE(drawn<DrawOutline>().empty());
-}
-
-TEST_F(StripDrawingTest, TheArrowStaysOnItsPicture) {
-    struct Case {
-        const char* picture;
-        std::size_t strokes;
-        std::vector<FillBar> bar;
-    };
-    for (const Case& c : {Case{"w42", 3, {FillBar{{100, 10, 25, 2}, Green}}},
-                          Case{"w30", 3, {FillBar{{100, 10, 13, 2}, Green}}},
-                          Case{"w18", 0, {FillBar{{100, 10, 1, 2}, Green}}}, Case{"w10", 0, {}}}) {
-        newConsist(editor);
-        add("A", "w100");
-        add("B", c.picture).Flipped = true;
-        EXPECT_EQ(drawn<DrawLine>().size(), c.strokes) << c.picture;
-        EXPECT_EQ(drawn<FillBar>(), c.bar) << c.picture;
-        state.Modified = false;
-    }
-}
-
 TEST_F(StripDrawingTest, AMissingVehicleIsToldAndHasNoBrakes) {
     files.put(state.LanguagePath, "[English]\r\n444=not found\r\n");
     state.PrintName = true;
@@ -219,12 +182,6 @@ TEST_F(StripDrawingTest, NamesAreCutFromTheRight) {
           Case{"Wagon", 25, ""}, Case{"Wagon", 20, ""}, Case{"Wagon", 0, ""}, Case{"", 50, ""},
           Case{"Été à l'est", 44, "Été "}, Case{"Été à l'est", 26, "É"}, Case{"€€€", 37, "€€"}})
         EXPECT_EQ(fittingName(c.name, letters, c.width), c.result) << c.name << " in " << c.width;
-}
-
-TEST_F(StripDrawingTest, ANameThatIsCutAwayIsNotPrinted) {
-    state.PrintName = true;
-    add("Wagon", "w22");
-    EXPECT_EQ(drawn<PrintText>().size(), 1u);
 }
 
 TEST_F(StripDrawingTest, BarsTellTheBrakeSystem) {

@@ -67,21 +67,6 @@ TEST_F(SelectionTest, StaysOnItsVehicleWhateverTheMouseDoes) {
     EXPECT_FALSE(state.Modified);
 }
 
-TEST_F(SelectionTest, RefusesWhatDoesNotFit) {
-    initialiseDocument(editor);
-    addStock("p.wag", "chain");
-    addStock("q.wag", "bar");
-    state.NoAlertCoupling = true;
-    compose("pq");
-    state.NoAlertCoupling = false;
-    state.PassIsBadCoupling = true;
-    selectVehicule(document, 0);
-    EXPECT_FALSE(moveSelected(editor, 1));
-    EXPECT_EQ(order(), "pq");
-    EXPECT_EQ(selected(), "p");
-    EXPECT_EQ(shown(), Shown{"48 misfit"});
-}
-
 TEST_F(SelectionTest, FlipsScrollsAndTells) {
     files.put(state.LanguagePath,
               "[English]\r\n86=|1/|2 |3 |4\r\n87=|1/|2 |3 |4 flipped\r\n88=|1 missing\r\n89=none\r\n");

@@ -26,14 +26,6 @@ TEST_F(StripTest, StockIsPutWhereItIsDropped) {
     }
 }
 
-TEST_F(StripTest, TheFirstVehicleComesOntoTheEmptyStrip) {
-    dragOverStrip(editor, 400, 50);
-    EXPECT_FALSE(dropMarkPosition(document));
-    EXPECT_TRUE(dropStock(editor, stockOf('A')));
-    EXPECT_EQ(order(), "A");
-    EXPECT_TRUE(controls.numberEnabled);
-}
-
 TEST_F(StripTest, WhatIsNotInTheCatalogueIsNotDropped) {
     compose("A");
     for (int index : {-1, 1, 4711})
@@ -189,14 +181,6 @@ TEST_F(StripTest, AppendingScrollsToTheEndAndInsertingStays) {
     EXPECT_EQ(controls.scrollValue, 0);
 }
 
-TEST_F(StripTest, AVeryLongStripScrollsAsFarAsItsPictureReaches) {
-    compose(std::string(140, 'A'));
-    const int reached = 134 * PlainPictureWidth + 150; // the most that stays under 16384
-    EXPECT_EQ(controls.scrollMaximum, reached - controls.viewWidth);
-    EXPECT_EQ(controls.scrollSmallStep, controls.scrollMaximum / 20);
-    EXPECT_EQ(controls.scrollLargeStep, controls.viewWidth);
-}
-
 TEST_F(StripTest, ThatTheEndIsOutOfSightIsToldOnce) {
     controls.viewWidth = 0; // no window shows it
     compose(std::string(140, 'A'));
@@ -265,13 +249,6 @@ TEST_F(StripTest, AFullStripTakesNoMore) {
     EXPECT_FALSE(appendStock(editor, stockOf('A')));
     EXPECT_EQ(vehicleCount(document), MaxEntries);
     EXPECT_EQ(shown(), Shown{"48 limit 32766 in long"});
-}
-
-TEST_F(StripTest, StockWithoutANameShowsItsFile) {
-    catalogue.here().Materiels[static_cast<std::size_t>(stockOf('A'))].EngineName.clear();
-    compose("A");
-    EXPECT_EQ(order(), "A.wag");
-    EXPECT_EQ(vehicleCount(document), 1);
 }
 
 TEST_F(StripTest, TheShortNameHoldsWhatAFileNameCan) {

@@ -30,12 +30,7 @@ TEST(Alert, AStyleIsTakenApartFromItsLargestValueDown) {
         {36 + 256, {6, 7}, 1, AlertIcon::Question, false, answer::No},
         {5, {4, 2}, 0, AlertIcon::None, false, answer::Cancel},
         {16384 + 4, {6, 7}, 0, AlertIcon::None, true, 0},
-        {0x100000 + 0x80000 + 0x10000 + 16384 + 4096 + 512 + 48 + 3,
-         {6, 7, 2},
-         2,
-         AlertIcon::Exclamation,
-         true,
-         answer::Cancel},
+        {0x190000 + 16384 + 4096 + 512 + 48 + 3, {6, 7, 2}, 2, AlertIcon::Exclamation, true, answer::Cancel},
         {768 + 4, {6, 7}, 1, AlertIcon::None, false, answer::No}, // a fourth button that isn't there
     };
     for (const Case& c : cases) {

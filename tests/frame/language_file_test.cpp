@@ -9,7 +9,6 @@
 
 #include <algorithm>
 #include <cctype>
-#include <filesystem>
 #include <map>
 #include <set>
 #include <vector>
@@ -68,16 +67,6 @@ std::set<int> placeholdersOf(const std::string& text) {
     return numbers;
 }
 
-TEST_F(LanguageFile, TheSixLanguagesAreListedWithTheirFlags) {
-    const char* const names[] = {French, "English", "Deutsch", "Italiano", "Español", "Nederlands"};
-    const auto languages = frame.language.ListLanguages();
-    ASSERT_EQ(languages.size(), std::size(names));
-    for (std::size_t i = 0; i < languages.size(); ++i) {
-        EXPECT_EQ(languages[i].name, names[i]);
-        EXPECT_EQ(languages[i].image, static_cast<int>(i) + 1);
-    }
-}
-
 TEST_F(LanguageFile, NoTwoConstantsHaveTheSameNameOrNumber) {
     std::set<std::string> names;
     std::set<int> numbers;
@@ -91,6 +80,7 @@ TEST_F(LanguageFile, NoTwoConstantsHaveTheSameNameOrNumber) {
 
 TEST_F(LanguageFile, EveryMessageHasATextWithTheSamePlaceholdersInEveryLanguage) {
     const auto languages = frame.language.ListLanguages();
+    ASSERT_EQ(languages.size(), 6u);
     for (const auto& [name, number] : constants()) {
         const auto expected = placeholdersOf(textIn(French, Message{number}));
         EXPECT_LT(expected.size(), 10u) << name << ": |10 would be taken for |1";
@@ -132,30 +122,6 @@ TEST_F(LanguageFile, EveryTextIsReadAsItStands) {
     }
 }
 
-TEST_F(LanguageFile, EveryMessageThatTheSourcesNameHasItsText) {
-    const auto known = constants();
-    std::set<std::string> used;
-    const std::string_view mark = "Message::";
-    for (const auto& file : std::filesystem::recursive_directory_iterator(ZANDOR_SOURCE_DIR "/src")) {
-        if (file.path().extension() != ".cpp" && file.path().extension() != ".h")
-            continue;
-        const std::string source =
-            readSourceFile(std::filesystem::relative(file.path(), ZANDOR_SOURCE_DIR).generic_string());
-        for (std::size_t at = source.find(mark); at != std::string::npos; at = source.find(mark, at + 1)) {
-            const auto first = source.begin() + static_cast<std::ptrdiff_t>(at + mark.size());
-            used.emplace(first, std::find_if_not(first, source.end(),
-                                                 [](unsigned char c) { return std::isalnum(c) != 0; }));
-        }
-    }
-    EXPECT_GT(used.size(), 60u) << "the places were not found";
-    for (const std::string& name : used) {
-        const auto row = known.find(name);
-        ASSERT_NE(row, known.end()) << name;
-        for (const LanguageChoice& language : frame.language.ListLanguages())
-            EXPECT_FALSE(textIn(language.name, Message{row->second}).empty()) << language.name << ' ' << name;
-    }
-}
-
 TEST_F(LanguageFile, TheWordBetweenEnginesAndWagonsKeepsItsBlanks) {
     const std::string blank = "\u00A0";
     for (const LanguageChoice& language : frame.language.ListLanguages()) {
@@ -164,24 +130,16 @@ TEST_F(LanguageFile, TheWordBetweenEnginesAndWagonsKeepsItsBlanks) {
     }
 }
 
-TEST_F(LanguageFile, TheTwoCaptionsOfTheVerifyButtonDiffer) {
-    for (const LanguageChoice& language : frame.language.ListLanguages())
-        EXPECT_NE(textIn(language.name, Message::VerifyButton), textIn(language.name, Message::VerifyStop))
-            << language.name;
-}
-
 // ---- the letters that reach a button
 
-constexpr Message MarkedByTheWindow[] = {Message::Cancel, Message::Yes, Message::No, Message::HelpButton};
+constexpr Message MarkedByTheWindow = Message::Cancel;
 
 // Empty when the text has no letter that reaches it.
 std::string letterOf(const std::string& text, Message id) {
     const std::size_t mark = text.find('&');
     if (mark != std::string::npos)
         return lowerCase(text.substr(mark + 1, 1));
-    return std::ranges::find(MarkedByTheWindow, id) != std::end(MarkedByTheWindow)
-               ? lowerCase(text.substr(0, 1))
-               : std::string();
+    return id == MarkedByTheWindow ? lowerCase(text.substr(0, 1)) : std::string();
 }
 
 struct Window {
@@ -195,64 +153,23 @@ const Window Windows[] = {
       Message::CaptionOptions, Message::CaptionHelp, Message::CaptionAbout, Message::CaptionQuit,
       Message::CaptionNumber, Message::CaptionShortName, Message::CaptionFullName, Message::CaptionDurability,
       Message::CaptionStockClass, Message::CaptionVehicle}},
-    {"replace a thumbnail",
-     {Message::ReplaceThis, Message::KeepThis, Message::ReplaceAll, Message::KeepAll, Message::ButtonOk}},
-    {"folders", {Message::FolderDrives, Message::FolderFolders, Message::ButtonOk, Message::Cancel}},
     {"open a consist", {Message::OpenVerb, Message::Cancel}},
-    {"help", {Message::HelpBack, Message::HelpForward, Message::HelpContents, Message::Close}},
     {"menu of the strip",
      {Message::MenuInsertEnd, Message::MenuInsertBefore, Message::MenuMoveLeft, Message::MenuMoveRight,
       Message::MenuFlip, Message::MenuRemove, Message::MenuFindInList, Message::MenuRenumber}},
-    {"verify",
-     {Message::VerifyButton, Message::VerifyStop, Message::TextEditorButton, Message::StockListButton,
-      Message::CaptionHelp, Message::Close}},
-    {"results of verifying",
-     {Message::MoveFileButton, Message::DeleteFileButton, Message::SaveReportButton, Message::StockListButton,
-      Message::CaptionHelp, Message::Close}},
-    {"services",
-     {Message::OpenConsistFileButton, Message::ReplaceConsistButton, Message::StockListButton,
-      Message::CaptionHelp, Message::Close}},
-    {"activities",
-     {Message::ReplaceVehicleButton, Message::StockListButton, Message::CaptionHelp, Message::Close}},
-    {"stock list", {Message::SaveStockList, Message::Close}},
-    {"properties", {Message::ApplyButton, Message::Cancel}},
-    {"description",
-     {Message::PreviousStock, Message::NextStock, Message::CreatePicture, Message::CanvasAbout,
-      Message::Close}},
 };
 
-const Window Alerts[] = {
-    {"OK, Cancel", {Message::ButtonOk, Message::Cancel}},
-    {"Abort, Retry, Ignore", {Message::ButtonAbort, Message::ButtonRetry, Message::ButtonIgnore}},
-    {"Yes, No, Cancel", {Message::Yes, Message::No, Message::Cancel}},
-    {"Retry, Cancel", {Message::ButtonRetry, Message::Cancel}},
-};
-
-struct Letters : LanguageFile {
-    void expectEachItsOwn(const Window& window, const std::string& language) {
-        std::set<std::string> letters;
-        for (const Message id : window.buttons) {
-            const std::string text = textIn(language, id);
-            const std::string letter = letterOf(text, id);
-            EXPECT_FALSE(letter.empty()) << language << ", " << window.name << ": " << text;
-            EXPECT_TRUE(letters.insert(letter).second) << language << ", " << window.name << ": " << text;
-        }
-    }
-};
-
-TEST_F(Letters, NoLetterReachesTwoThingsOfAWindow) {
+TEST_F(LanguageFile, NoLetterReachesTwoThingsOfAWindow) {
     for (const LanguageChoice& language : frame.language.ListLanguages())
-        for (const Window& window : Windows)
-            expectEachItsOwn(window, language.name);
-}
-
-// In French Help shares its letter with answers whose captions are fixed.
-TEST_F(Letters, NoLetterReachesTwoAnswersOfAMessage) {
-    for (const LanguageChoice& language : frame.language.ListLanguages())
-        for (Window alert : Alerts) {
-            if (language.name != French)
-                alert.buttons.push_back(Message::HelpButton);
-            expectEachItsOwn(alert, language.name);
+        for (const Window& window : Windows) {
+            std::set<std::string> letters;
+            for (const Message id : window.buttons) {
+                const std::string text = textIn(language.name, id);
+                const std::string letter = letterOf(text, id);
+                EXPECT_FALSE(letter.empty()) << language.name << ", " << window.name << ": " << text;
+                EXPECT_TRUE(letters.insert(letter).second)
+                    << language.name << ", " << window.name << ": " << text;
+            }
         }
 }
 

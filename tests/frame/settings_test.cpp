@@ -161,15 +161,6 @@ TEST_F(Settings, AFileThatDoesNotChangeIsReadOnce) {
         EXPECT_FALSE(call.starts_with("read")) << call;
 }
 
-TEST_F(Settings, AReadOnlyFileKeepsItsValues) {
-    files.put(Path, "[General]\r\na=1\r\n");
-    files.setAttributes(Path, {.readOnly = true});
-    EXPECT_FALSE(write("a", "2"));
-    EXPECT_FALSE(write("b", "2"));
-    EXPECT_EQ(read("a"), "1");
-    EXPECT_EQ(files.get(Path), "[General]\r\na=1\r\n");
-}
-
 TEST_F(Settings, AFileThatIsTooLargeHasNoValuesAndIsNotWrittenOver) {
     const std::string most = "[General]\r\na=1\r\n" + std::string(LargestProfile - 16, '\n');
     for (const std::string& bytes : {most, most + '\n'}) {

@@ -103,14 +103,6 @@ TEST_F(StartUp, AFirstStartWritesTheDefaultsAndCleansUp) {
     EXPECT_EQ(state.ExePath, "\\program\\Zandor.exe");
 }
 
-TEST_F(StartUp, ALaterStartLeavesTheSetUpFolderAlone) {
-    const std::string setup = GetTempFolder() + "\\QX_Setup";
-    files.put(setup + "\\a.cab", "x");
-    putSettings("Inst=0\r\n");
-    load();
-    EXPECT_TRUE(files.fileExists(setup + "\\a.cab"));
-}
-
 TEST_F(StartUp, TheLanguageFileFollowsTheShippedOneUntilItsUserChangesIt) {
     const ProgramFolders installed{"\\home", "\\bin", "zandor", "\\share"};
     const std::string own = "\\home\\Langues.lng", shipped = "\\share\\Langues.lng";
@@ -140,13 +132,17 @@ TEST_F(StartUp, TheLanguageFileFollowsTheShippedOneUntilItsUserChangesIt) {
     EXPECT_EQ(files.get(own), "fourth");
 }
 
-TEST_F(StartUp, WhatAnotherUserHasPutInTheSetUpFoldersPlaceStays) {
+TEST_F(StartUp, ALaterStartAndAnotherUsersSetUpFolderLeaveItAlone) {
     const std::string setup = GetTempFolder() + "\\QX_Setup";
     files.put(setup + "\\a.cab", "x");
-    files.giveAway(setup);
-    load();
-    EXPECT_TRUE(files.fileExists(setup + "\\a.cab"));
-    EXPECT_EQ(setting("Inst"), "0");
+    for (const bool later : {true, false}) {
+        putSettings(later ? "Inst=0\r\n" : "Inst=1\r\n");
+        if (!later)
+            files.giveAway(setup);
+        load();
+        EXPECT_TRUE(files.fileExists(setup + "\\a.cab"));
+        EXPECT_EQ(setting("Inst"), "0");
+    }
 }
 
 TEST_F(StartUp, SettingsOfAnOlderReleaseGetTheNewKeys) {

@@ -77,13 +77,6 @@ TEST_F(AssociationTest, ASecondStartChangesNothing) {
     EXPECT_EQ(value("Comment"), "Consist") << "the language has changed";
 }
 
-TEST_F(AssociationTest, WithNothingToRemoveNothingIsTouched) {
-    EXPECT_TRUE(remove());
-    EXPECT_EQ(changes(), 0);
-    EXPECT_TRUE(files.allFiles().empty());
-    EXPECT_TRUE(processes.started.empty());
-}
-
 TEST_F(AssociationTest, IsRemovedWhole) {
     files.put("/home/me/data/applications/other.desktop", "other");
     add();

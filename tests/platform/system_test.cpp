@@ -96,15 +96,6 @@ TEST_F(SystemTest, AnInstalledProgramWritesToTheUsersDataOnly) {
     EXPECT_EQ(installed.shared, root + "/usr/share/zandor");
 }
 
-TEST_F(SystemTest, TempFolderLosesOneSeparator) {
-    const std::pair<const char*, const char*> cases[] = {
-        {"/a/B/", "/a/B"}, {"/a", "/a"}, {"/", "/"}, {"", "/tmp"}};
-    for (const auto& [variable, folder] : cases) {
-        set("TMPDIR", variable);
-        EXPECT_EQ(GetTempFolder(), folder);
-    }
-}
-
 TEST(ExpandLongPath, OnlyRelativePathsChange) {
     const std::string here = disk::current_path().string();
     for (const char* path : {"", "/a/b.con", "\\a\\b.con", "C:\\a.con", "z:x"})

@@ -154,21 +154,5 @@ TEST(Decode, WhatIsNotUtf8IsReadAsWindows1252) {
         EXPECT_EQ(decodedSettings("\xEF\xBB\xBF" + c.bytes), c.text);
 }
 
-TEST(Decode, OneTextServesForManyFiles) {
-    std::string text;
-    decodeSimulatorText(std::string(1000, '\xE9'), text);
-    EXPECT_EQ(text.size(), 2000u);
-    const char* storage = text.data();
-    decodeSimulatorText("\xFF\xFE"
-                        "a\0b\0"sv,
-                        text);
-    EXPECT_EQ(text, "ab");
-    decodeSimulatorText(std::string(500, '\x80'), text);
-    EXPECT_EQ(text.size(), 1500u);
-    EXPECT_EQ(text.data(), storage);
-    decodeSimulatorText("", text);
-    EXPECT_EQ(text, "");
-}
-
 } // namespace
 } // namespace zandor

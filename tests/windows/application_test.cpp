@@ -64,14 +64,24 @@ TEST_F(ApplicationTest, APictureOfTheMainWindowIsSavedWithoutAScreen) {
         << "the root was for this run only";
 }
 
-TEST_F(ApplicationTest, WithoutLanguageFileOrFolderTheRunEnds) {
+TEST_F(ApplicationTest, WithoutItsFolderTheRunEnds) {
     LaunchOptions options;
     options.picture = home.filePath("main.png");
-    {
-        Application application(options); // quiet: the question for the folder counts as cancelled
-        EXPECT_EQ(application.run(), 1);
-    }
+    EXPECT_EQ(Application(options).run(), 1) << "quiet: the question for the folder counts as cancelled";
     EXPECT_FALSE(QFile::exists(options.picture));
+}
+
+// A copy of the program, since beside the built one stands a language file.
+TEST_F(ApplicationTest, AMissingLanguageFileIsToldAndNothingStarts) {
+    QFile::remove(home.filePath("Langues.lng"));
+    const QString program = tree.filePath("zandor"), picture = home.filePath("main.png");
+    ASSERT_TRUE(QFile::copy(QApplication::applicationDirPath() + "/zandor", program));
+    QProcess process;
+    process.start(program, {"--root", tree.path(), "--picture", picture});
+    ASSERT_TRUE(process.waitForFinished());
+    EXPECT_EQ(process.exitCode(), 1);
+    EXPECT_TRUE(process.readAllStandardError().contains(LanguageFileMissing.data()));
+    EXPECT_FALSE(QFile::exists(picture) || QFile::exists(home.filePath("Zandor.ini")));
 }
 
 // ---- a later start beside a running program

@@ -190,26 +190,6 @@ TEST_F(OpenWindowTest, AConsistThatVanishedLeavesTheDialogAndTheStripAsTheyWere)
     EXPECT_TRUE(state.HasFile);
 }
 
-TEST_F(OpenWindowTest, CancellingLosesNothing) {
-    const std::function<void()> ways[] = {
-        [this] { QTest::keyClick(&list(), Qt::Key_Escape); },
-        [this] { QTest::mouseClick(&get<QPushButton>("cmdCANCEL"), Qt::LeftButton); },
-        [this] { window->close(); },
-    };
-    ASSERT_TRUE(openConsist(editor, pathOf("aquilon.con")));
-    for (const auto& way : ways) {
-        show();
-        QTest::keyClick(&list(), Qt::Key_Down);
-        way();
-        EXPECT_EQ(window->result(), QDialog::Rejected);
-        EXPECT_FALSE(window->isVisible());
-        EXPECT_EQ(document.rame.Name, "aquilon");
-        EXPECT_EQ(vehicleCount(document), 2);
-        EXPECT_TRUE(state.HasFile);
-    }
-    EXPECT_TRUE(opened.empty());
-}
-
 TEST_F(OpenWindowTest, WithoutConsistsThereIsNothingToOpen) {
     catalogue.here().ConsistFiles.clear();
     show();
@@ -247,31 +227,7 @@ TEST_F(OpenWindowTest, ColumnClicksToggleTheOrderAndKeepTheSelectionInView) {
     EXPECT_EQ(names[1], "Ancien train") << "red ones stand among the others once the list is sorted";
 }
 
-TEST_F(OpenWindowTest, TypingFindsAConsistByItsNameWhateverColumnWasClicked) {
-    show();
-    QTest::mouseClick(list().viewport(), Qt::LeftButton, {},
-                      list().visualRect(list().model()->index(1, 2)).center());
-    QTest::keyClicks(&list(), "anc");
-    EXPECT_EQ(selected(), "Ancien train");
-    EXPECT_NE(label().find("broken.con"), std::string::npos);
-}
-
 // ---- reading
-
-TEST_F(OpenWindowTest, EventsAreServedWhileTheConsistsAreRead) {
-    addMany(300);
-    slowDown();
-    build();
-    int served = 0; // while the bar was there
-    QTimer ticks;
-    QObject::connect(&ticks, &QTimer::timeout, window.get(),
-                     [&] { served += get<QProgressBar>("ProgressBar1").isVisible(); });
-    ticks.start(1);
-    window->show();
-    ASSERT_TRUE(QTest::qWaitFor([this] { return list().model()->rowCount() > 0; }, 60000));
-    EXPECT_GT(served, 0);
-    EXPECT_EQ(list().model()->rowCount(), 304);
-}
 
 TEST_F(OpenWindowTest, TheReadingEndsAtOnceWhenTheUserCancelsIt) {
     addMany(300);
@@ -301,15 +257,6 @@ TEST_F(OpenWindowTest, TheReadingEndsAtOnceWhenTheUserCancelsIt) {
     }
     show();
     EXPECT_EQ(list().model()->rowCount(), 304) << "the next opening reads again";
-}
-
-TEST_F(OpenWindowTest, ALaterOpeningReadsNoConsist) {
-    show();
-    files.log.clear();
-    show();
-    EXPECT_EQ(listed().size(), 4u);
-    for (const std::string& line : files.log)
-        EXPECT_FALSE(line.ends_with(".con")) << line;
 }
 
 TEST_F(OpenWindowTest, NothingIsCutInAnyLanguage) {

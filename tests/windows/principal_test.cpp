@@ -6,20 +6,6 @@
 namespace zandor {
 namespace {
 
-TEST_F(WindowTest, EveryControlIsThereUnderItsName) {
-    const char* names[] = {"lstViewMATERIEL", "cmbMATERIEL", "PicRAME",     "HScrollRAME",
-                           "picPREVIEW",      "tbNAME",      "tbFULL_NAME", "Slider1",
-                           "lblRESISTANCE",   "tbPATH",      "tbSELECT",    "lblLongueurNewRame",
-                           "lblFreins",       "lblATTELAGE", "lblPOIDS",    "lblLONGUEUR",
-                           "cmdNEW",          "cmdOPEN",     "cmdSAVE",     "cmdDELETE",
-                           "cmdNUMEROTATION", "cmdOptions",  "cmdHELP",     "cmdPROPOS",
-                           "cmdCANCEL",       "Timer1"};
-    for (const char* name : names)
-        EXPECT_TRUE(window->findChild<QObject*>(name)) << name;
-    EXPECT_EQ(window->objectName(), "frmPrincipal");
-    EXPECT_EQ(window->windowTitle().toStdString(), state.Title);
-}
-
 TEST_F(WindowTest, ACommandThatLeadsNowhereIsNotOffered) {
     EXPECT_FALSE(get<QPushButton>("cmdDELETE").isVisible());
 }
@@ -52,27 +38,6 @@ TEST_F(WindowTest, NothingIsCutOnALowScreenInAnyLanguage) {
             for (const QScrollArea* area : window->findChildren<QScrollArea*>())
                 EXPECT_LE(area->widget()->width(), area->viewport()->width()) << language;
         }
-    }
-}
-
-// A letter that reaches two controls reaches none.
-TEST_F(WindowTest, EveryMnemonicIsItsOwn) {
-    for (const char* language : Languages) {
-        state.Language = language;
-        window->applyLanguage();
-        QString seen;
-        const auto take = [&](const QString& text) {
-            const qsizetype mark = text.indexOf(u'&');
-            ASSERT_GE(mark, 0) << language << " " << text.toStdString();
-            const QChar letter = text[mark + 1].toUpper();
-            EXPECT_FALSE(seen.contains(letter)) << language << " " << text.toStdString();
-            seen += letter;
-        };
-        for (QPushButton* button : window->findChildren<QPushButton*>())
-            if (button->isVisible())
-                take(button->text());
-        for (const char* name : {"lblNAME", "lblFULL_NAME", "lblSLIDER", "lblCLASS"})
-            take(get<QLabel>(name).text());
     }
 }
 
@@ -158,32 +123,6 @@ TEST_F(WindowTest, DoubleClickAndEnterAppend) {
 
 // ---- from the list to the strip
 
-TEST_F(WindowTest, StockIsDroppedWhereItWasShown) {
-    struct Case {
-        const char* what;
-        QPoint at;
-        Names after;
-    };
-    const Case cases[] = {
-        {"front", onVehicle(0), {"BB 67400", "BB 9288", "CC 6500"}},
-        {"between", onVehicle(1), {"BB 9288", "BB 67400", "CC 6500"}},
-        {"end", behind(2), {"BB 9288", "CC 6500", "BB 67400"}},
-    };
-    for (const Case& c : cases) {
-        newConsist(editor);
-        build({"BB 9288", "CC 6500"});
-        const auto data = dragged(keyOf("BB 67400"));
-        EXPECT_TRUE(enterStrip(*data, behind(3)));
-        moveOverStrip(*data, c.at);
-        dropOnStrip(*data, c.at);
-        EXPECT_EQ(vehicles(), c.after) << c.what;
-        EXPECT_EQ(selected(), "BB 67400") << c.what;
-        EXPECT_TRUE(get<QLabel>("lblSTATUS").text().contains("BB 67400")) << c.what;
-        EXPECT_FALSE(document.DragActive);
-        EXPECT_TRUE(state.Modified);
-    }
-}
-
 TEST_F(WindowTest, ADropOnTheEmptyStripBeginsIt) {
     const auto data = dragged(keyOf("BB 9288"));
     enterStrip(*data, {300, 50});
@@ -211,66 +150,7 @@ TEST_F(WindowTest, ADragThatEndedElsewhereLeavesNothing) {
     EXPECT_EQ(vehicles(), (Names{"BB 9288", "CC 6500", "CC 6500"}));
 }
 
-TEST_F(WindowTest, ARefusedCouplingIsToldOnceAndChangesNothing) {
-    build({"BB 9288"});
-    state.NoAlertCoupling = false;
-    state.PassIsBadCoupling = true;
-    const auto data = dragged(keyOf("BB 67400"));
-    enterStrip(*data, behind(1));
-    dropOnStrip(*data, behind(1));
-    EXPECT_EQ(test.dialogs.shown.size(), 1u);
-    EXPECT_EQ(vehicles(), Names{"BB 9288"});
-    EXPECT_FALSE(state.Modified);
-}
-
 // ---- the mouse on the strip
-
-TEST_F(WindowTest, VehiclesAreMovedAndThrownAway) {
-    const QPoint away(200, 400); // far below the strip
-    struct Case {
-        const char* what;
-        QPoint from, to;
-        Names after;
-        const char* selected;
-        bool modified;
-    };
-    const Case cases[] = {
-        {"to the right", onVehicle(0), onVehicle(2), {"CC 6500", "BB 9288", "BB 67400"}, "BB 9288", true},
-        {"to the end", onVehicle(0), behind(3), {"CC 6500", "BB 67400", "BB 9288"}, "BB 9288", true},
-        {"to the front", onVehicle(2), onVehicle(0), {"BB 67400", "BB 9288", "CC 6500"}, "BB 67400", true},
-        {"onto its neighbour's left",
-         onVehicle(0),
-         onVehicle(1),
-         {"BB 9288", "CC 6500", "BB 67400"},
-         "BB 9288",
-         false},
-        {"onto itself", onVehicle(1), onVehicle(1), {"BB 9288", "CC 6500", "BB 67400"}, "CC 6500", false},
-        {"away", onVehicle(1), away, {"BB 9288", "BB 67400"}, "BB 67400", true},
-        {"the last away", onVehicle(2), away, {"BB 9288", "CC 6500"}, "CC 6500", true},
-    };
-    for (const Case& c : cases) {
-        newConsist(editor);
-        build({"BB 9288", "CC 6500", "BB 67400"});
-        drag(c.from, c.to);
-        EXPECT_EQ(vehicles(), c.after) << c.what;
-        EXPECT_EQ(state.Modified, c.modified) << c.what;
-        EXPECT_EQ(selected(), c.selected) << c.what;
-        EXPECT_TRUE(get<QLabel>("lblSTATUS").text().contains(c.selected)) << c.what;
-        EXPECT_FALSE(document.DragActive) << c.what;
-        EXPECT_TRUE(test.dialogs.shown.empty()) << c.what;
-        state.Modified = false;
-    }
-}
-
-TEST_F(WindowTest, ATremblingClickMovesNothing) {
-    build({"BB 9288", "CC 6500"});
-    const QPoint edge(PlainPictureWidth - 2, 60);
-    QTest::mousePress(&strip(), Qt::LeftButton, {}, edge);
-    moveHeld(edge + QPoint(3, 0));
-    QTest::mouseRelease(&strip(), Qt::LeftButton, {}, edge + QPoint(3, 0));
-    EXPECT_EQ(vehicles(), (Names{"BB 9288", "CC 6500"}));
-    EXPECT_FALSE(state.Modified);
-}
 
 TEST_F(WindowTest, EscapeAndLostFocusPutAHeldVehicleBack) {
     build({"BB 9288", "CC 6500"});
@@ -331,15 +211,6 @@ TEST_F(WindowTest, AHandThatTremblesOverTheEdgeRemovesNothing) {
     QTest::mouseRelease(&strip(), Qt::LeftButton, {}, edge + QPoint(0, 3));
     EXPECT_EQ(vehicles().size(), 2u);
     EXPECT_FALSE(state.Modified);
-}
-
-TEST_F(WindowTest, StockOfNoListIsSaidWhenItIsLookedUp) {
-    build({"BB 9288"});
-    document.Vehicules[0].FromSimulator = true;
-    drag(onVehicle(0), fromWindow(get<QWidget>("picPREVIEW")));
-    EXPECT_TRUE(get<QLabel>("lblSTATUS").text().contains("BB 9288"));
-    EXPECT_TRUE(get<QLabel>("lblSTATUS").text().contains("list"));
-    EXPECT_EQ(get<QLabel>("tbSELECT").text(), "");
 }
 
 TEST_F(WindowTest, LettersLookForNamesAlsoBehindAClickOnAnIcon) {
@@ -423,33 +294,6 @@ TEST_F(WindowTest, TheSliderShowsItsForce) {
     EXPECT_NE(get<QLabel>("lblRESISTANCE").text(), full);
 }
 
-TEST_F(WindowTest, ControlSWritesTheConsist) {
-    build({"BB 9288", "Voiture Corail"});
-    QTest::keyClicks(&get<QLineEdit>("tbFULL_NAME"), "Corail");
-    window->activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
-    QTest::keyClick(window.get(), Qt::Key_S, Qt::ControlModifier);
-    const auto bytes = test.files.get(consistsPath(state.roots.RootMSTS) + "Corail.con");
-    ASSERT_TRUE(bytes);
-    std::string text;
-    decodeSimulatorText(*bytes, text);
-    EXPECT_NE(text.find("EngineData ( bb1 BB )"), std::string::npos);
-    EXPECT_NE(text.find("WagonData ( car1 Cars )"), std::string::npos);
-    EXPECT_FALSE(get<QPushButton>("cmdSAVE").isEnabled());
-    EXPECT_EQ(test.dialogs.shown.size(), 1u);
-}
-
-TEST_F(WindowTest, NewAsksFirstAndEmptiesTheStrip) {
-    build({"BB 9288"});
-    document.Vehicules[0].Flipped = true;
-    state.Modified = true;
-    test.dialogs.answers = {answer::No};
-    press("cmdNEW");
-    EXPECT_EQ(test.dialogs.shown.size(), 1u);
-    EXPECT_EQ(vehicles(), Names());
-    EXPECT_FALSE(get<QPushButton>("cmdNUMEROTATION").isEnabled());
-}
-
 TEST_F(WindowTest, OpenShowsTheConsistAndItsDoubleNameInRed) {
     const std::string path = consistsPath(state.roots.RootMSTS) + "other.con";
     test.files.put(
@@ -474,17 +318,6 @@ TEST_F(WindowTest, OpenShowsTheConsistAndItsDoubleNameInRed) {
     EXPECT_NE(shortName.palette().color(QPalette::Text), QColor(255, 0, 0));
 }
 
-TEST_F(WindowTest, ACancelledOpenChangesNothing) {
-    test.files.put(consistsPath(state.roots.RootMSTS) + "a.con", "");
-    LoadCatalogue(test.frame, catalogue);
-    build({"BB 9288"});
-    state.HasFile = true;
-    answerOpen([](QDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
-    press("cmdOPEN");
-    EXPECT_TRUE(state.HasFile);
-    EXPECT_EQ(vehicles(), Names{"BB 9288"});
-}
-
 TEST_F(WindowTest, CloseWaitsForASaveThatDidNotHappen) {
     build({"BB 9288"});
     state.Modified = true;
@@ -496,25 +329,6 @@ TEST_F(WindowTest, CloseWaitsForASaveThatDidNotHappen) {
     press("cmdCANCEL");
     EXPECT_FALSE(window->isVisible());
     EXPECT_EQ(test.setting("InstallDir"), state.roots.RootMSTS);
-}
-
-TEST_F(WindowTest, TheNumberButtonRenumbersOnce) {
-    build({"BB 9288", "CC 6500"});
-    document.Vehicules[0].Number = 12;
-    press("cmdNUMEROTATION");
-    EXPECT_EQ(document.Vehicules[0].Number, 0);
-    EXPECT_EQ(document.Vehicules[1].Number, 1);
-    EXPECT_TRUE(get<QPushButton>("cmdSAVE").isEnabled());
-}
-
-TEST_F(WindowTest, AboutNamesTheProgram) {
-    QString title;
-    QTimer::singleShot(0, window.get(), [&title] {
-        title = QApplication::activeModalWidget()->windowTitle();
-        QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape);
-    });
-    press("cmdPROPOS");
-    EXPECT_TRUE(title.contains("Zandor")) << title.toStdString();
 }
 
 TEST_F(WindowTest, AResizedWindowShowsAsMuchOfTheStrip) {

@@ -1,17 +1,13 @@
 // What the strip looks like, point by point.
 #include "editor/windows/strip_painter.h"
-#include "windows/strip_picture.h"
 #include "windows/window_fixture.h"
 
 #include <QBuffer>
-#include <QFrame>
-#include <QPainter>
-#include <QStyleOptionFrame>
 
 namespace zandor {
 namespace {
 
-constexpr QColor Red{255, 0, 0}, Blue{0, 0, 255}, Yellow{255, 255, 0}, Sky{148, 198, 239};
+constexpr QColor Red{255, 0, 0}, Yellow{255, 255, 0};
 
 // Red letters, whose edges blend with what lies behind them.
 bool holdsRedText(const QImage& picture, const QRect& area) {
@@ -20,27 +16,6 @@ bool holdsRedText(const QImage& picture, const QRect& area) {
             if (const QColor colour = picture.pixelColor(x, y); colour.red() > 170 && colour.blue() < 110)
                 return true;
     return false;
-}
-
-TEST_F(WindowTest, TheEmptyStripIsPlain) {
-    EXPECT_EQ(pixel({2, 2}), Sky);
-    build({"BB 9288"});
-    EXPECT_EQ(pixel({strip().width() - 3, 2}), Sky);
-}
-
-TEST_F(WindowTest, BrakeBarsLieUnderTheVehicle) {
-    build({"BB 9288", "CC 6500", "BB 67400", "Wagon plat"}); // air twin, air single, vacuum single, ep
-    const int height = strip().height();
-    struct Case {
-        int vehicle, fromBottom;
-        QColor colour;
-    };
-    const Case cases[] = {{0, 27, Sky},  {0, 23, Blue}, {0, 19, Blue}, {1, 27, Blue},
-                          {1, 26, Blue}, {1, 25, Sky},  {1, 22, Sky},  {2, 16, Red},
-                          {2, 12, Sky},  {3, 27, Blue}, {3, 23, Blue}, {3, 16, Sky}};
-    for (const Case& c : cases)
-        EXPECT_EQ(pixel({onVehicle(c.vehicle).x(), height - c.fromBottom}), c.colour)
-            << c.vehicle << " " << c.fromBottom;
 }
 
 TEST_F(WindowTest, AHeldVehicleIsOutlinedAndItsPlaceMarked) {
@@ -90,22 +65,6 @@ TEST_F(WindowTest, MissingStockAndBadCouplingsShow) {
     EXPECT_TRUE(holds(3, CouplingMark::NotCompatible, 0));
 }
 
-TEST_F(WindowTest, AFlippedVehicleIsMirroredUnderAGreenArrow) {
-    build({"BB 9288", "BB 9288"});
-    QTest::mouseClick(&strip(), Qt::RightButton, {}, onVehicle(1));
-    document.selected = -1; // no frame over the pictures
-    const QImage picture = strip().grab().toImage();
-    const int x = 2 * PlainPictureWidth - 20;
-    for (const QPoint& point :
-         {QPoint(x, 8), QPoint(x, 14), QPoint(x + 4, 11), QPoint(x - 22, 10), QPoint(x + 2, 11)})
-        EXPECT_EQ(picture.pixelColor(point), QColor(0, 255, 0)) << point.x() << " " << point.y();
-    EXPECT_NE(picture.pixelColor(x - PlainPictureWidth, 8), QColor(0, 255, 0));
-    const auto part = [&](int vehicle) {
-        return picture.copy(vehicle * PlainPictureWidth, 26, PlainPictureWidth, 12);
-    };
-    EXPECT_EQ(part(1), part(0).mirrored(true, false));
-}
-
 TEST_F(WindowTest, ScrollingAndTheTimerOnlyCopy) {
     build({"BB 9288", "CC 6500", "BB 67400", "Voiture Corail", "Wagon plat", "BB 9288", "CC 6500", "BB 67400",
            "BB 9288", "CC 6500"});
@@ -124,28 +83,6 @@ TEST_F(WindowTest, ScrollingAndTheTimerOnlyCopy) {
     window->refresh();
     strip().grab();
     EXPECT_NE(strip().imgRAME().cacheKey(), drawn);
-}
-
-TEST_F(WindowTest, ANewConsistIsShownEmpty) {
-    build({"BB 9288"});
-    EXPECT_NE(pixel({60, 50}), Sky);
-    newConsist(editor);
-    window->refresh();
-    EXPECT_EQ(pixel({60, 50}), Sky);
-    EXPECT_EQ(pixel({60, StripHeight - 22}), Sky);
-}
-
-TEST_F(WindowTest, TheLongestStripIsDrawnAsFarAsItsPictureReaches) {
-    build({"BB 9288"});
-    document.Vehicules.assign(MaxEntries, document.Vehicules[0]);
-    document.StripWidth = MaxEntries * PlainPictureWidth;
-    updateStrip(editor);
-    const int end = document.controls.scrollMaximum;
-    EXPECT_EQ(strip().width() + end, 134 * PlainPictureWidth + 150);
-    for (const int at : {0, end / 2, end}) {
-        document.controls.scrollValue = at;
-        EXPECT_TRUE(holdsRedText(strip().grab().toImage(), {0, 0, 300, 20})) << "the numbers are there";
-    }
 }
 
 struct PictureTest : ::testing::Test {
@@ -207,17 +144,6 @@ TEST_F(PictureTest, WhatIsNoPictureShowsNothing) {
     EXPECT_EQ(pictures.size({true, "GP38"}), std::nullopt);
 }
 
-TEST_F(PictureTest, MarksGrowWithTheScale) {
-    for (const CouplingMark mark : {CouplingMark::Auto, CouplingMark::Bar, CouplingMark::Chain,
-                                    CouplingMark::Hydro, CouplingMark::NotCompatible})
-        for (const double ratio : {1.0, 1.5, 2.0}) {
-            const QPixmap& drawn = pictures.mark(mark, ratio);
-            EXPECT_EQ(drawn.deviceIndependentSize().toSize(), QSize(18, 18) * ratio);
-            EXPECT_EQ(drawn.size(), QSize(18, 18) * ratio);
-            EXPECT_GT(drawn.toImage().pixelColor(drawn.width() / 2, 3).alpha(), 0);
-        }
-}
-
 TEST_F(PictureTest, TheStripIsSharpAtEveryScale) {
     files.put("C:\\p.bmp", bitmap(halves()));
     const PictureName name{false, "C:\\p.bmp"};
@@ -229,7 +155,9 @@ TEST_F(PictureTest, TheStripIsSharpAtEveryScale) {
                                           FillBar{{10, 10, 5, 2}, {0, 255, 0}},
                                           DrawLine{20, 30, 20, 35, {0, 255, 0}}};
     for (const double ratio : {1.0, 1.5, 2.0, 3.0}) {
-        const QImage picture = withoutLetters(steps, pictures, ratio);
+        StripPicture strip;
+        strip.carryOut(steps, pictures, QFont(), ratio);
+        const QImage picture = strip.pixmap().toImage().convertToFormat(QImage::Format_RGB32);
         const auto at = [&](double x, double y) {
             return picture.pixelColor(int(x * ratio), int(y * ratio));
         };
@@ -246,68 +174,6 @@ TEST_F(PictureTest, TheStripIsSharpAtEveryScale) {
         EXPECT_EQ(at(20.5, 32), green);
         EXPECT_EQ(at(22.5, 32), blue);
     }
-}
-
-// A frame that begins between two pixels has the same line on each of its sides, and none of it is blurred.
-TEST(FrameLines, AreWholePixelsAtEveryScale) {
-    struct Case {
-        double ratio;
-        int line;
-    };
-    for (const Case& c : {Case{1, 1}, Case{1.25, 1}, Case{1.5, 1}, Case{2, 2}, Case{3, 3}})
-        for (const int origin : {0, 1, 2, 3}) {
-            QImage image(QSize(60, 60) * c.ratio, QImage::Format_RGB32);
-            image.setDevicePixelRatio(c.ratio);
-            image.fill(Qt::white);
-            QFrame frame;
-            QStyleOptionFrame option;
-            option.initFrom(&frame);
-            option.rect = {0, 0, 31, 33};
-            {
-                QPainter painter(&image);
-                painter.translate(origin, origin);
-                painter.setClipRect(option.rect);
-                QApplication::style()->drawPrimitive(QStyle::PE_Frame, &option, &painter, &frame);
-            }
-            const auto coloured = [&](bool across) { // lengths of the runs on a line through the middle
-                std::vector<int> runs;
-                QRgb last = qRgb(255, 255, 255);
-                for (int i = 0; i < image.width(); ++i) {
-                    const int middle = int((origin + 15) * c.ratio);
-                    const QRgb point = across ? image.pixel(i, middle) : image.pixel(middle, i);
-                    if (point != qRgb(255, 255, 255) && point == last)
-                        ++runs.back();
-                    else if (point != qRgb(255, 255, 255))
-                        runs.push_back(1);
-                    last = point;
-                }
-                return runs;
-            };
-            EXPECT_EQ(coloured(true), (std::vector<int>{c.line, c.line})) << c.ratio << " " << origin;
-            EXPECT_EQ(coloured(false), (std::vector<int>{c.line, c.line})) << c.ratio << " " << origin;
-        }
-}
-
-TEST(DemoStripTest, AConsistOfTheDemonstrationIsDrawnWhole) {
-    DemoStrip demo;
-    const QImage picture = demo.picture("orme_ore_down.con");
-    ASSERT_GT(demo.document().StripWidth, 0);
-    EXPECT_EQ(picture.size(), QSize(demo.document().StripWidth + 150, StripHeight));
-    for (const Vehicule& vehicule : demo.document().Vehicules)
-        EXPECT_EQ(vehicule.DrawnWidth, vehicule.Width) << vehicule.Name;
-    EXPECT_EQ(picture, demo.picture("orme_ore_down.con"));
-}
-
-TEST_F(WindowTest, TenThousandRowsAreListed) {
-    const Materiel sample = catalogue.here().Materiels[stockIndex("BB 9288")];
-    for (int i = 0; i < 10000; ++i) {
-        Materiel copy = sample;
-        copy.FileName = "copy" + std::to_string(i) + ".eng";
-        copy.EngineName = "Copie " + std::to_string((i * 7919) % 10000);
-        catalogue.here().Materiels.push_back(std::move(copy));
-    }
-    window->fillStockList();
-    EXPECT_EQ(list().model()->rowCount(), 10002);
 }
 
 } // namespace

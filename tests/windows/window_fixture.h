@@ -155,10 +155,6 @@ struct WindowTest : ::testing::Test {
         QApplication::sendEvent(&strip(), &event);
         return event.isAccepted();
     }
-    void moveOverStrip(QMimeData& data, QPoint at) {
-        QDragMoveEvent event(at, Qt::CopyAction, &data, Qt::LeftButton, {});
-        QApplication::sendEvent(&strip(), &event);
-    }
     void leaveStrip() {
         QDragLeaveEvent event;
         QApplication::sendEvent(&strip(), &event);

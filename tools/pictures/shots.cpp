@@ -1,7 +1,6 @@
 // zandor_shots FOLDER: opens every window on the demonstration tree and saves a picture of each, in French
 // and in English, to be looked at. The names end in the scale that QT_SCALE_FACTOR gives.
-#include "windows/strip_picture.h"
-
+#include "editor/consist_io.h"
 #include "editor/windows/open_window.h"
 #include "editor/windows/principal.h"
 #include "frame/alert.h"
@@ -17,6 +16,7 @@
 #include "frame/windows/splash.h"
 #include "frame/windows/theme.h"
 #include "frame/windows/toolkit_language.h"
+#include "support/fakes.h"
 
 #include <QApplication>
 #include <QDir>
@@ -25,16 +25,32 @@
 #include <QTest>
 
 #include <cstdio>
+#include <filesystem>
 
 namespace zandor {
 namespace {
 
 constexpr int Settled = 300; // ms until a window has been laid out and its folders or consists are read
 
+// The files of a folder of this machine's disk.
+void putFolder(MemoryFileSystem& files, const std::filesystem::path& folder, const std::string& to) {
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(folder)) {
+        if (!entry.is_regular_file())
+            continue;
+        std::ifstream file(entry.path(), std::ios::binary);
+        std::string name = entry.path().lexically_relative(folder).generic_string();
+        std::ranges::replace(name, '/', '\\');
+        files.put(to + name, std::string(std::istreambuf_iterator<char>(file), {}));
+    }
+}
+
 class Shots {
   public:
-    Shots(const QDir& folder, const char* language, bool dark, DemoStrip& demo)
-        : folder_(folder), dark_(dark), test_(demo.test) {
+    // The demonstration tree is read into memory, so that nothing of it changes.
+    Shots(const QDir& folder, const char* language, bool dark) : folder_(folder), dark_(dark) {
+        putFolder(test_.files, ZANDOR_SOURCE_DIR "/demo/Train Simulator", "C:\\MSTS\\");
+        putFolder(test_.files, ZANDOR_THUMBNAILS, test_.state.ProgramFolder + "\\Thumbnails\\");
+        test_.state.RootMSTS = test_.state.RootPrimary = "C:\\MSTS";
         test_.state.Language = language;
         test_.state.PrintName = test_.state.PrintGreen = test_.state.Optimize = true;
         LoadCatalogue(test_.frame, catalogue_, ReadOnlyLoad);
@@ -137,7 +153,7 @@ class Shots {
 
     QDir folder_;
     bool dark_;
-    TestFrame& test_;
+    TestFrame test_;
     Catalogue catalogue_;
     ConsistDocument document_;
     Editor editor_{test_.frame, catalogue_, document_};
@@ -170,9 +186,7 @@ int main(int argc, char** argv) {
     folder.mkpath(".");
     for (const char* language : {"Français", "English"}) {
         toolkitTexts.follow(language);
-        zandor::DemoStrip demo;
-        demo.putThumbnails(ZANDOR_THUMBNAILS);
-        zandor::Shots(folder, language, dark, demo).takeAll();
+        zandor::Shots(folder, language, dark).takeAll();
     }
     return 0;
 }
