@@ -64,6 +64,7 @@ test_release() {
     build_preset release build || return 0
     run_tests build/bin/zandor_tests
     QT_QPA_PLATFORM=offscreen run_tests build/bin/zandor_window_tests
+    check "a drag with a real mouse" tools/drag
 }
 
 # Every source file stands as clang-format would write it.
