@@ -7,40 +7,16 @@ constexpr const char* WagonBody =
     "Wagon ( voit\r\nType ( Carriage )\r\nSize ( 3m 4m 20m )\r\nMass ( 30t )\r\n"
     "Coupling (\r\nType ( Chain )\r\n)\r\nName ( \"First name\" )\r\n";
 
-struct StepCase {
-    bool mainReady, printGreen;
-    Names steps; // texts of the progress, runs of one text once
-};
-
-class LoadSteps : public CatalogueTest, public ::testing::WithParamInterface<StepCase> {};
-
-TEST_P(LoadSteps, ComeInOrderWithTheirMarks) {
+TEST_F(CatalogueTest, LoadComesInItsOrderWithItsMarks) {
     putStock("Parc\\loco.eng");
     putConsist("train.con", "train", {"EngineData ( loco Parc )"});
-    state.MainReady = GetParam().mainReady;
-    state.PrintGreen = GetParam().printGreen;
+    state.PrintGreen = true;
     ASSERT_TRUE(LoadCatalogue(frame, catalogue));
-    EXPECT_EQ(progressShown(), GetParam().steps);
-    EXPECT_EQ(catalogue.here().ConsistFiles, Names{"train.con"});
-    EXPECT_EQ(usage().size(), GetParam().printGreen && !GetParam().mainReady ? 1u : 0u);
+    EXPECT_EQ(progressShown(),
+              (Names{"0-255:0 step", "0-0:0 consists", "0-255:0 step", "0-255:0 step", "0-0:0 engines",
+                     "0-0:0 wagons", "0-255:0 step", "0-0:0 reading loco.eng", "0-255:0 step"}));
+    EXPECT_EQ(usage(), Names{"Parc\\loco.eng 1"});
 }
-
-const Names StockSteps = {"0-0:0 engines", "0-0:0 wagons", "0-255:0 step", "0-0:0 reading loco.eng",
-                          "0-255:0 step"};
-
-Names withStockSteps(Names steps) {
-    steps.insert(steps.begin(), "0-255:0 step"); // of the pictures
-    steps.push_back("0-255:0 step");             // of the folders
-    steps.insert(steps.end(), StockSteps.begin(), StockSteps.end());
-    return steps;
-}
-
-INSTANTIATE_TEST_SUITE_P(All, LoadSteps,
-                         ::testing::Values(StepCase{false, false, withStockSteps({})},
-                                           StepCase{false, true,
-                                                    withStockSteps({"0-0:0 consists", "0-255:0 step"})},
-                                           StepCase{true, false, withStockSteps({"0-255:0 step"})},
-                                           StepCase{true, true, withStockSteps({"0-255:0 step"})}));
 
 TEST_F(CatalogueTest, LoadNeverBuildsStockUseAnewAfterTheStart) {
     putConsist("train.con", "train", {"EngineData ( loco Parc )"});
@@ -118,15 +94,6 @@ TEST_F(CatalogueTest, LoadControlsTheThumbnailsAtTheStartAlone) {
         EXPECT_TRUE(LoadCatalogue(frame, catalogue, c.readOnly ? ReadOnlyLoad : LoadOptions()));
         EXPECT_EQ(!files.get(thumbnail), c.moved) << c.key;
     }
-}
-
-TEST_F(CatalogueTest, ReadOnlyLoadWritesNothing) {
-    putStock("Parc\\voit.wag", WagonBody);
-    set("ControlThumbnails", "1");
-    const Names before = files.allFiles();
-    EXPECT_TRUE(LoadCatalogue(frame, catalogue, ReadOnlyLoad));
-    EXPECT_EQ(files.allFiles(), before);
-    EXPECT_EQ(catalogue.BitmapPrefixes.size(), 4u);
 }
 
 TEST_F(CatalogueTest, AReloadLooksForPicturesAnew) {

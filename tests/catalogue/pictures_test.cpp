@@ -233,14 +233,5 @@ TEST_F(PicturesTest, AThumbnailIsReadOnceForAsLongAsItIsTheSame) {
     EXPECT_EQ(files.log, Names{}) << "the type needs no file";
 }
 
-TEST_F(PicturesTest, TheFolderIsMadeUnlessItIsToBeLeftAlone) {
-    for (const PictureFolders folders : {PictureFolders::LeftAlone, PictureFolders::MadeAsNeeded}) {
-        catalogue.pictureFolders = folders;
-        Materiel materiel = stock("voit.wag");
-        EXPECT_TRUE(load(materiel).found());
-        EXPECT_EQ(files.folderExists("\\program\\Thumbnails"), folders == PictureFolders::MadeAsNeeded);
-    }
-}
-
 } // namespace
 } // namespace zandor

@@ -161,17 +161,6 @@ TEST_F(SummariesTest, TheConsistsAreReadOnceForEachLoad) {
     EXPECT_EQ(listed(), Shown{"train.con"});
 }
 
-TEST_F(SummariesTest, AReadingThatTheUserEndedIsNotKept) {
-    for (const char* name : {"a", "b", "c"})
-        putTrain(name, {"E"});
-    progress.cancelAtYield = 2;
-    EXPECT_FALSE(prepareSummaries(frame, catalogue, progress));
-    EXPECT_EQ(listed(), Shown{});
-    progress.cancelAtYield = 0;
-    EXPECT_TRUE(prepareSummaries(frame, catalogue, progress));
-    EXPECT_EQ(listed().size(), 3u);
-}
-
 TEST_F(SummariesTest, WhileALoadRunsTheLastTableServes) {
     putTrain("train", {"E"});
     state.Busy = true;

@@ -150,21 +150,6 @@ TEST_F(CouplingTest, ThePanelNamesBrakesAndCouplings) {
     }
 }
 
-TEST_F(CouplingTest, ThePanelShowsNamesAndFigures) {
-    Materiel materiel;
-    materiel.Folder = "Parc";
-    materiel.FileName = "a.wag";
-    materiel.WagonName = "Voiture";
-    materiel.Size = "3m 4m 18.5m";
-    materiel.Mass = "heavy";
-    const MaterielInfo info = ShowMaterielInfo(frame, materiel);
-    EXPECT_EQ(info.select, " Voiture ");
-    EXPECT_EQ(info.path, "Parc\\a.wag");
-    EXPECT_EQ(info.length, "18.5 m");
-    EXPECT_EQ(info.mass, "0 t");
-    EXPECT_EQ(ShowMaterielInfo(frame, Materiel()).length, "");
-}
-
 TEST_F(CouplingTest, ThePanelShowsThePictureOfAnEntry) {
     const int index = stockOf('A');
     const MaterielInfo info = ShowMaterielInfo(editor, index);

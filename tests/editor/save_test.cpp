@@ -223,21 +223,6 @@ TEST_F(SaveTest, BlanksAtTheEndsOfNamesAreNotKept) {
     }
 }
 
-TEST_F(SaveTest, AnotherNameMakesAnotherFile) {
-    composeExample();
-    SaveFileRame(editor);
-    const std::string first = *files.get(consistPath("Test.con"));
-    files.put(consistPath("Taken.con"), "x");
-    changeShortName(editor, "Taken");
-    dialogs.shown.clear();
-    SaveFileRame(editor);
-    EXPECT_EQ(shown(), Shown{"48 Taken.con taken"});
-    changeShortName(editor, "Second");
-    SaveFileRame(editor);
-    EXPECT_EQ(files.get(consistPath("Test.con")), first);
-    EXPECT_TRUE(savedHas("Second.con", "TrainCfg ( Second"));
-}
-
 TEST_F(SaveTest, ACloseWaitsForASaveThatFails) {
     composeExample();
     state.roots.RootMSTS = "D:\\Gone";

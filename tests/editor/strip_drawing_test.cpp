@@ -94,24 +94,6 @@ TEST_F(StripDrawingTest, TheReaderOfAConsistDrawsTheLastVehicleAlone) {
     EXPECT_EQ(document.Vehicules.back().DrawnWidth, 50);
 }
 
-TEST_F(StripDrawingTest, PicturesComeFromWhereTheStockSays) {
-    struct Case {
-        bool generic, resource;
-        const char* picture;
-        PictureName expected;
-    };
-    for (const Case& c :
-         {Case{true, true, "5003", {true, "5003"}}, Case{true, false, " 5003 x", {true, "5003"}},
-          Case{false, true, "SCOTSMAN", {true, "SCOTSMAN"}},
-          Case{false, false, "C:\\Thumbnails\\5003.bmp", {false, "C:\\Thumbnails\\5003.bmp"}}}) {
-        Vehicule vehicule;
-        vehicule.ImageIsGeneric = c.generic;
-        vehicule.ImageIsResource = c.resource;
-        vehicule.Picture = c.picture;
-        EXPECT_EQ(pictureOf(vehicule), c.expected) << c.picture;
-    }
-}
-
 TEST_F(StripDrawingTest, AVehicleWithoutAPictureKeepsItsRoom) {
     add("A", "gone", "ep");
     add("B", "w80");

@@ -102,24 +102,6 @@ TEST_F(KeyboardTest, NoKeyOfTheWindowIsOneOfATextBox) {
     EXPECT_GE(keys.size(), 8u);
     for (const auto& [name, key] : keys)
         EXPECT_FALSE(ofBoxes.contains(key)) << name.toStdString() << " " << key.toString().toStdString();
-    build({"BB 9288"});
-    document.selected = 0;
-    window->refresh();
-    QLineEdit& box = get<QLineEdit>("tbFULL_NAME");
-    QTest::keyClicks(&box, "a name");
-    for (const char* name : {"actINSERT_END", "actINSERT_BEFORE", "actRENUMBER", "actFIND"})
-        for (const QKeySequence& key : window->findChild<QAction*>(name)->shortcuts()) {
-            box.setFocus();
-            box.setSelection(1, 3);
-            bool done = false;
-            const auto watch = QObject::connect(window->findChild<QAction*>(name), &QAction::triggered,
-                                                window.get(), [&done] { done = true; });
-            QTest::keySequence(&box, key);
-            QObject::disconnect(watch);
-            EXPECT_TRUE(done) << name;
-            EXPECT_EQ(box.text(), "a name") << name;
-        }
-    EXPECT_EQ(vehicles().size(), 4u) << "two ways to append, one to insert";
 }
 
 TEST_F(KeyboardTest, TheWheelTurnsOnlyWhatHasTheKeyboard) {

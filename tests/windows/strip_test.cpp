@@ -129,21 +129,6 @@ TEST_F(PictureTest, AFileIsReadAgainOnlyWhenItHasChanged) {
     EXPECT_EQ(pictures.size(name), std::nullopt);
 }
 
-TEST_F(PictureTest, WhatIsNoPictureShowsNothing) {
-    const std::string whole = bitmap(plain(40, 0));
-    for (const std::string& bytes :
-         {std::string(), std::string("BM"), std::string(5000, 'x'), whole.substr(0, 60)}) {
-        files.put("C:\\p.bmp", bytes);
-        pictures.beginRedraw();
-        const PictureName name{false, "C:\\p.bmp"};
-        if (const auto size = pictures.size(name)) // a cut file may still have a part to show
-            EXPECT_EQ(*size, (PictureSize{40, 96}));
-        else
-            EXPECT_TRUE(pictures.scaled(name, {40, 96}, false).isNull());
-    }
-    EXPECT_EQ(pictures.size({true, "GP38"}), std::nullopt);
-}
-
 TEST_F(PictureTest, TheStripIsSharpAtEveryScale) {
     files.put("C:\\p.bmp", bitmap(halves()));
     const PictureName name{false, "C:\\p.bmp"};
