@@ -207,8 +207,9 @@ void Application::rememberRoots() {
 void Application::putRootsBack() {
     if (options_.root.isEmpty() || !window_)
         return;
-    profiles_.WriteIniValue(GeneralSection, "InstallDir", keptInstallDir_, state_.IniPath);
-    profiles_.WriteIniValue(GeneralSection, "TStoreDir", keptTStoreDir_, state_.IniPath);
+    const std::string section(GeneralSection);
+    profiles_.WriteIniValues(
+        {{section, "InstallDir", keptInstallDir_}, {section, "TStoreDir", keptTStoreDir_}}, state_.IniPath);
 }
 
 } // namespace zandor

@@ -37,7 +37,7 @@ bool loadConsists(Frame& frame, Catalogue& catalogue, const std::string& stepDon
 // At the start alone, for those who want their thumbnails kept in order.
 bool wantsThumbnailControl(Frame& frame, const Catalogue& catalogue) {
     return !frame.state.MainReady && catalogue.pictureFolders == PictureFolders::MadeAsNeeded &&
-           readNumericFlag(frame.profiles, "ControlThumbnails", frame.state.IniPath);
+           readFlag(frame.profiles, "ControlThumbnails", frame.state.IniPath);
 }
 
 bool loadSteps(Frame& frame, Catalogue& catalogue, LoadOptions options) {

@@ -159,7 +159,8 @@ void ResetEditor(Editor& editor);
 void initialiseDocument(Editor& editor); // the defaults of a new consist at start
 // False: the user wanted to save first and that did not complete.
 bool newConsist(Editor& editor);
-bool closeEditor(Editor& editor); // the question on close, then the closing settings. False: stay open.
+// The question on close, then the closing settings with what else is to be kept. False: stay open.
+bool closeEditor(Editor& editor, std::vector<IniValue> alsoKept = {});
 
 // After a change of roots: empties the editor, then takes the snapshot or loads. False: the user ended the
 // load.

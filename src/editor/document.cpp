@@ -81,11 +81,11 @@ bool newConsist(Editor& editor) {
     return true;
 }
 
-bool closeEditor(Editor& editor) {
+bool closeEditor(Editor& editor, std::vector<IniValue> alsoKept) {
     if (!offerToSave(editor))
         return false;
     editor.frame.state.HasFile = false;
-    writeClosingSettings(editor.frame);
+    writeClosingSettings(editor.frame, std::move(alsoKept));
     return true;
 }
 

@@ -210,9 +210,8 @@ struct Backup {
 Backup keepBackup(Editor& editor, const std::string& folder, const std::string& file) {
     Frame& frame = editor.frame;
     const AppState& state = frame.state;
-    const bool wanted =
-        !editor.document.noBackup &&
-        (editor.document.faultyFile || readNumericFlag(frame.profiles, "BakFile", state.IniPath));
+    const bool wanted = !editor.document.noBackup &&
+                        (editor.document.faultyFile || readFlag(frame.profiles, "BakFile", state.IniPath));
     if (!state.HasFile || !wanted || !isThere(frame.files, folder + file))
         return {};
     const std::string keptIn = AddBackslash(state.BackupDir) + std::string(BackupFolder);
@@ -356,7 +355,7 @@ void SaveFileRame(Editor& editor) {
     takeSaved(editor, folder, std::move(rame), std::move(list));
     reportSaved(editor, hadFile, backup, hasMissing);
     showSaved(editor, *names);
-    if (editor.document.openedFromOptions || readNumericFlag(frame.profiles, "NewFile", frame.state.IniPath))
+    if (editor.document.openedFromOptions || readFlag(frame.profiles, "NewFile", frame.state.IniPath))
         beginNewConsist(editor);
 }
 

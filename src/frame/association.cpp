@@ -4,7 +4,7 @@ namespace zandor {
 
 void applyAssociation(Frame& frame, FileAssociation& association, const ProgramFolders& folders) {
     const std::string executable = executablePath(folders);
-    if (readNumericFlag(frame.profiles, "Associate", frame.state.IniPath))
+    if (readFlag(frame.profiles, "Associate", frame.state.IniPath))
         association.add(executable, {frame.text(Message::FileTypeName), frame.text(Message::OpenVerb)});
     else
         association.remove(executable);

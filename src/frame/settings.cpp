@@ -177,6 +177,23 @@ bool isOneLine(std::string_view text) {
     return text.find_first_of("\r\n") == std::string_view::npos;
 }
 
+bool isWritable(const IniValue& value) {
+    return isOneLine(value.section) && isOneLine(value.key) && isOneLine(value.value);
+}
+
+// Puts the value into the bytes of a file. False: it is there already.
+bool putValue(std::string& bytes, const IniValue& value) {
+    std::string text;
+    const TextEncoding encoding = decodeSettingsText(bytes, text);
+    const std::string_view section = withoutSpace(value.section), key = withoutSpace(value.key);
+    Change change{findPlace(wholeLines(text), section, key), std::string(section), std::string(key),
+                  rawValueOf(value.value)};
+    if (change.place.hasKey && valueOf(change.place.rawValue) == valueOf(change.value))
+        return false;
+    bytes = changedFile(bytes, text, encoding, std::move(change));
+    return true;
+}
+
 } // namespace
 
 bool isProfileTooLarge(FileSystem& files, std::string_view file) {
@@ -231,7 +248,11 @@ std::optional<std::string> ProfileFiles::findIniValue(std::string_view section, 
 
 bool ProfileFiles::WriteIniValue(std::string_view section, std::string_view key, std::string_view value,
                                  std::string_view file) {
-    if (!isOneLine(section) || !isOneLine(key) || !isOneLine(value))
+    return WriteIniValues({{std::string(section), std::string(key), std::string(value)}}, file);
+}
+
+bool ProfileFiles::WriteIniValues(const std::vector<IniValue>& values, std::string_view file) {
+    if (!std::ranges::all_of(values, isWritable))
         return false;
     std::string bytes;
     // A file that is there and can't be read must not be taken for a missing one: its values would be lost.
@@ -239,13 +260,10 @@ bool ProfileFiles::WriteIniValue(std::string_view section, std::string_view key,
     const bool isMissing = result == ReadResult::Missing && !files_.stamp(file) && !files_.fileExists(file);
     if (result != ReadResult::Done && !isMissing)
         return false;
-    std::string text;
-    const TextEncoding encoding = decodeSettingsText(bytes, text);
-    Change change{findPlace(wholeLines(text), withoutSpace(section), withoutSpace(key)),
-                  std::string(withoutSpace(section)), std::string(withoutSpace(key)), rawValueOf(value)};
-    if (change.place.hasKey && valueOf(change.place.rawValue) == valueOf(change.value))
+    const auto changes = std::ranges::count_if(values, [&](const IniValue& v) { return putValue(bytes, v); });
+    if (changes == 0)
         return true;
-    const bool written = replaceFile(files_, file, changedFile(bytes, text, encoding, std::move(change)));
+    const bool written = replaceFile(files_, file, bytes);
     // Two writes may fall into one tick of the disk's clock: what was parsed before is never used again.
     std::erase_if(kept_, [&](const auto& kept) { return equalIgnoringCase(kept.first, file); });
     return written;
@@ -253,43 +271,12 @@ bool ProfileFiles::WriteIniValue(std::string_view section, std::string_view key,
 
 namespace {
 
-struct DefaultValue {
-    std::string_view key, value;
-};
-
-constexpr std::string_view BackupKey = "Backup";
-
-// In the order of a new file.
-constexpr DefaultValue Defaults[] = {
-    {"Inst", "1"},
-    {"Associate", "0"},
-    {"PrintName", "1"},
-    {"PrintNumber", "0"},
-    {"ControlThumbnails", "0"},
-    {"NoAlertCoupling", "0"},
-    {"PassIsBadCoupling", "0"},
-    {"PrintGreen", "1"},
-    {"Optimize", "1"},
-    {"sfCanvas", "0"},
-    // decimal RGB with blue in the high byte
-    {"Color1", "12582847"},
-    {"Color2", "8388608"},
-    {"Color3", "12582911"},
-    {"Color4", "128"},
-    {"Color5", "16777151"},
-    {"Color6", "0"},
-    {"Color7", "16777151"},
-    {"Color8", "8388608"},
-    {"Color9", "15713940"},
-    {"NewFile", "1"},
-    {"BakFile", "1"},
-    {"CPBakFile", "1"},
-    {BackupKey, ""}, // stands for the folder of that name in the program folder
-    {"InstallDir", ""},
-    {"TStoreDir", ""},
-    {"InitialiseMSTS", "1"},
-    {"Langage", DefaultLanguage},
-};
+// Nothing for a key that isn't one of [General].
+const Setting* findSetting(std::string_view key) {
+    const auto* const row = std::ranges::find_if(
+        GeneralSettings, [key](const Setting& setting) { return equalIgnoringCase(setting.key, key); });
+    return row == std::end(GeneralSettings) ? nullptr : row;
+}
 
 void appendLine(std::string& text, std::initializer_list<std::string_view> parts) {
     for (const std::string_view part : parts)
@@ -307,8 +294,8 @@ void WriteDefaultIni(FileSystem& files, std::string_view path, std::string_view 
     appendLine(text, {});
     appendLine(text, {"[", GeneralSection, "]"});
     const std::string backup = files.nativePath(std::string(programFolder) + "\\Backup\\");
-    for (const DefaultValue& row : Defaults)
-        appendLine(text, {row.key, "=", row.key == BackupKey ? std::string_view(backup) : row.value});
+    for (const Setting& row : GeneralSettings)
+        appendLine(text, {row.key, "=", row.key == "Backup" ? std::string_view(backup) : row.fallback});
     appendLine(text, {});
     const TextEncoding encoding = fitsWindows1252(text) ? TextEncoding::Windows1252 : TextEncoding::Utf8;
     replaceFile(files, path, encodeText(text, encoding));
@@ -317,17 +304,14 @@ void WriteDefaultIni(FileSystem& files, std::string_view path, std::string_view 
 std::string readSetting(ProfileFiles& profiles, std::string_view key, std::string_view file) {
     if (auto value = profiles.findIniValue(GeneralSection, key, file))
         return *std::move(value);
-    const auto row = std::ranges::find_if(
-        Defaults, [key](const DefaultValue& value) { return equalIgnoringCase(value.key, key); });
-    return row == std::end(Defaults) ? std::string() : std::string(row->value);
+    const Setting* const row = findSetting(key);
+    return row ? std::string(row->fallback) : std::string();
 }
 
-bool readNumericFlag(ProfileFiles& profiles, std::string_view key, std::string_view file) {
-    return numericValue(readSetting(profiles, key, file)) == 1;
-}
-
-bool readExactFlag(ProfileFiles& profiles, std::string_view key, std::string_view file) {
-    return readSetting(profiles, key, file) == "1";
+bool readFlag(ProfileFiles& profiles, std::string_view key, std::string_view file) {
+    const Setting* const row = findSetting(key);
+    const std::string text = readSetting(profiles, key, file);
+    return row && row->kind == SettingKind::ExactFlag ? text == "1" : numericValue(text) == 1;
 }
 
 } // namespace zandor

@@ -21,13 +21,12 @@ std::string setting(const Frame& frame, std::string_view key) {
     return readSetting(frame.profiles, key, frame.state.IniPath);
 }
 
-void writeSetting(Frame& frame, std::string_view key, std::string_view value) {
-    frame.profiles.WriteIniValue(GeneralSection, key, value, frame.state.IniPath);
+bool flag(const Frame& frame, std::string_view key) {
+    return readFlag(frame.profiles, key, frame.state.IniPath);
 }
 
-// A folder as a person would write it; an empty text stays one.
-void writeFolderSetting(Frame& frame, std::string_view key, const std::string& folder) {
-    writeSetting(frame, key, folder.empty() ? std::string() : frame.files.nativePath(folder));
+IniValue generalValue(std::string_view key, std::string value) {
+    return {std::string(GeneralSection), std::string(key), std::move(value)};
 }
 
 std::string inProgramFolder(const Frame& frame, std::string_view name) {
@@ -89,7 +88,7 @@ void provideSettings(Frame& frame) {
     if (frame.files.read(path, bytes, LargestProfile) == ReadResult::Done) {
         decodeSettingsText(bytes, text);
         if (!hasLineBeginning(text, "ControlThumbnails"))
-            writeSetting(frame, "ControlThumbnails", "1");
+            frame.profiles.WriteIniValues({generalValue("ControlThumbnails", "1")}, path);
     } else if (!frame.files.stamp(path) && !FileExists(frame.files, path)) {
         WriteDefaultIni(frame.files, path, frame.state.Title, frame.state.ProgramFolder);
     }
@@ -99,13 +98,12 @@ void provideSettings(Frame& frame) {
 // everybody's: what stands there under this name need not be the installer's.
 void cleanUpAfterInstallation(Frame& frame) {
     const std::string folder = GetTempFolder() + "\\QX_Setup";
-    if (readNumericFlag(frame.profiles, "Inst", frame.state.IniPath) && frame.files.isOwnFolder(folder)) {
-        for (const FolderEntry& entry : frame.files.listFolder(folder))
-            if (!entry.isFolder)
-                frame.files.deleteFile(folder + "\\" + entry.name);
-        frame.files.deleteFolder(folder);
-    }
-    writeSetting(frame, "Inst", "0");
+    if (!flag(frame, "Inst") || !frame.files.isOwnFolder(folder))
+        return;
+    for (const FolderEntry& entry : frame.files.listFolder(folder))
+        if (!entry.isFolder)
+            frame.files.deleteFile(folder + "\\" + entry.name);
+    frame.files.deleteFolder(folder);
 }
 
 void makeBackupFolder(Frame& frame) {
@@ -144,22 +142,10 @@ std::string existingFolder(FileSystem& files, std::string_view path) {
 }
 
 void readSettings(Frame& frame) {
-    struct Flag {
-        bool AppState::*flag;
-        std::string_view key;
-        bool numeric; // read by its number, not by its exact text
-    };
-    constexpr Flag flags[] = {{&AppState::PrintName, "PrintName", true},
-                              {&AppState::NoAlertCoupling, "NoAlertCoupling", true},
-                              {&AppState::PassIsBadCoupling, "PassIsBadCoupling", false},
-                              {&AppState::Optimize, "Optimize", false},
-                              {&AppState::PrintGreen, "PrintGreen", false},
-                              {&AppState::UseCanvas, "sfCanvas", false},
-                              {&AppState::PrintNumber, "PrintNumber", false}};
     AppState& state = frame.state;
-    for (const Flag& row : flags)
-        state.*row.flag = row.numeric ? readNumericFlag(frame.profiles, row.key, state.IniPath)
-                                      : readExactFlag(frame.profiles, row.key, state.IniPath);
+    for (const Setting& row : GeneralSettings)
+        if (row.flag)
+            state.*row.flag = flag(frame, row.key);
     const std::string backup = setting(frame, "Backup");
     state.BackupDir = AddBackslash(backup.empty() ? inProgramFolder(frame, "Backup")
                                                   : std::string(withoutTrailingSeparators(backup)));
@@ -233,8 +219,10 @@ void loadSettings(Frame& frame, const ProgramFolders& folders) {
     tellSettingsTooLarge(frame);
     cleanUpAfterInstallation(frame);
     readSettings(frame);
-    // makes the key in the settings of an older release
-    writeSetting(frame, "PassIsBadCoupling", state.PassIsBadCoupling ? "1" : "0");
+    // the second makes the key in the settings of an older release
+    frame.profiles.WriteIniValues(
+        {generalValue("Inst", "0"), generalValue("PassIsBadCoupling", state.PassIsBadCoupling ? "1" : "0")},
+        state.IniPath);
     makeBackupFolder(frame);
     state.HasFile = false;
 }
@@ -270,8 +258,7 @@ bool findRoots(Frame& frame) {
 
 void assignRoots(Frame& frame) {
     // A Train Store that there isn't can't come first.
-    const bool simulatorFirst = frame.state.roots.RootTStore.empty() ||
-                                readNumericFlag(frame.profiles, "InitialiseMSTS", frame.state.IniPath);
+    const bool simulatorFirst = frame.state.roots.RootTStore.empty() || flag(frame, "InitialiseMSTS");
     frame.state.roots.first = simulatorFirst ? Root::Simulator : Root::Store;
 }
 
@@ -298,11 +285,16 @@ bool AskSaveChanges(Frame& frame, const std::string& consistName) {
     return given == answer::Yes;
 }
 
-void writeClosingSettings(Frame& frame) {
+void writeClosingSettings(Frame& frame, std::vector<IniValue> alsoKept) {
     frame.state.HasFile = false;
-    writeFolderSetting(frame, "InstallDir", frame.state.roots.RootMSTS);
-    writeFolderSetting(frame, "TStoreDir", frame.state.roots.RootTStore);
-    writeSetting(frame, "Langage", frame.state.Language);
+    for (const Setting& row : GeneralSettings) {
+        if (!row.keptAtClose)
+            continue;
+        const std::string& text = row.keptAtClose(frame.state);
+        const bool isFolder = row.kind == SettingKind::Folder && !text.empty();
+        alsoKept.push_back(generalValue(row.key, isFolder ? frame.files.nativePath(text) : text));
+    }
+    frame.profiles.WriteIniValues(alsoKept, frame.state.IniPath);
 }
 
 } // namespace zandor

@@ -6,6 +6,7 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace zandor {
 
@@ -54,7 +55,7 @@ std::string consistFromCommandLine(Frame& frame, std::string_view argument);
 // True when there are unsaved changes and the user wants them saved.
 bool AskSaveChanges(Frame& frame, const std::string& consistName);
 
-// The three keys that a close writes.
-void writeClosingSettings(Frame& frame);
+// What a close writes: the folders, the language, and what else is to be kept, in one write.
+void writeClosingSettings(Frame& frame, std::vector<IniValue> alsoKept = {});
 
 } // namespace zandor

@@ -57,14 +57,16 @@ std::optional<WindowPlace> readWindowPlace(const Frame& frame, std::string_view 
     return place.width > 0 && place.height > 0 ? std::optional(place) : std::nullopt;
 }
 
-void writeWindowPlace(const Frame& frame, std::string_view section, std::string_view prefix,
-                      const WindowPlace& place) {
-    const auto write = [&](std::string_view key, int value) {
-        frame.profiles.WriteIniValue(section, keyOf(prefix, key), std::to_string(value), frame.state.IniPath);
+std::vector<IniValue> windowPlaceValues(std::string_view section, std::string_view prefix,
+                                        const WindowPlace& place) {
+    std::vector<IniValue> values;
+    const auto add = [&](std::string_view key, int value) {
+        values.push_back({std::string(section), keyOf(prefix, key), std::to_string(value)});
     };
     for (const NumberRow& row : Numbers)
-        write(row.key, place.*row.place);
-    write("State", place.maximised ? MaximisedState : 0);
+        add(row.key, place.*row.place);
+    add("State", place.maximised ? MaximisedState : 0);
+    return values;
 }
 
 WindowPlace placeOnScreen(WindowPlace place, const std::vector<ScreenArea>& screens,

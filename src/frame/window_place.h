@@ -19,8 +19,9 @@ struct WindowPlace {
 // Nothing when a key is missing or the size is none.
 std::optional<WindowPlace> readWindowPlace(const Frame& frame, std::string_view section,
                                            std::string_view prefix);
-void writeWindowPlace(const Frame& frame, std::string_view section, std::string_view prefix,
-                      const WindowPlace& place);
+// What is to be written.
+std::vector<IniValue> windowPlaceValues(std::string_view section, std::string_view prefix,
+                                        const WindowPlace& place);
 
 // The part of a screen that windows may stand on: all but its panels.
 struct ScreenArea {

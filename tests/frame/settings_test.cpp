@@ -135,7 +135,8 @@ TEST_F(Settings, AMissingFileIsMadeAndNothingIsWrittenTwice) {
 
 TEST_F(Settings, ALineBreakCannotGetIntoTheFile) {
     files.put(Path, "[General]\r\na=1\r\n");
-    EXPECT_FALSE(write("a", "x\r\n[Other]\r\n"));
+    EXPECT_FALSE(
+        profiles.WriteIniValues({{"General", "a", "2"}, {"General", "b", "x\r\n[Other]\r\n"}}, Path));
     EXPECT_EQ(files.get(Path), "[General]\r\na=1\r\n");
 }
 
@@ -181,10 +182,11 @@ TEST_F(Settings, ADiskThatFailsAtAnyCallLosesNoSetting) {
             ProfileFiles kept(disk);
             disk.put(Path, before);
             disk.failAt(call, andAllAfter);
-            const bool written = kept.WriteIniValue("General", "a", "3", Path);
+            const bool written = kept.WriteIniValues({{"General", "a", "3"}, {"Other", "c", "4"}}, Path);
             const bool failed = disk.failed();
             disk.failAt(0);
-            EXPECT_EQ(disk.get(Path), written ? "[General]\r\na=3\r\nb=2\r\n" : before) << call;
+            EXPECT_EQ(disk.get(Path), written ? "[General]\r\na=3\r\nb=2\r\n[Other]\r\nc=4\r\n" : before)
+                << call;
             EXPECT_EQ(kept.ReadIniValue("General", "a", Path), written ? "3" : "1") << call;
             if (!failed)
                 break;
@@ -213,21 +215,17 @@ TEST_F(Settings, AKeyThatIsMissingHasItsDefault) {
     const std::string whole = files.get(Path).value_or("");
     for (std::size_t size = 0; size <= whole.size(); ++size) {
         files.put(Path, whole.substr(0, size));
-        for (const char* key :
-             {"Inst", "PrintName", "PrintGreen", "Optimize", "NewFile", "BakFile", "InitialiseMSTS"})
-            EXPECT_TRUE(readNumericFlag(profiles, key, Path) && readExactFlag(profiles, key, Path))
-                << key << size;
-        for (const char* key :
-             {"Associate", "PrintNumber", "NoAlertCoupling", "PassIsBadCoupling", "sfCanvas"})
-            EXPECT_FALSE(readNumericFlag(profiles, key, Path) || readExactFlag(profiles, key, Path))
-                << key << size;
+        for (const Setting& row : GeneralSettings)
+            if (row.kind == SettingKind::NumericFlag || row.kind == SettingKind::ExactFlag) {
+                EXPECT_EQ(readFlag(profiles, row.key, Path), row.fallback == "1") << row.key << size;
+            }
     }
     files.deleteFile(Path);
     EXPECT_EQ(readSetting(profiles, "color7", Path), "16777151");
     EXPECT_EQ(readSetting(profiles, "Langage", Path), "Français");
     EXPECT_EQ(readSetting(profiles, "InstallDir", Path), "");
     files.put(Path, "[General]\r\nBakFile=\r\nColor7=\r\n");
-    EXPECT_FALSE(readNumericFlag(profiles, "BakFile", Path)) << "empty is what the file says";
+    EXPECT_FALSE(readFlag(profiles, "BakFile", Path)) << "empty is what the file says";
     EXPECT_EQ(readSetting(profiles, "Color7", Path), "");
 }
 
@@ -245,9 +243,10 @@ TEST_F(Settings, ABooleanIsReadInTwoWays) {
                  {"0", false, false},    {"-1", false, false}, {"2", false, false},    {"", false, false},
                  {"true", false, false}, {" 1 ", true, true},  {"\"1\"", true, true},  {"1.5", false, false}};
     for (const auto& c : cases) {
-        files.put(Path, "[General]\r\nKey=" + std::string(c.value) + "\r\n");
-        EXPECT_EQ(readNumericFlag(profiles, "Key", Path), c.numeric) << c.value;
-        EXPECT_EQ(readExactFlag(profiles, "Key", Path), c.exact) << c.value;
+        const std::string value(c.value);
+        files.put(Path, "[General]\r\nBakFile=" + value + "\r\nOptimize=" + value + "\r\n");
+        EXPECT_EQ(readFlag(profiles, "bakfile", Path), c.numeric) << value;
+        EXPECT_EQ(readFlag(profiles, "Optimize", Path), c.exact) << value;
     }
 }
 

@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace zandor {
 namespace {
 
@@ -319,7 +321,10 @@ TEST_F(StartUp, ACloseKeepsFoldersAndLanguageForTheNextRun) {
     state.roots.RootTStore = "";
     state.Language = "Deutsch";
     state.HasFile = true;
-    writeClosingSettings(frame);
+    files.log.clear();
+    writeClosingSettings(frame, {{"Window", "MainTop", "7"}});
+    EXPECT_EQ(std::ranges::count_if(files.log, [](auto& call) { return call.starts_with("writeFile"); }), 1);
+    EXPECT_EQ(profiles.ReadIniValue("Window", "MainTop", state.IniPath), "7");
     EXPECT_FALSE(state.HasFile);
     EXPECT_EQ(setting("TStoreDir"), "");
     state.roots.RootMSTS.clear();

@@ -50,7 +50,7 @@ class Shots {
     Shots(const QDir& folder, const char* language, bool dark) : folder_(folder), dark_(dark) {
         putFolder(test_.files, ZANDOR_SOURCE_DIR "/demo/Train Simulator", "C:\\MSTS\\");
         putFolder(test_.files, ZANDOR_THUMBNAILS, test_.state.ProgramFolder + "\\Thumbnails\\");
-        test_.state.RootMSTS = test_.state.RootPrimary = "C:\\MSTS";
+        test_.state.roots.RootMSTS = "C:\\MSTS";
         test_.state.Language = language;
         test_.state.PrintName = test_.state.PrintGreen = test_.state.Optimize = true;
         LoadCatalogue(test_.frame, catalogue_, ReadOnlyLoad);

@@ -316,8 +316,7 @@ void frmPrincipal::aboutPressed() {
 
 void frmPrincipal::closeEvent(QCloseEvent* event) {
     emit closeAsked();
-    if (closeEditor(editor_)) {
-        place_->keep();
+    if (closeEditor(editor_, place_->values())) {
         event->accept();
         return;
     }

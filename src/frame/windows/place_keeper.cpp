@@ -60,7 +60,7 @@ WindowPlace inTheMiddle(const QSize& size) {
 
 PlaceKeeper::PlaceKeeper(QWidget& window, const Frame& frame, const char* section, const char* prefix,
                          const QSize& defaultSize)
-    : QObject(&window), window_(window), frame_(frame), section_(section), prefix_(prefix) {
+    : QObject(&window), window_(window), section_(section), prefix_(prefix) {
     const auto kept = readWindowPlace(frame, section, prefix);
     place_ = placeOnScreen(kept.value_or(inTheMiddle(defaultSize)), screensNow(), framesOf(window));
     give(place_);
@@ -81,10 +81,10 @@ WindowPlace PlaceKeeper::current() const {
     return {window_.x(), window_.y(), window_.width(), window_.height(), false};
 }
 
-void PlaceKeeper::keep() const {
+std::vector<IniValue> PlaceKeeper::values() const {
     WindowPlace place = hasOwnSize(window_) ? current() : place_;
     place.maximised = window_.isMaximized();
-    writeWindowPlace(frame_, section_, prefix_, place);
+    return windowPlaceValues(section_, prefix_, place);
 }
 
 bool PlaceKeeper::eventFilter(QObject*, QEvent* event) {

@@ -20,7 +20,7 @@ class PlaceKeeper final : public QObject {
     PlaceKeeper(QWidget& window, const Frame& frame, const char* section, const char* prefix,
                 const QSize& defaultSize);
 
-    void keep() const; // writes the place to the settings
+    std::vector<IniValue> values() const; // the place, to be written to the settings
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -32,7 +32,6 @@ class PlaceKeeper final : public QObject {
     void holdOnScreen();
 
     QWidget& window_;
-    const Frame& frame_;
     const char* const section_;
     const char* const prefix_;
     WindowPlace place_; // the last one that was neither maximised nor minimised
