@@ -328,23 +328,6 @@ TEST_P(Replacing, KeepsPermissionsOwnerAndLinks) {
     EXPECT_TRUE(replaceFile(*files, sim("real/" + std::string(250, 'n')), "the longest names have room"));
 }
 
-TEST_P(Replacing, FollowsALinkToAnotherDisk) {
-    std::string other = "/dev/shm/disk-XXXXXX";
-    struct stat own {
-    }, shared{};
-    if (stat(root.c_str(), &own) != 0 || stat("/dev/shm", &shared) != 0 || own.st_dev == shared.st_dev ||
-        !mkdtemp(other.data()))
-        GTEST_SKIP() << "no second disk";
-    std::ofstream(other + "/target.con") << "old";
-    disk::create_symlink(other + "/target.con", native("a.con"));
-    EXPECT_TRUE(replaceFile(*files, sim("a.con"), "new"));
-    EXPECT_EQ(read(other + "/target.con"), "new");
-    EXPECT_TRUE(disk::is_symlink(native("a.con")));
-    EXPECT_EQ(namesIn(""), Names{"a.con"});
-    EXPECT_EQ(files->listFolder(other).size(), 1u);
-    disk::remove_all(other);
-}
-
 TEST_P(Replacing, TouchesNothingBesideTheFile) {
     make("outside/mine.txt", "mine");
     make("dir/a.con", "old");

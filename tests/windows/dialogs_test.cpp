@@ -4,7 +4,6 @@
 #include "frame/windows/folder_window.h"
 #include "frame/windows/help.h"
 #include "frame/windows/help_window.h"
-#include "frame/windows/progress_bar.h"
 #include "frame/windows/progress_window.h"
 #include "frame/windows/qt_dialogs.h"
 #include "frame/windows/question.h"
@@ -290,24 +289,6 @@ TEST_F(FrameWindow, AThumbnailIsOnlyReplacedWhenThatWasConfirmed) {
 
 // ---- progress
 
-TEST_F(FrameWindow, AReloadRunsInItsWindowAndEndsWithIt) {
-    state.roots.RootMSTS = "C:\\MSTS";
-    QtProgress progress;
-    frmProgress window(test.frame);
-    EXPECT_TRUE(window.windowTitle().contains("MSTS"));
-    bool up = false;
-    EXPECT_TRUE(window.run(progress, [&] {
-        up = window.isVisible() && state.ProgressUp;
-        progress.ShowProgress(0, 200, 50, "bb1.eng");
-    }));
-    EXPECT_TRUE(up);
-    EXPECT_FALSE(state.ProgressUp);
-    EXPECT_FALSE(window.isVisible());
-    EXPECT_EQ(part<QLabel>(window, "lblTEXT").text(), "bb1.eng");
-    EXPECT_DOUBLE_EQ(part<ProgressBar>(window, "pctPROGRESS").share(), 0.25);
-    EXPECT_TRUE(progress.yield()) << "no window is left that could end an operation";
-}
-
 TEST_F(FrameWindow, ClosingTheWindowOfAReloadStopsItAtItsNextStep) {
     for (const bool byKey : {true, false}) {
         QtProgress progress;
@@ -320,8 +301,10 @@ TEST_F(FrameWindow, ClosingTheWindowOfAReloadStopsItAtItsNextStep) {
                 else if (steps == 3)
                     window.close();
             }
-            EXPECT_TRUE(window.isVisible()) << "it stays until the reload has stopped";
+            EXPECT_TRUE(window.isVisible() && state.ProgressUp) << "it stays until the reload has stopped";
         });
+        EXPECT_FALSE(state.ProgressUp);
+        EXPECT_TRUE(progress.yield()) << "no window is left that could end an operation";
         EXPECT_FALSE(whole);
         EXPECT_EQ(steps, 4);
         EXPECT_FALSE(window.isVisible());

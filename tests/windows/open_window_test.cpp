@@ -152,10 +152,6 @@ TEST_F(OpenWindowTest, EveryWayOfOpeningOpensTheSelectedConsist) {
             QTest::mouseDClick(list().viewport(), Qt::LeftButton, {}, at);
         },
         [this] {
-            QTest::keyClick(&list(), Qt::Key_Down);
-            QTest::keyClick(&list(), Qt::Key_Return);
-        },
-        [this] {
             QTest::keyClick(&list(), Qt::Key_End);
             QTest::keyClick(&list(), Qt::Key_Home);
             QTest::keyClick(&list(), Qt::Key_Down);

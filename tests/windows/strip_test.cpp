@@ -9,15 +9,6 @@ namespace {
 
 constexpr QColor Red{255, 0, 0}, Yellow{255, 255, 0};
 
-// Red letters, whose edges blend with what lies behind them.
-bool holdsRedText(const QImage& picture, const QRect& area) {
-    for (int y = area.top(); y <= area.bottom(); ++y)
-        for (int x = area.left(); x <= area.right(); ++x)
-            if (const QColor colour = picture.pixelColor(x, y); colour.red() > 170 && colour.blue() < 110)
-                return true;
-    return false;
-}
-
 TEST_F(WindowTest, AHeldVehicleIsOutlinedAndItsPlaceMarked) {
     build({"BB 9288", "CC 6500", "BB 67400"});
     QTest::mousePress(&strip(), Qt::LeftButton, {}, onVehicle(0));
@@ -35,34 +26,6 @@ TEST_F(WindowTest, AHeldVehicleIsOutlinedAndItsPlaceMarked) {
     EXPECT_NE(pixel({3 * PlainPictureWidth - 2, 5}), Red);
     QTest::keyClick(&strip(), Qt::Key_Escape);
     EXPECT_NE(pixel({1, 40}), Yellow);
-}
-
-// Every opaque point of the mark stands in the picture.
-bool holdsMark(const QImage& picture, const QPoint& at, const QImage& mark) {
-    for (int y = 0; y < mark.height(); ++y)
-        for (int x = 0; x < mark.width(); ++x)
-            if (mark.pixelColor(x, y).alpha() == 255 &&
-                mark.pixelColor(x, y) != picture.pixelColor(at + QPoint(x, y)))
-                return false;
-    return true;
-}
-
-TEST_F(WindowTest, MissingStockAndBadCouplingsShow) {
-    build({"BB 9288"});
-    const RameItem gone{false, 5, false, "gone", "Cars", {}};
-    document.PictureWidth = PlainPictureWidth;
-    InsertVehicule(editor, 0, false, false, &gone);
-    build({"Wagon plat", "CC 6500"}); // bar behind nothing known, chain behind bar
-    window->refresh();
-    const QImage picture = strip().grab().toImage();
-    EXPECT_TRUE(holdsRedText(picture, {PlainPictureWidth, 17, PlainPictureWidth, 15}));
-    const auto holds = [&](int joint, CouplingMark kind, int top) {
-        const QImage mark = strip().pictures().mark(kind, 1).toImage();
-        return holdsMark(picture, {joint * PlainPictureWidth - mark.width() / 2, top}, mark);
-    };
-    EXPECT_TRUE(holds(2, CouplingMark::Bar, 51)); // an unknown coupling fits everything
-    EXPECT_FALSE(holds(2, CouplingMark::NotCompatible, 0));
-    EXPECT_TRUE(holds(3, CouplingMark::NotCompatible, 0));
 }
 
 TEST_F(WindowTest, ScrollingAndTheTimerOnlyCopy) {
@@ -138,7 +101,8 @@ TEST_F(PictureTest, TheStripIsSharpAtEveryScale) {
                                           CopyPicture{name, {0, 0, 40, 96}, false},
                                           CopyPicture{name, {40, 0, 40, 96}, true},
                                           FillBar{{10, 10, 5, 2}, {0, 255, 0}},
-                                          DrawLine{20, 30, 20, 35, {0, 255, 0}}};
+                                          DrawLine{20, 30, 20, 35, {0, 255, 0}},
+                                          PlaceMark{CouplingMark::NotCompatible, 81, 60}};
     for (const double ratio : {1.0, 1.5, 2.0, 3.0}) {
         StripPicture strip;
         strip.carryOut(steps, pictures, QFont(), ratio);
@@ -158,6 +122,9 @@ TEST_F(PictureTest, TheStripIsSharpAtEveryScale) {
         EXPECT_EQ(at(12, 9), red);
         EXPECT_EQ(at(20.5, 32), green);
         EXPECT_EQ(at(22.5, 32), blue);
+        const QImage mark = pictures.mark(CouplingMark::NotCompatible, ratio).toImage();
+        EXPECT_EQ(at(90, 69), mark.pixelColor(mark.width() / 2, mark.height() / 2));
+        EXPECT_NE(at(90, 69), red);
     }
 }
 
