@@ -12,12 +12,13 @@
 #include <algorithm>
 #include <array>
 #include <cstdio>
+#include <cstdlib>
 
 namespace zandor::bench {
 
 namespace {
 
-constexpr int Vehicles = 100, Runs = 41;
+constexpr int Vehicles = 100, Runs = 41, ViewWidth = 800;
 
 template <class Work> double medianMs(Work work) {
     std::array<double, Runs> times;
@@ -52,7 +53,8 @@ void compose(Editor& editor) {
     addStock(editor.catalogue, "Tender", "Tender", "", "Automatic");
     initialiseDocument(editor);
     for (int i = 0; i < Vehicles; ++i)
-        appendStock(editor, i % 5);
+        if (!appendStock(editor, i % 5).done)
+            std::abort();
     for (int i = 0; i < Vehicles; i += 3)
         editor.document.Vehicules[std::size_t(i)].Flipped = true;
 }
@@ -77,11 +79,11 @@ void measure(Editor& editor, double ratio) {
     StripPicture strip;
     const auto redraw = [&] {
         pictures.beginRedraw();
-        strip.carryOut(DrawStrip(editor, pictures, letters), pictures, font, ratio);
+        strip.carryOut(DrawStrip(editor, pictures, letters, ViewWidth), pictures, font, ratio);
     };
     redraw();
     const double whole = medianMs(redraw);
-    const auto steps = DrawStrip(editor, pictures, letters);
+    const auto steps = DrawStrip(editor, pictures, letters, ViewWidth);
     QPixmap target(strip.pixmap().size());
     const double copies = medianMs([&] { copyPictures(target, steps, pictures, ratio); });
     QPixmap shown(QSize(1000, StripHeight) * ratio);

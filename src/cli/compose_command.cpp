@@ -103,7 +103,7 @@ class ComposeCommand final : public Command {
         const std::string path = consistsPath(session.state.roots.RootPrimary()) + shortName + ".con";
         const bool exists = FileExists(session.frame.files, path);
         initialiseDocument(editor);
-        if (exists && overwrite_ && !openConsist(editor, path))
+        if (exists && overwrite_ && !session.tell(openConsist(editor, path)))
             return exitcode::Faults;
         if (!putVehicles(session, editor, wanted))
             return exitcode::Faults;
@@ -114,8 +114,7 @@ class ComposeCommand final : public Command {
             trim(controls.shortName).empty() || trim(controls.fullName).empty() || (exists && !overwrite_);
         editor.document.noBackup = noBackup_;
         session.atWork = path;
-        SaveFileRame(editor);
-        if (session.state.Modified)
+        if (!session.tell(SaveFileRame(editor)))
             return refused ? exitcode::Faults : exitcode::CannotRun;
         session.result << escapeControls(session.shown(path)) << "\n";
         return exitcode::Done;
@@ -129,20 +128,20 @@ class ComposeCommand final : public Command {
         document.Loading = true; // the strip is laid out once, when all of it stands
         for (const WantedVehicle& vehicle : wanted) {
             session.dialogs.subject = vehicle.given;
-            if (!appendStock(editor, vehicle.index))
+            if (!session.tell(appendStock(editor, vehicle.index)))
                 return false;
             document.Vehicules.back().Flipped = vehicle.flipped;
         }
         session.dialogs.subject.clear();
         document.Loading = false;
-        session.state.Modified = document.controls.saveEnabled = true;
+        document.Modified = true;
         updateStrip(editor);
         return true;
     }
 
     // A consist that has a file keeps its short name.
     void putNames(Editor& editor, const std::string& shortName) const {
-        const bool isNew = !editor.frame.state.HasFile;
+        const bool isNew = !editor.document.HasFile;
         if (full_->count() > 0 || isNew)
             changeFullName(editor, full_->count() > 0 ? fullName_ : shortName);
         if (isNew)

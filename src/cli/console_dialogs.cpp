@@ -25,11 +25,15 @@ int harmlessAnswer(int buttons) {
 
 } // namespace
 
-int ConsoleDialogs::ShowMessage(const std::string& text, int messageStyle, const std::string&,
-                                const std::string&, int) {
+void ConsoleDialogs::print(const std::string& text, int messageStyle) {
     if ((messageStyle & IconBits) != style::Information)
         ++alerts;
     err_ << oneLine(subject.empty() ? text : subject + ": " + text) << '\n';
+}
+
+int ConsoleDialogs::ShowMessage(const std::string& text, int messageStyle, const std::string&,
+                                const std::string&, int) {
+    print(text, messageStyle);
     return harmlessAnswer(messageStyle & ButtonBits);
 }
 

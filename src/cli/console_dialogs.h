@@ -13,6 +13,7 @@ class ConsoleDialogs final : public Dialogs {
     explicit ConsoleDialogs(std::ostream& err) : err_(err) {}
 
     // A line each. All but information counts as an alert.
+    void print(const std::string& text, int messageStyle);
     int ShowMessage(const std::string& text, int messageStyle, const std::string& title,
                     const std::string& helpFile, int helpContext) override;
     std::optional<std::string> askOpenFile(const std::string& title, const std::string& filter,

@@ -60,7 +60,7 @@ class OpenCommand final : public Command {
         ConsistDocument document;
         Editor editor{session.frame, catalogue, document};
         initialiseDocument(editor);
-        if (!openConsist(editor, *path))
+        if (!session.tell(openConsist(editor, *path)))
             return exitcode::Faults;
         const bool missing = print(session, editor, *path);
         return missing || session.dialogs.alerts > 0 ? exitcode::Faults : exitcode::Done;

@@ -49,6 +49,12 @@ int Session::fault(std::string_view text) {
     return exitcode::Faults;
 }
 
+bool Session::tell(const Outcome& outcome) {
+    for (const Finding& finding : outcome.told)
+        dialogs.print(wordFinding(frame, finding), finding.style);
+    return outcome.done;
+}
+
 bool Session::refuse(std::string_view text) {
     cannotRun(text);
     return false;

@@ -6,7 +6,7 @@
 #include "cli/command_line.h"
 #include "cli/console_dialogs.h"
 #include "cli/result_text.h"
-#include "frame/frame.h"
+#include "frame/finding.h"
 #include "simfiles/sim_file.h"
 
 #include <ostream>
@@ -38,6 +38,9 @@ class Session {
     // Tell in one line what is wrong, and return the exit code that goes with it. Controls are escaped.
     int cannotRun(std::string_view text);
     int fault(std::string_view text);
+
+    // What an operation has found, a line each to the error output. Returns whether the operation is done.
+    bool tell(const Outcome& outcome);
 
     // The path as messages and results show it.
     std::string shown(std::string_view path) { return frame.files.nativePath(path); }

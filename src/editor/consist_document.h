@@ -1,9 +1,11 @@
 // The consist under edit: its strip of vehicles, the names, the drag in hand, and the state of the controls
-// that show it. Windows call the operations and show what stands here; they hold no state of their own.
+// that show it. Windows call the operations, show what stands here, and tell what an operation returns; they
+// hold nothing of the consist themselves.
 #pragma once
 
 #include "catalogue/catalogue.h"
 #include "catalogue/pictures.h"
+#include "frame/finding.h"
 #include "simfiles/rame.h"
 
 #include <optional>
@@ -44,17 +46,10 @@ struct EditorControls {
     bool shortNameRed = false;    // it shows the double name
     std::string fullName;         // tbFULL_NAME
     int durability = 1000;        // Slider1: 1000 for 1.00000
-    bool saveEnabled = false;     // cmdSAVE
     bool deleteEnabled = false;   // cmdDELETE
     bool numberEnabled = false;   // cmdNUMEROTATION
-    int scrollValue = 0;          // HScrollRAME, pixels
-    int scrollMaximum = 0;
-    int scrollSmallStep = 1, scrollLargeStep = 1;
-    bool scrollEnabled = false;
-    int viewWidth = 800; // inner size of PicRAME in pixels; the window keeps it up to date
-    int viewHeight = StripHeight;
-    std::string totals;     // lblLongueurNewRame
-    std::string resistance; // lblRESISTANCE
+    std::string totals;           // lblLongueurNewRame
+    std::string resistance;       // lblRESISTANCE
 };
 
 struct ConsistDocument {
@@ -63,7 +58,10 @@ struct ConsistDocument {
     std::vector<Vehicule> Vehicules{1};
     std::vector<StockPair> RameStockOld, RameStockNew;
     EditorControls controls;
-    bool Loading = false; // OpenFileRame is running: no renumbering
+    bool Modified = false;     // there are unsaved changes: cmdSAVE is enabled
+    bool HasFile = false;      // it came from a file or was saved to one
+    std::string ConsistFolder; // where that file lies; with a trailing "\"
+    bool Loading = false;      // OpenFileRame is running: no renumbering
     int NextNumber = 0;
     int PictureWidth = 0;
     int StripWidth = 0;
@@ -87,6 +85,10 @@ struct Editor {
     ConsistDocument& document;
 };
 
+// A point of the strip: its x in pixels from the strip's own beginning, however far it is scrolled. Nothing:
+// the pointer isn't on what is seen of the strip.
+using StripPoint = std::optional<int>;
+
 struct StripHit {
     bool hit = false;
     int index = 0; // only with hit
@@ -99,49 +101,46 @@ bool hasVehicles(const ConsistDocument& document);
 const Materiel* materielOf(const Editor& editor, const Vehicule& vehicule); // nullptr for a Missing one
 bool isEngine(const Editor& editor, const Vehicule& vehicule);
 
-StripHit HitTestStrip(const ConsistDocument& document, int x, int y);
+StripHit HitTestStrip(const ConsistDocument& document, StripPoint point);
 
 // Adds a vehicle at the drag's target or at the end: entry `index` of Materiels, of the simulator snapshot,
 // or with neither a Missing one made from `origin`.
-// Outside a loading it becomes the selected one.
-void InsertVehicule(Editor& editor, int index, bool fromMateriels, bool fromSimulator,
+// Outside a loading it becomes the selected one. False: the strip is full.
+bool InsertVehicule(Editor& editor, int index, bool fromMateriels, bool fromSimulator,
                     const RameItem* origin = nullptr);
-// False: refused for its couplings, nothing changed.
-bool MoveVehicule(Editor& editor, int from, int to);
+// Not done: refused for its couplings, nothing changed.
+Outcome MoveVehicule(Editor& editor, int from, int to);
 void RemoveVehicule(Editor& editor); // the one at DragSource
 void RenumberVehicles(Editor& editor);
 void numberButtonPressed(Editor& editor); // cmdNUMEROTATION
 
-// A drag from the stock list: over the strip at x, y; dropped there; double click (to the end). False:
-// refused.
-void dragOverStrip(Editor& editor, int x, int y);
-bool dropStock(Editor& editor, int materielIndex);
-bool appendStock(Editor& editor, int materielIndex);
+// A drag from the stock list: over the strip; dropped there; double click (to the end). Not done: refused.
+void dragOverStrip(Editor& editor, StripPoint point);
+Outcome dropStock(Editor& editor, int materielIndex);
+Outcome appendStock(Editor& editor, int materielIndex);
 void clearDrag(ConsistDocument& document);
 
 // The mouse on the strip.
-void pressStrip(Editor& editor, int x, int y);
-void moveOnStrip(Editor& editor, int x, int y); // left button down
+void pressStrip(Editor& editor, StripPoint point);
+void moveOnStrip(Editor& editor, StripPoint point); // left button down
 enum class ReleaseZone { Preview, Strip, Elsewhere };
-// Left button up. Returns the Materiels index to select in the list after a release on the preview, -1 when
-// the panel is to be emptied, nothing otherwise.
-std::optional<int> releaseStrip(Editor& editor, ReleaseZone zone);
-void flipVehicule(Editor& editor, int x, int y); // right button up
+struct [[nodiscard]] Release {
+    // The Materiels index to select in the list after a release on the preview, -1 when the panel is to be
+    // emptied, nothing otherwise.
+    std::optional<int> lookedUp;
+    Findings told;
+};
+Release releaseStrip(Editor& editor, ReleaseZone zone); // left button up
+void flipVehicule(Editor& editor, StripPoint point);    // right button up
 void flipVehiculeAt(Editor& editor, int position);
 // The Materiels index of a vehicle, -1 when the catalogue has none for it; nothing for a Missing one.
 std::optional<int> lookUpVehicule(const ConsistDocument& document, int position);
-std::string stripToolTip(const ConsistDocument& document, int x, int y);
+std::string stripToolTip(const ConsistDocument& document, StripPoint point);
 
-// Where the drop mark stands, in pixels of the visible strip; nothing when the vehicle wouldn't move.
-std::optional<int> dropMarkPosition(const ConsistDocument& document);
-void AutoScrollStrip(ConsistDocument& document, int x, int y);
+// Where the drop mark begins; nothing when the vehicle wouldn't move.
+StripPoint dropMarkPosition(const ConsistDocument& document);
 
-// The width of the strip's picture in pixels.
-int stripPictureWidth(const ConsistDocument& document);
-// True when the strip is longer than its picture may be; never where no window shows it.
-bool endIsHidden(const ConsistDocument& document);
-
-// What a redraw brings besides the drawing: numbers, totals, scroll range. Asks for the drawing.
+// What a redraw brings besides the drawing: numbers and totals. Asks for the drawing.
 void updateStrip(Editor& editor);
 // Length and mass of all vehicles, in figures with this decimal mark; without what isn't known.
 std::string totalsText(const Editor& editor, std::string_view mark);
@@ -157,10 +156,10 @@ void changeDurability(Editor& editor, int value);
 
 void ResetEditor(Editor& editor);
 void initialiseDocument(Editor& editor); // the defaults of a new consist at start
-// False: the user wanted to save first and that did not complete.
-bool newConsist(Editor& editor);
-// The question on close, then the closing settings with what else is to be kept. False: stay open.
-bool closeEditor(Editor& editor, std::vector<IniValue> alsoKept = {});
+// Not done: the user wanted to save first and that did not complete.
+Outcome newConsist(Editor& editor);
+// The question on close, then the closing settings with what else is to be kept. Not done: stay open.
+Outcome closeEditor(Editor& editor, std::vector<IniValue> alsoKept = {});
 
 // After a change of roots: empties the editor, then takes the snapshot or loads. False: the user ended the
 // load.

@@ -7,19 +7,23 @@
 
 namespace zandor {
 
-// Reads the file, sets HasFile and opens it. False: there is no such file or it isn't a consist; nothing
+// Reads the file, sets HasFile and opens it. Not done: there is no such file or it isn't a consist; nothing
 // changes.
-bool openConsist(Editor& editor, std::string_view path);
+Outcome openConsist(Editor& editor, std::string_view path);
 
 // Brings document.rame and its items, already read, onto the strip.
-void OpenFileRame(Editor& editor);
+Findings OpenFileRame(Editor& editor);
 
-// Asks whether unsaved changes are to be saved, and saves them. False: the user wanted it and it did not
+// True when there are unsaved changes and the user wants them saved.
+bool AskSaveChanges(Editor& editor);
+
+// Asks whether unsaved changes are to be saved, and saves them. Not done: the user wanted it and it did not
 // complete.
-bool offerToSave(Editor& editor);
+Outcome offerToSave(Editor& editor);
 
-// Checks the names, keeps a backup, writes, updates the use counts, reports. Modified is cleared on success.
-void SaveFileRame(Editor& editor);
+// Checks the names, keeps a backup, writes, updates the use counts. Modified is cleared on success. Asks only
+// before something is lost: vehicles that couldn't be read, the only copy of a file.
+Outcome SaveFileRame(Editor& editor);
 
 // The index update after a save.
 void UpdateStockUse(Editor& editor, bool hadFile, const std::string& fullName, const std::string& fileName,

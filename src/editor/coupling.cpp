@@ -105,7 +105,7 @@ bool CheckCoupling(const Editor& editor, int left, int right, bool rightIsVehicu
     return CouplingCompatible(leftOne.Coupling, rightOne.Coupling, leftUnique, uniqueOf(editor, rightOne));
 }
 
-bool reactToBadCoupling(Editor& editor) {
+bool reactToBadCoupling(Editor& editor, Findings& told) {
     const AppState& state = editor.frame.state;
     if (state.NoAlertCoupling)
         return true;
@@ -114,7 +114,7 @@ bool reactToBadCoupling(Editor& editor) {
         clearDrag(editor.document);
         updateStrip(editor);
     }
-    editor.frame.show(editor.frame.text(Message::CouplingsDoNotFit), style::Exclamation);
+    told.push_back({.message = Message::CouplingsDoNotFit});
     return !refused;
 }
 

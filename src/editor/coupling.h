@@ -15,8 +15,9 @@ bool CouplingCompatible(std::string_view couplingA, std::string_view couplingB, 
 // `left`: a position of the strip; `right`: one too when `rightIsVehicule`, otherwise an index of Materiels.
 bool CheckCoupling(const Editor& editor, int left, int right, bool rightIsVehicule);
 
-// Shows the alert of an incompatible pair as the settings ask for it. False: the operation stops.
-bool reactToBadCoupling(Editor& editor);
+// What the settings ask for on an incompatible pair: whether it is told, and whether it is refused. False:
+// the operation stops.
+bool reactToBadCoupling(Editor& editor, Findings& told);
 
 // "CHAIN_BAR" for "chain_bar"; empty for any other text. Any case.
 std::string_view CouplingImageName(std::string_view coupling);

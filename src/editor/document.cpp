@@ -41,15 +41,12 @@ void ResetEditor(Editor& editor) {
     document.selected = -1;
     document.NextNumber = document.PictureWidth = document.StripWidth = 0;
     clearDrag(document);
-    editor.frame.state.HasFile = false;
+    document.HasFile = document.Modified = false;
 
-    // The durability and the size of the window stay as the user has them.
+    // The durability stays as the user has it.
     EditorControls controls;
     controls.durability = document.controls.durability;
-    controls.viewWidth = document.controls.viewWidth;
-    controls.viewHeight = document.controls.viewHeight;
     document.controls = std::move(controls);
-    setModified(editor, false);
     updateResistance(editor);
 }
 
@@ -67,26 +64,39 @@ void initialiseDocument(Editor& editor) {
     beginNewConsist(editor);
 }
 
-bool offerToSave(Editor& editor) {
-    if (!AskSaveChanges(editor.frame, editor.document.rame.Name))
-        return true;
-    SaveFileRame(editor);
-    return !editor.frame.state.Modified;
+bool AskSaveChanges(Editor& editor) {
+    const ConsistDocument& document = editor.document;
+    Frame& frame = editor.frame;
+    if (!document.Modified)
+        return false;
+    const std::string question = document.HasFile
+                                     ? frame.text(Message::AskSaveExisting, {{"|1", document.rame.Name}})
+                                     : frame.text(Message::AskSaveNew);
+    const int given = frame.show(question, style::YesNo + style::Question);
+    frame.state.LastAnswer = std::to_string(given);
+    return given == answer::Yes;
 }
 
-bool newConsist(Editor& editor) {
-    if (!offerToSave(editor))
-        return false;
-    beginNewConsist(editor);
-    return true;
+Outcome offerToSave(Editor& editor) {
+    if (!AskSaveChanges(editor))
+        return {true, {}};
+    return SaveFileRame(editor);
 }
 
-bool closeEditor(Editor& editor, std::vector<IniValue> alsoKept) {
-    if (!offerToSave(editor))
-        return false;
-    editor.frame.state.HasFile = false;
-    writeClosingSettings(editor.frame, std::move(alsoKept));
-    return true;
+Outcome newConsist(Editor& editor) {
+    Outcome outcome = offerToSave(editor);
+    if (outcome.done)
+        beginNewConsist(editor);
+    return outcome;
+}
+
+Outcome closeEditor(Editor& editor, std::vector<IniValue> alsoKept) {
+    Outcome outcome = offerToSave(editor);
+    if (outcome.done) {
+        editor.document.HasFile = false;
+        writeClosingSettings(editor.frame, std::move(alsoKept));
+    }
+    return outcome;
 }
 
 bool ReloadAfterOptions(Editor& editor) {

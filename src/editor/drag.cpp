@@ -20,40 +20,19 @@ bool fitsBeside(const Editor& editor, int pos, int index) {
     return !between || CheckCoupling(editor, pos + 1, index, false);
 }
 
-// A vehicle put at the end comes into sight; elsewhere the strip stays as it was scrolled.
-void scrollAfterInsert(ConsistDocument& document, int pos, int scrollBefore) {
-    EditorControls& controls = document.controls;
-    if (!controls.scrollEnabled)
-        return;
-    const bool atEnd = pos == lastPosition(document) - 1;
-    controls.scrollValue = atEnd ? controls.scrollMaximum : std::min(scrollBefore, controls.scrollMaximum);
-}
-
-bool insertStock(Editor& editor, int pos, int index) {
+Outcome insertStock(Editor& editor, int pos, int index) {
     ConsistDocument& document = editor.document;
     if (!isStock(editor, index))
-        return false;
-    if (vehicleCount(document) >= MaxEntries) {
-        showStripFull(editor);
-        return false;
-    }
-    // The alert lets the interface live: the place of the drop is the one from before it.
-    const bool active = document.DragActive, atEnd = document.DragAtEnd;
-    const int target = document.DragTarget;
-    if (!fitsBeside(editor, pos, index) && !reactToBadCoupling(editor))
-        return false;
-    document.DragActive = active;
-    document.DragAtEnd = atEnd;
-    document.DragTarget = target;
-    const int scrollBefore = document.controls.scrollValue;
-    const bool wasHidden = endIsHidden(document);
+        return {};
+    if (vehicleCount(document) >= MaxEntries)
+        return {false, {stripFull(document)}};
+    Outcome outcome;
+    if (!fitsBeside(editor, pos, index) && !reactToBadCoupling(editor, outcome.told))
+        return outcome;
     Materiel& materiel = editor.catalogue.here().Materiels[static_cast<std::size_t>(index)];
     document.PictureWidth = LoadMaterielPicture(editor.frame, editor.catalogue, materiel).width;
-    InsertVehicule(editor, index, true, false);
-    scrollAfterInsert(document, pos, scrollBefore);
-    if (endIsHidden(document) && !wasHidden)
-        showEndHidden(editor);
-    return true;
+    outcome.done = InsertVehicule(editor, index, true, false);
+    return outcome;
 }
 
 } // namespace
@@ -72,9 +51,9 @@ void clearDrag(ConsistDocument& document) {
     document.DragSource = document.DragTarget = 0;
 }
 
-void dragOverStrip(Editor& editor, int x, int y) {
+void dragOverStrip(Editor& editor, StripPoint point) {
     ConsistDocument& document = editor.document;
-    const StripHit hit = HitTestStrip(document, x, y);
+    const StripHit hit = HitTestStrip(document, point);
     if (hit.hit)
         document.DragTarget = hit.index;
     document.StripPressed = false;
@@ -85,27 +64,26 @@ void dragOverStrip(Editor& editor, int x, int y) {
         document.DragSource = lastPosition(document);
     else
         document.DragSource = document.DragTarget > 0 ? document.DragTarget - 1 : 0;
-    AutoScrollStrip(document, x, y);
 }
 
-bool dropStock(Editor& editor, int materielIndex) {
+Outcome dropStock(Editor& editor, int materielIndex) {
     ConsistDocument& document = editor.document;
     const int pos = document.DragActive ? document.DragSource : lastPosition(document);
-    const bool inserted = insertStock(editor, pos, materielIndex);
+    Outcome outcome = insertStock(editor, pos, materielIndex);
     clearDrag(document);
-    return inserted;
+    return outcome;
 }
 
-bool appendStock(Editor& editor, int materielIndex) {
+Outcome appendStock(Editor& editor, int materielIndex) {
     clearDrag(editor.document);
     return dropStock(editor, materielIndex);
 }
 
-void pressStrip(Editor& editor, int x, int y) {
+void pressStrip(Editor& editor, StripPoint point) {
     ConsistDocument& document = editor.document;
     clearDrag(document); // a drag from the list that left the strip may still stand
     document.StripPressed = true;
-    const StripHit hit = HitTestStrip(document, x, y);
+    const StripHit hit = HitTestStrip(document, point);
     if (!hit.hit)
         return;
     document.DragSource = document.DragTarget = document.selected = hit.index;
@@ -115,33 +93,32 @@ void pressStrip(Editor& editor, int x, int y) {
     updateStrip(editor);
 }
 
-void moveOnStrip(Editor& editor, int x, int y) {
+void moveOnStrip(Editor& editor, StripPoint point) {
     ConsistDocument& document = editor.document;
     if (!document.StripPressed || !document.DragActive)
         return;
-    const StripHit hit = HitTestStrip(document, x, y);
+    const StripHit hit = HitTestStrip(document, point);
     document.DragAtEnd = hit.atEnd;
     if (hit.hit)
         document.DragTarget = hit.index;
     else if (hit.atEnd) // the pointer may have jumped over the vehicles between
         document.DragTarget = lastPosition(document);
-    AutoScrollStrip(document, x, y);
 }
 
-std::optional<int> releaseStrip(Editor& editor, ReleaseZone zone) {
+Release releaseStrip(Editor& editor, ReleaseZone zone) {
     ConsistDocument& document = editor.document;
-    std::optional<int> found;
+    Release release;
     if (document.DragActive) {
         if (zone == ReleaseZone::Preview)
-            found = lookUpVehicule(document, document.DragSource);
+            release.lookedUp = lookUpVehicule(document, document.DragSource);
         else if (document.StripPressed && zone == ReleaseZone::Strip)
-            MoveVehicule(editor, document.DragSource, document.DragTarget);
+            release.told = MoveVehicule(editor, document.DragSource, document.DragTarget).told;
         else if (document.StripPressed)
             RemoveVehicule(editor);
     }
     clearDrag(document);
     updateStrip(editor);
-    return found;
+    return release;
 }
 
 } // namespace zandor

@@ -21,10 +21,12 @@ inline bool isPosition(const ConsistDocument& document, int position) {
     return position >= 0 && position < vehicleCount(document);
 }
 
-// After a change: an empty strip has nothing to save.
-inline void setModified(Editor& editor, bool modified) {
-    editor.frame.state.Modified = modified;
-    editor.document.controls.saveEnabled = modified;
+// Where the vehicle at a position begins, in pixels of the strip.
+inline int leftOf(const ConsistDocument& document, int position) {
+    int left = 0;
+    for (int i = 0; i < position; ++i)
+        left += document.Vehicules[static_cast<std::size_t>(i)].Width;
+    return left;
 }
 
 // A figure of up to 15 significant digits, "." as the point in every locale. Texts of the screen give it the
@@ -35,11 +37,8 @@ inline std::string figureText(double value) {
     return std::string(text, end);
 }
 
-// Tells that the strip holds as many vehicles as positions can number.
-void showStripFull(Editor& editor);
-
-// Tells that the end of the strip is out of sight from now on.
-void showEndHidden(Editor& editor);
+// That the strip holds as many vehicles as positions can number.
+Finding stripFull(const ConsistDocument& document);
 
 // The empty editor and a Rame with the defaults of a new consist; asks nothing.
 void beginNewConsist(Editor& editor);

@@ -57,7 +57,7 @@ void changeShortName(Editor& editor, std::string_view text) {
         return;
     controls.shortName = std::move(filtered);
     controls.shortNameRed = false;
-    setModified(editor, hasVehicles(editor.document));
+    editor.document.Modified = hasVehicles(editor.document);
 }
 
 void changeFullName(Editor& editor, std::string_view text) {
@@ -70,7 +70,7 @@ void changeFullName(Editor& editor, std::string_view text) {
     std::ranges::replace(controls.fullName, '"', '\''); // and in quotes: one within would end it
     if (controls.shortNameEnabled)
         changeShortName(editor, text);
-    setModified(editor, hasVehicles(editor.document));
+    editor.document.Modified = hasVehicles(editor.document);
 }
 
 void changeDurability(Editor& editor, int value) {
@@ -79,7 +79,7 @@ void changeDurability(Editor& editor, int value) {
         return;
     controls.durability = value;
     updateResistance(editor);
-    setModified(editor, hasVehicles(editor.document));
+    editor.document.Modified = hasVehicles(editor.document);
 }
 
 std::string doubleName(const Rame& rame) {

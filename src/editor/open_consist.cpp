@@ -137,7 +137,7 @@ void insertItem(Editor& editor, const RameItem& item, StockPlace place) {
     vehicule.EngineVariables = item.EngineVariables;
 }
 
-void insertItems(Editor& editor, const std::vector<RameItem>& items) {
+Findings insertItems(Editor& editor, const std::vector<RameItem>& items) {
     StockResolver resolver(editor);
     std::vector<StockPlace> places;
     places.reserve(items.size());
@@ -150,12 +150,11 @@ void insertItems(Editor& editor, const std::vector<RameItem>& items) {
     for (std::size_t i = 0; i < items.size(); ++i) {
         if (items[i].Name.empty())
             continue;
-        if (vehicleCount(document) >= MaxEntries) {
-            showStripFull(editor);
-            return;
-        }
+        if (vehicleCount(document) >= MaxEntries)
+            return {stripFull(document)};
         insertItem(editor, items[i], places[i]);
     }
+    return {};
 }
 
 std::vector<StockPair> stockOf(const std::vector<RameItem>& items) {
@@ -186,29 +185,22 @@ bool isConsist(SimReader& reader, std::string_view path) {
             (reader.error && reader.error->number == MalformedConsist));
 }
 
-// `error`: what the gate raised, if anything.
-void tellNotOpened(Editor& editor, std::string_view path, const std::optional<SimError>& error) {
-    Frame& frame = editor.frame;
-    const std::string native = frame.files.nativePath(path);
-    const bool unread = error && (error->number == FileTooLarge || error->number == NoMemoryLeft ||
-                                  error->number == UnreadableFile);
-    if (unread) {
-        frame.show(
-            frame.text(Message::ConsistUnread, {{"|1", native}, {"|2", LineBreak}, {"|3", error->text}}),
-            style::Exclamation);
-        return;
-    }
-    const Message message = frame.files.fileExists(path) ? Message::NotAConsist : Message::OpenFailed;
-    frame.show(frame.text(message, {{"|1", native}, {"|2", LineBreak}}), style::Exclamation);
+// `reason`: of the reader, already in the user's language.
+Finding aboutFile(FileSystem& files, std::string_view path, Message message, std::string_view reason = {}) {
+    return {.message = message,
+            .params = {{"|1", files.nativePath(path)},
+                       {"|2", std::string(LineBreak)},
+                       {"|3", std::string(reason)}},
+            .file = std::string(path)};
 }
 
-// A save over the file would lose what wasn't read.
-void tellFault(Editor& editor, std::string_view path, const SimError& error) {
-    Frame& frame = editor.frame;
-    editor.document.faultyFile = true;
-    const std::string native = frame.files.nativePath(path);
-    frame.show(frame.text(Message::OpenedFaulty, {{"|1", native}, {"|2", LineBreak}, {"|3", error.text}}),
-               style::Exclamation);
+// `error`: what the gate raised, if anything.
+Finding notOpened(FileSystem& files, std::string_view path, const std::optional<SimError>& error) {
+    const bool unread = error && (error->number == FileTooLarge || error->number == NoMemoryLeft ||
+                                  error->number == UnreadableFile);
+    if (unread)
+        return aboutFile(files, path, Message::ConsistUnread, error->text);
+    return aboutFile(files, path, files.fileExists(path) ? Message::NotAConsist : Message::OpenFailed);
 }
 
 std::string folderOf(std::string_view path) {
@@ -218,7 +210,7 @@ std::string folderOf(std::string_view path) {
 
 } // namespace
 
-bool openConsist(Editor& editor, std::string_view path) {
+Outcome openConsist(Editor& editor, std::string_view path) {
     Frame& frame = editor.frame;
     const double durability = editor.document.controls.durability / 1000.0;
     SimReader reader(frame.files, frame.language);
@@ -228,43 +220,41 @@ bool openConsist(Editor& editor, std::string_view path) {
     // Nothing came: the consist is empty, or this is none, or the disk failed. An empty one is read once
     // more, so that a failure doesn't pass for it and a save over the file loses nothing.
     if (reading.empty()) {
-        if (!isConsist(reader, path)) {
-            tellNotOpened(editor, path, reader.error);
-            return false;
-        }
+        if (!isConsist(reader, path))
+            return {false, {notOpened(frame.files, path, reader.error)}};
         reading = readConsist(reader, path, durability);
     }
-    editor.document.rame = std::move(reading.rame);
-    editor.document.items = std::move(reading.items);
-    frame.state.HasFile = true;
-    frame.state.ConsistFolder = folderOf(path);
-    OpenFileRame(editor);
+    ConsistDocument& document = editor.document;
+    document.rame = std::move(reading.rame);
+    document.items = std::move(reading.items);
+    document.HasFile = true;
+    document.ConsistFolder = folderOf(path);
+    Findings told = OpenFileRame(editor);
+    document.faultyFile = reading.error.has_value(); // a save over it would lose what wasn't read
     if (reading.error)
-        tellFault(editor, path, *reading.error);
-    if (endIsHidden(editor.document))
-        showEndHidden(editor);
-    return true;
+        told.push_back(aboutFile(frame.files, path, Message::OpenedFaulty, reading.error->text));
+    return {true, std::move(told)};
 }
 
-void OpenFileRame(Editor& editor) {
-    AppState& state = editor.frame.state;
+Findings OpenFileRame(Editor& editor) {
     ConsistDocument& document = editor.document;
-    if (!state.HasFile)
-        return;
+    if (!document.HasFile)
+        return {};
     ResetEditor(editor);
-    state.HasFile = true;
+    document.HasFile = true;
     document.Loading = true;
     showNames(document);
     document.controls.durability = sliderValue(document.rame.Durability);
     updateResistance(editor);
     document.RameStockOld = document.RameStockNew = stockOf(document.items);
 
-    insertItems(editor, document.items);
+    Findings told = insertItems(editor, document.items);
     document.NextNumber = document.rame.NextWagonUID;
     updateStrip(editor);
     document.Loading = false;
-    setModified(editor, false);
+    editor.document.Modified = false;
     document.controls.deleteEnabled = true;
+    return told;
 }
 
 } // namespace zandor

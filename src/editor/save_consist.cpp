@@ -27,8 +27,14 @@ struct VehicleList {
     bool hasMissing = false;
 };
 
-void showNameTaken(Editor& editor, const std::string& file) {
-    editor.frame.show(editor.frame.text(Message::NameTaken, {{"|1", file}}), style::Exclamation);
+// The names, unless the save can't go on for what is told.
+struct NameCheck {
+    std::optional<SaveNames> names;
+    Findings told{};
+};
+
+NameCheck nameTaken(const std::string& file) {
+    return {std::nullopt, {{.message = Message::NameTaken, .params = {{"|1", file}}}}};
 }
 
 bool isListed(const Catalogue& catalogue, std::string_view file) {
@@ -45,9 +51,10 @@ bool showsDoubleName(const ConsistDocument& document) {
 }
 
 // Where the consist under edit is saved; that of a new one is the folder of the root in use.
-std::string targetFolder(const AppState& state) {
-    return state.HasFile && !state.ConsistFolder.empty() ? state.ConsistFolder
-                                                         : consistsPath(state.roots.RootPrimary());
+std::string targetFolder(const Editor& editor) {
+    const ConsistDocument& document = editor.document;
+    return document.HasFile && !document.ConsistFolder.empty() ? document.ConsistFolder
+                                                               : consistsPath(editor.frame.state.roots.RootPrimary());
 }
 
 // Also one that can't be opened.
@@ -60,44 +67,34 @@ SaveNames enteredNames(const EditorControls& controls) {
     return {shortName, std::string(trim(controls.fullName)), shortName + ".con"};
 }
 
-std::optional<SaveNames> namesWithFile(Editor& editor) {
+NameCheck namesWithFile(const Editor& editor) {
     const ConsistDocument& document = editor.document;
     const std::string cfgName(trim(StripQuotes(document.rame.CfgName)));
     SaveNames names = enteredNames(document.controls);
     if (showsDoubleName(document))
-        return SaveNames{cfgName, names.fullName, document.rame.FileName};
+        return {SaveNames{cfgName, names.fullName, document.rame.FileName}};
     if (!equalIgnoringCase(names.shortName, cfgName) &&
-        isThere(editor.frame.files, targetFolder(editor.frame.state) + names.file)) {
-        showNameTaken(editor, names.file);
-        return std::nullopt;
-    }
-    return names;
+        isThere(editor.frame.files, targetFolder(editor) + names.file))
+        return nameTaken(names.file);
+    return {std::move(names)};
 }
 
 // A file that another program has made since the load isn't listed, and would be lost all the same.
-std::optional<SaveNames> namesOfNew(Editor& editor) {
+NameCheck namesOfNew(const Editor& editor) {
     SaveNames names = enteredNames(editor.document.controls);
     if (isListed(editor.catalogue, names.file) ||
-        isThere(editor.frame.files, targetFolder(editor.frame.state) + names.file)) {
-        showNameTaken(editor, names.file);
-        return std::nullopt;
-    }
-    return names;
+        isThere(editor.frame.files, targetFolder(editor) + names.file))
+        return nameTaken(names.file);
+    return {std::move(names)};
 }
 
-// Nothing when the save can't go on; the user was told why.
-std::optional<SaveNames> checkNames(Editor& editor) {
+NameCheck checkNames(const Editor& editor) {
     const EditorControls& controls = editor.document.controls;
-    Frame& frame = editor.frame;
-    if (trim(controls.shortName).empty()) {
-        frame.show(frame.text(Message::ShortNameEmpty), style::Exclamation);
-        return std::nullopt;
-    }
-    if (trim(controls.fullName).empty()) {
-        frame.show(frame.text(Message::FullNameEmpty), style::Exclamation);
-        return std::nullopt;
-    }
-    return frame.state.HasFile ? namesWithFile(editor) : namesOfNew(editor);
+    if (trim(controls.shortName).empty())
+        return {std::nullopt, {{.message = Message::ShortNameEmpty}}};
+    if (trim(controls.fullName).empty())
+        return {std::nullopt, {{.message = Message::FullNameEmpty}}};
+    return editor.document.HasFile ? namesWithFile(editor) : namesOfNew(editor);
 }
 
 std::string_view stockNameOf(const Materiel& materiel) {
@@ -166,7 +163,7 @@ std::string velocityFor(const Rame& rame, bool hasEngine, bool hasFile) {
 
 Rame rameToWrite(const Editor& editor, const SaveNames& names, bool hasEngine) {
     const ConsistDocument& document = editor.document;
-    const bool hasFile = editor.frame.state.HasFile;
+    const bool hasFile = document.HasFile;
     Rame rame = document.rame;
     if (!hasFile)
         rame.Serial = 1;
@@ -210,9 +207,10 @@ struct Backup {
 Backup keepBackup(Editor& editor, const std::string& folder, const std::string& file) {
     Frame& frame = editor.frame;
     const AppState& state = frame.state;
-    const bool wanted = !editor.document.noBackup &&
-                        (editor.document.faultyFile || readFlag(frame.profiles, "BakFile", state.IniPath));
-    if (!state.HasFile || !wanted || !isThere(frame.files, folder + file))
+    const bool wanted =
+        !editor.document.noBackup &&
+        (editor.document.faultyFile || readFlag(frame.profiles, "BakFile", state.IniPath));
+    if (!editor.document.HasFile || !wanted || !isThere(frame.files, folder + file))
         return {};
     const std::string keptIn = AddBackslash(state.BackupDir) + std::string(BackupFolder);
     const std::string copy = keptIn + file + ".old";
@@ -235,22 +233,21 @@ bool mayReplaceUnkept(Editor& editor, const Backup& backup) {
 bool writeConsist(Editor& editor, const std::string& folder, const Rame& rame, const VehicleList& list) {
     FileSystem& files = editor.frame.files;
     const AppState& state = editor.frame.state;
-    if (!state.HasFile && FolderExists(files, state.roots.RootPrimary()))
+    if (!editor.document.HasFile && FolderExists(files, state.roots.RootPrimary()))
         ensureFolder(files, folder);
     return replaceFile(files, folder + rame.FileName, encodeConsist(buildConsistText(rame, list.lines)));
 }
 
 // A name with a line break or a quote in it would be lost, or lose the vehicles behind it.
-bool canBeWritten(Editor& editor, const Rame& rame, const VehicleList& list) {
+Findings unwritableStock(Editor& editor, const Rame& rame, const VehicleList& list) {
     Frame& frame = editor.frame;
     SimReader reader(frame.files, frame.language);
     const std::optional<std::size_t> lost = findUnreadable(reader, rame, list.lines);
     if (!lost)
-        return true;
+        return {};
     const StockPair& stock = list.stock[*lost];
     const std::string name = stock.Folder + "\\" + stock.FileName;
-    frame.show(frame.text(Message::StockUnwritable, {{"|1", name}, {"|2", LineBreak}}), style::Exclamation);
-    return false;
+    return {{.message = Message::StockUnwritable, .params = {{"|1", name}, {"|2", std::string(LineBreak)}}}};
 }
 
 ConsistSummary summaryOf(const Editor& editor, const Rame& rame, const VehicleList& list) {
@@ -284,38 +281,36 @@ void listSavedFile(Catalogue& catalogue, ConsistSummary saved) {
     *known = std::move(saved);
 }
 
-void reportSaved(Editor& editor, bool hadFile, const Backup& backup, bool hasMissing) {
-    Frame& frame = editor.frame;
-    std::string text = frame.text(Message::ConsistSaved);
+Finding savedReport(FileSystem& files, const std::string& path, const Backup& backup, bool missingStock) {
+    Finding report{.message = Message::ConsistSaved, .style = style::Information, .file = path};
     if (!backup.path.empty())
-        text +=
-            frame.text(Message::BackupKept, {{"|1", LineBreak}, {"|2", frame.files.nativePath(backup.path)}});
-    if (hadFile && hasMissing)
-        text += std::string(LineBreak) + frame.text(Message::StockMissing);
-    frame.show(text, style::Information);
+        report.additions.push_back(
+            {.message = Message::BackupKept,
+             .params = {{"|1", std::string(LineBreak)}, {"|2", files.nativePath(backup.path)}}});
+    if (missingStock)
+        report.additions.push_back({.message = Message::StockMissing, .before = std::string(LineBreak)});
+    return report;
 }
 
-// Nothing else has changed: the consist stays unsaved, and a close that waits for the save stays open.
-void reportFailure(Editor& editor, const std::string& path) {
-    const std::string native = editor.frame.files.nativePath(path);
-    editor.frame.show(editor.frame.text(Message::SaveFailed, {{"|1", native}, {"|2", LineBreak}}),
-                      style::Exclamation);
+Finding failureReport(FileSystem& files, const std::string& path) {
+    return {.message = Message::SaveFailed,
+            .params = {{"|1", files.nativePath(path)}, {"|2", std::string(LineBreak)}},
+            .file = path};
 }
 
 // Brings everything up to date that the new file has changed.
 void takeSaved(Editor& editor, const std::string& folder, Rame rame, VehicleList list) {
     ConsistDocument& document = editor.document;
-    AppState& state = editor.frame.state;
     // A save under another name makes a new file: the old one goes on using its stock.
-    if (state.HasFile && !equalIgnoringCase(rame.FileName, document.rame.FileName))
+    if (document.HasFile && !equalIgnoringCase(rame.FileName, document.rame.FileName))
         document.RameStockOld.clear();
     const ConsistSummary saved = summaryOf(editor, rame, list);
     document.rame = std::move(rame);
     document.RameStockNew = std::move(list.stock);
-    state.ConsistFolder = folder;
-    if (sameFolder(editor.frame.files, folder, consistsPath(state.roots.RootPrimary())))
+    document.ConsistFolder = folder;
+    if (sameFolder(editor.frame.files, folder, consistsPath(editor.frame.state.roots.RootPrimary())))
         listSavedFile(editor.catalogue, saved);
-    UpdateStockUse(editor, state.HasFile, document.rame.Name, document.rame.FileName, folder);
+    UpdateStockUse(editor, document.HasFile, document.rame.Name, document.rame.FileName, folder);
 }
 
 void showSaved(Editor& editor, const SaveNames& names) {
@@ -323,8 +318,8 @@ void showSaved(Editor& editor, const SaveNames& names) {
     controls.fullName = names.fullName;
     if (trim(controls.shortName) == names.shortName) // otherwise it shows the double name
         controls.shortName = names.shortName;
-    editor.frame.state.HasFile = true;
-    setModified(editor, false);
+    editor.document.HasFile = true;
+    editor.document.Modified = false;
     editor.document.faultyFile = false;
     controls.deleteEnabled = true;
     controls.shortNameEnabled = false;
@@ -332,31 +327,32 @@ void showSaved(Editor& editor, const SaveNames& names) {
 
 } // namespace
 
-void SaveFileRame(Editor& editor) {
-    const std::optional<SaveNames> names = checkNames(editor);
-    if (!names || !mayReplaceFaulty(editor, names->file))
-        return;
+Outcome SaveFileRame(Editor& editor) {
+    NameCheck check = checkNames(editor);
+    if (!check.names)
+        return {false, std::move(check.told)};
+    const SaveNames& names = *check.names;
+    if (!mayReplaceFaulty(editor, names.file))
+        return {};
     Frame& frame = editor.frame;
-    const bool hadFile = frame.state.HasFile;
-    const std::string folder = targetFolder(frame.state);
+    const std::string folder = targetFolder(editor), path = folder + names.file;
     VehicleList list = listVehicles(editor);
-    const bool hasMissing = list.hasMissing;
-    Rame rame = rameToWrite(editor, *names, list.hasEngine);
-    if (!canBeWritten(editor, rame, list))
-        return;
+    const bool missingStock = editor.document.HasFile && list.hasMissing;
+    Rame rame = rameToWrite(editor, names, list.hasEngine);
+    if (Findings lost = unwritableStock(editor, rame, list); !lost.empty())
+        return {false, std::move(lost)};
 
-    const Backup backup = keepBackup(editor, folder, names->file);
+    const Backup backup = keepBackup(editor, folder, names.file);
     if (!mayReplaceUnkept(editor, backup))
-        return;
-    if (!writeConsist(editor, folder, rame, list)) {
-        reportFailure(editor, folder + names->file);
-        return;
-    }
+        return {};
+    // Nothing has changed then: the consist stays unsaved, and a close that waits for the save stays open.
+    if (!writeConsist(editor, folder, rame, list))
+        return {false, {failureReport(frame.files, path)}};
     takeSaved(editor, folder, std::move(rame), std::move(list));
-    reportSaved(editor, hadFile, backup, hasMissing);
-    showSaved(editor, *names);
+    showSaved(editor, names);
     if (editor.document.openedFromOptions || readFlag(frame.profiles, "NewFile", frame.state.IniPath))
         beginNewConsist(editor);
+    return {true, {savedReport(frame.files, path, backup, missingStock)}};
 }
 
 } // namespace zandor

@@ -2,6 +2,7 @@
 
 #include "editor/coupling.h"
 #include "editor/editor_parts.h"
+#include "editor/strip_scroll.h"
 
 #include <algorithm>
 
@@ -61,8 +62,8 @@ class StripDrawing {
     StripDrawing(const Editor& editor, PictureMeasure& pictures, const TextMeasure& texts)
         : editor_(editor), pictures_(pictures), texts_(texts) {}
 
-    void begin(bool onlyLast) {
-        steps_.emplace_back(SizeStrip{stripPictureWidth(editor_.document)});
+    void begin(int width, bool onlyLast) {
+        steps_.emplace_back(SizeStrip{width});
         if (!onlyLast)
             steps_.emplace_back(ClearStrip{StripSky});
     }
@@ -207,11 +208,11 @@ std::string_view fittingName(std::string_view name, const TextMeasure& texts, in
 }
 
 std::vector<StripStep> DrawStrip(Editor& editor, PictureMeasure& pictures, const TextMeasure& texts,
-                                 bool onlyLast) {
+                                 int viewWidth, bool onlyLast) {
     ConsistDocument& document = editor.document;
     StripDrawing drawing(editor, pictures, texts);
-    drawing.begin(onlyLast);
-    const int count = vehicleCount(document), end = stripPictureWidth(document);
+    const int count = vehicleCount(document), end = stripPictureWidth(document, viewWidth);
+    drawing.begin(end, onlyLast);
     int position = onlyLast ? std::max(0, count - 1) : 0;
     int x = drawnBefore(document, position);
     for (; position < count; ++position) {

@@ -103,9 +103,10 @@ class PictureMeasure {
 };
 
 // The steps that draw the whole strip, or with `onlyLast` its last vehicle alone behind those drawn before.
-// Notes each vehicle's DrawnWidth. updateStrip() has been called before.
+// Notes each vehicle's DrawnWidth. updateStrip() has been called before. `viewWidth`: of the window that
+// shows it, which the picture fills.
 std::vector<StripStep> DrawStrip(Editor& editor, PictureMeasure& pictures, const TextMeasure& texts,
-                                 bool onlyLast = false);
+                                 int viewWidth, bool onlyLast = false);
 
 // `name` cut from the right until it is at least 20 pixels narrower than `width`; may become empty.
 std::string_view fittingName(std::string_view name, const TextMeasure& texts, int width);

@@ -8,22 +8,6 @@ namespace zandor {
 
 namespace {
 
-Vehicule& at(ConsistDocument& document, int position) {
-    return document.Vehicules[static_cast<std::size_t>(position)];
-}
-
-void scrollTo(ConsistDocument& document, int position) {
-    EditorControls& controls = document.controls;
-    int left = 0;
-    for (int i = 0; i < position; ++i)
-        left += at(document, i).Width;
-    const int right = left + at(document, position).Width;
-    int value = controls.scrollValue;
-    value = std::max(value, right - controls.viewWidth);
-    value = std::min(value, left);
-    controls.scrollValue = std::clamp(value, 0, controls.scrollMaximum);
-}
-
 Message statusOf(const Vehicule& vehicule) {
     if (vehicule.Missing)
         return Message::StatusVehicleMissing;
@@ -38,11 +22,9 @@ bool hasSelection(const ConsistDocument& document) {
 
 void selectVehicule(ConsistDocument& document, int position) {
     document.selected = hasVehicles(document) ? std::clamp(position, 0, lastPosition(document)) : -1;
-    if (hasSelection(document))
-        scrollTo(document, document.selected);
 }
 
-bool insertBeforeSelected(Editor& editor, int materielIndex) {
+Outcome insertBeforeSelected(Editor& editor, int materielIndex) {
     ConsistDocument& document = editor.document;
     const int position = document.selected;
     if (!hasSelection(document))
@@ -52,22 +34,20 @@ bool insertBeforeSelected(Editor& editor, int materielIndex) {
     document.DragTarget = position;
     document.DragSource = std::max(0, position - 1);
     document.DragAtFront = position == 0;
-    const bool inserted = dropStock(editor, materielIndex);
-    selectVehicule(document, position); // the new one, or still the old: brought into sight
-    return inserted;
+    return dropStock(editor, materielIndex);
 }
 
-bool moveSelected(Editor& editor, int step) {
+Outcome moveSelected(Editor& editor, int step) {
     ConsistDocument& document = editor.document;
     const int from = document.selected, to = from + step;
     if (!hasSelection(document) || !isPosition(document, to))
-        return true;
+        return {true, {}};
     clearDrag(document);
     document.DragAtEnd = to == lastPosition(document) && step > 0;
-    const bool moved = MoveVehicule(editor, from, step > 0 && !document.DragAtEnd ? to + 1 : to);
+    Outcome outcome = MoveVehicule(editor, from, step > 0 && !document.DragAtEnd ? to + 1 : to);
     clearDrag(document);
-    selectVehicule(document, moved ? to : from);
-    return moved;
+    selectVehicule(document, outcome.done ? to : from);
+    return outcome;
 }
 
 void flipSelected(Editor& editor) {

@@ -9,14 +9,14 @@
 namespace zandor {
 
 bool hasSelection(const ConsistDocument& document);
-// Selects a vehicle, the nearest one when there is none at the position, and scrolls it into sight.
+// Selects a vehicle, the nearest one when there is none at the position.
 void selectVehicule(ConsistDocument& document, int position);
 
 // Entry `materielIndex` put in front of the selected vehicle, at the end when none is selected; it is the
-// selected one from then on. False: refused.
-bool insertBeforeSelected(Editor& editor, int materielIndex);
-// One place to the left (-1) or to the right (1). False: refused.
-bool moveSelected(Editor& editor, int step);
+// selected one from then on. Not done: refused.
+Outcome insertBeforeSelected(Editor& editor, int materielIndex);
+// One place to the left (-1) or to the right (1). Not done: refused.
+Outcome moveSelected(Editor& editor, int step);
 void flipSelected(Editor& editor); // a Missing one stays as it is
 void removeSelected(Editor& editor);
 // As releaseStrip() gives it for a release on the preview.

@@ -76,12 +76,12 @@ int positionAfterMove(int position, int from, int dest) {
     return position < from && position >= dest ? position + 1 : position;
 }
 
-bool acceptsMove(Editor& editor, int from, int to, bool atEnd) {
+bool acceptsMove(Editor& editor, int from, int to, bool atEnd, Findings& told) {
     const int last = lastPosition(editor.document);
     const int left = std::clamp(atEnd ? to : to - 1, 0, last);
     const bool fits =
         CheckCoupling(editor, left, from, true) && (from >= last || CheckCoupling(editor, from, to, true));
-    return fits || reactToBadCoupling(editor);
+    return fits || reactToBadCoupling(editor, told);
 }
 
 // At the drag's target, or behind the last vehicle.
@@ -92,13 +92,11 @@ int insertPosition(const ConsistDocument& document) {
 
 } // namespace
 
-void InsertVehicule(Editor& editor, int index, bool fromMateriels, bool fromSimulator,
+bool InsertVehicule(Editor& editor, int index, bool fromMateriels, bool fromSimulator,
                     const RameItem* origin) {
     ConsistDocument& document = editor.document;
-    if (vehicleCount(document) >= MaxEntries) {
-        showStripFull(editor);
-        return;
-    }
+    if (vehicleCount(document) >= MaxEntries)
+        return false;
     Vehicule vehicule = makeVehicule(editor, index, fromMateriels, fromSimulator, origin);
     vehicule.Number = document.NextNumber;
     vehicule.Width = document.PictureWidth;
@@ -113,26 +111,29 @@ void InsertVehicule(Editor& editor, int index, bool fromMateriels, bool fromSimu
     document.NextNumber = numberAfter(document, document.NextNumber);
     document.StripWidth += document.PictureWidth;
     if (document.Loading)
-        return; // the strip is laid out once, when the whole consist stands
+        return true; // the strip is laid out once, when the whole consist stands
     document.selected = position;
-    setModified(editor, true);
+    document.Modified = true;
     updateStrip(editor);
+    return true;
 }
 
-bool MoveVehicule(Editor& editor, int from, int to) {
+Outcome MoveVehicule(Editor& editor, int from, int to) {
     ConsistDocument& document = editor.document;
     const bool atEnd = document.DragAtEnd;
     if (!isPosition(document, from) || !isPosition(document, to) || from == to || (to == from + 1 && !atEnd))
-        return true;
-    if (!acceptsMove(editor, from, to, atEnd))
-        return false;
+        return {true, {}};
+    Outcome outcome;
+    if (!acceptsMove(editor, from, to, atEnd, outcome.told))
+        return outcome;
     const int dest = destination(from, to, atEnd);
     relocate(document.Vehicules, from, dest);
     document.selected = positionAfterMove(document.selected, from, dest);
-    setModified(editor, true);
+    document.Modified = true;
     clearDrag(document);
     updateStrip(editor);
-    return true;
+    outcome.done = true;
+    return outcome;
 }
 
 void RemoveVehicule(Editor& editor) {
@@ -148,38 +149,38 @@ void RemoveVehicule(Editor& editor) {
     if (document.selected > document.DragSource)
         --document.selected;
     document.selected = std::min(document.selected, vehicleCount(document) - 1);
-    setModified(editor, hasVehicles(document));
+    document.Modified = hasVehicles(document);
     updateStrip(editor);
 }
 
 void RenumberVehicles(Editor& editor) {
     ConsistDocument& document = editor.document;
     const AppState& state = editor.frame.state;
-    if (document.Loading || !state.Modified || !state.PrintNumber)
+    if (document.Loading || !document.Modified || !state.PrintNumber)
         return;
     document.NextNumber = 0;
     for (Vehicule& vehicule : document.Vehicules)
         if (!vehicule.Name.empty())
             vehicule.Number = document.NextNumber++;
-    setModified(editor, true);
+    document.Modified = true;
 }
 
 void numberButtonPressed(Editor& editor) {
     AppState& state = editor.frame.state;
     if (!hasVehicles(editor.document)) {
-        setModified(editor, false);
+        editor.document.Modified = false;
         editor.document.controls.numberEnabled = false;
         return;
     }
     const bool kept = state.PrintNumber;
     state.PrintNumber = true;
-    setModified(editor, true);
+    editor.document.Modified = true;
     updateStrip(editor);
     state.PrintNumber = kept;
 }
 
-void flipVehicule(Editor& editor, int x, int y) {
-    const StripHit hit = HitTestStrip(editor.document, x, y);
+void flipVehicule(Editor& editor, StripPoint point) {
+    const StripHit hit = HitTestStrip(editor.document, point);
     if (hit.hit) {
         editor.document.selected = hit.index;
         flipVehiculeAt(editor, hit.index);
@@ -192,23 +193,14 @@ void flipVehiculeAt(Editor& editor, int position) {
     if (vehicule.Missing)
         return;
     vehicule.Flipped = !vehicule.Flipped;
-    setModified(editor, true);
+    editor.document.Modified = true;
     updateStrip(editor);
 }
 
-void showStripFull(Editor& editor) {
-    const ConsistDocument& document = editor.document;
+Finding stripFull(const ConsistDocument& document) {
     const std::string& name =
         document.rame.FileName.empty() ? document.controls.shortName : document.rame.FileName;
-    editor.frame.show(
-        editor.frame.text(Message::TooManyFiles, {{"|1", name}, {"|2", std::to_string(MaxEntries)}}),
-        style::Exclamation);
-}
-
-void showEndHidden(Editor& editor) {
-    editor.frame.show(editor.frame.text(Message::StripTooLong,
-                                        {{"|1", std::to_string(stripPictureWidth(editor.document))}}),
-                      style::Information);
+    return {.message = Message::TooManyFiles, .params = {{"|1", name}, {"|2", std::to_string(MaxEntries)}}};
 }
 
 } // namespace zandor

@@ -8,8 +8,6 @@
 namespace zandor {
 
 struct AppState {
-    bool Modified = false; // the consist under edit has unsaved changes
-    bool HasFile = false;  // it came from a file or was saved to one
     bool PrintNumber = false;
     bool PrintName = false;
     bool SplashUp = false;
@@ -27,8 +25,7 @@ struct AppState {
     std::string LastAnswer;    // as a decimal text
     std::string ProgramFolder; // without a trailing separator; the settings file stands here
     Roots roots;
-    std::string BackupDir;     // with a trailing "\"
-    std::string ConsistFolder; // where the consist under edit is saved; with a trailing "\"
+    std::string BackupDir;                                        // with a trailing "\"
     std::string ProgramFilesDir;
     std::string IniPath;
     std::string Language;

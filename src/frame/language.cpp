@@ -17,7 +17,7 @@ void substitute(std::string& text, const TextParam& param) {
 
 } // namespace
 
-std::string Language::GetLangText(Message id, std::initializer_list<TextParam> params) const {
+std::string Language::GetLangText(Message id, std::span<const TextParam> params) const {
     if (state_.Language.empty() || state_.LanguagePath.empty())
         return {};
     std::string text =

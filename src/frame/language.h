@@ -6,6 +6,7 @@
 #include "frame/settings.h"
 
 #include <initializer_list>
+#include <span>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -32,7 +33,10 @@ class Language {
     // The text of a message in AppState's language, its placeholders replaced in the order given, every
     // occurrence of each. A number that the file lacks gives an empty text. A value that holds its own
     // placeholder is put in once per occurrence of the text.
-    std::string GetLangText(Message id, std::initializer_list<TextParam> params = {}) const;
+    std::string GetLangText(Message id, std::span<const TextParam> params) const;
+    std::string GetLangText(Message id, std::initializer_list<TextParam> params = {}) const {
+        return GetLangText(id, std::span(params.begin(), params.size()));
+    }
     std::vector<LanguageChoice> ListLanguages() const;
 
   private:

@@ -224,7 +224,6 @@ void loadSettings(Frame& frame, const ProgramFolders& folders) {
         {generalValue("Inst", "0"), generalValue("PassIsBadCoupling", state.PassIsBadCoupling ? "1" : "0")},
         state.IniPath);
     makeBackupFolder(frame);
-    state.HasFile = false;
 }
 
 std::string knownSimulator(Frame& frame) {
@@ -274,19 +273,7 @@ std::string consistFromCommandLine(Frame& frame, std::string_view argument) {
     return isConsistFile(frame, asGiven) ? asGiven : std::string();
 }
 
-bool AskSaveChanges(Frame& frame, const std::string& consistName) {
-    if (!frame.state.Modified)
-        return false;
-    const std::string question = frame.state.HasFile
-                                     ? frame.text(Message::AskSaveExisting, {{"|1", consistName}})
-                                     : frame.text(Message::AskSaveNew);
-    const int given = frame.show(question, style::YesNo + style::Question);
-    frame.state.LastAnswer = std::to_string(given);
-    return given == answer::Yes;
-}
-
 void writeClosingSettings(Frame& frame, std::vector<IniValue> alsoKept) {
-    frame.state.HasFile = false;
     for (const Setting& row : GeneralSettings) {
         if (!row.keptAtClose)
             continue;

@@ -52,9 +52,6 @@ void assignRoots(Frame& frame);
 // The `.con` of the command line, cleaned and made absolute; empty when it isn't an existing consist file.
 std::string consistFromCommandLine(Frame& frame, std::string_view argument);
 
-// True when there are unsaved changes and the user wants them saved.
-bool AskSaveChanges(Frame& frame, const std::string& consistName);
-
 // What a close writes: the folders, the language, and what else is to be kept, in one write.
 void writeClosingSettings(Frame& frame, std::vector<IniValue> alsoKept = {});
 

@@ -183,10 +183,10 @@ TEST_F(SummariesTest, ASaveBringsItsRowUpToDate) {
     putTrain("Train", {"E", "gone.wag"});
     prepareSummaries(frame, catalogue, progress);
     catalogue.here().RamesEnService = {"Train.con"};
-    ASSERT_TRUE(openConsist(editor, consistPath("train.con")));
+    ASSERT_TRUE(openConsist(editor, consistPath("train.con")).done);
     RemoveVehicule(editor);
     changeFullName(editor, "New name");
-    SaveFileRame(editor);
+    save();
     ASSERT_EQ(listed(), Shown{"Train.con"});
     const ConsistSummary& row = catalogue.here().ConsistSummaries[0];
     EXPECT_EQ(row.FullName + "|" + row.Composition + "|" + row.RouteMark, "New name|1 wagon|ROUTE_YES");
@@ -195,7 +195,7 @@ TEST_F(SummariesTest, ASaveBringsItsRowUpToDate) {
     initialiseDocument(editor);
     compose("cd");
     nameConsist("Second");
-    SaveFileRame(editor);
+    save();
     EXPECT_EQ(listed(), (Shown{"Second.con", "Train.con"}));
     EXPECT_EQ(catalogue.here().ConsistSummaries[1].Composition, "2 wagons");
 }

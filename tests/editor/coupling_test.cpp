@@ -42,20 +42,20 @@ class CouplingTest : public EditorTest {
     void strip(std::initializer_list<int> stock) {
         state.NoAlertCoupling = true;
         for (int index : stock)
-            appendStock(editor, index);
-        state.NoAlertCoupling = state.Modified = controls.saveEnabled = false;
+            append(index);
+        state.NoAlertCoupling = document.Modified = false;
     }
     // What a refusal has to leave as it is.
     std::string everything() const {
         return order() + " next " + std::to_string(document.NextNumber) + " wide " +
-               std::to_string(document.StripWidth) + (state.Modified ? " modified" : "") + controls.totals;
+               std::to_string(document.StripWidth) + (document.Modified ? " modified" : "") + controls.totals;
     }
 };
 
 TEST_F(CouplingTest, WithoutAnAlertNothingIsRefused) {
     strip({chain});
     state.NoAlertCoupling = state.PassIsBadCoupling = true;
-    EXPECT_TRUE(appendStock(editor, bar));
+    EXPECT_TRUE(append(bar));
     EXPECT_EQ(shown(), Shown{});
     EXPECT_EQ(order(), "cb");
 }
@@ -64,13 +64,13 @@ TEST_F(CouplingTest, ARefusalLeavesEverythingAsItIs) {
     strip({chain, chain, bar});
     state.PassIsBadCoupling = true;
     const std::string before = everything();
-    EXPECT_FALSE(appendStock(editor, chain));
-    dragOverStrip(editor, middleOf(1), 10);
-    EXPECT_FALSE(dropStock(editor, bar));
+    EXPECT_FALSE(append(chain));
+    dragOverStrip(editor, middleOf(1));
+    EXPECT_FALSE(drop(bar));
     EXPECT_FALSE(document.DragActive);
-    pressStrip(editor, middleOf(2), 10);
-    moveOnStrip(editor, middleOf(0), 10);
-    releaseStrip(editor, ReleaseZone::Strip);
+    pressStrip(editor, middleOf(2));
+    moveOnStrip(editor, middleOf(0));
+    release(ReleaseZone::Strip);
     EXPECT_EQ(everything(), before);
     EXPECT_EQ(shown(), (Shown{"48 misfit", "48 misfit", "48 misfit"}));
     EXPECT_FALSE(document.DragActive || document.StripPressed);
@@ -85,25 +85,25 @@ TEST_F(CouplingTest, AMoveIsCheckedWhereTheVehicleComesToStand) {
     for (const Case& c : {Case{"cxb", 2, 0, "cxb"}, Case{"xcb", 2, 0, "bxc"}, Case{"bxc", 0, 3, "bxc"},
                           Case{"cbx", 0, 3, "bxc"}, Case{"cxb", 0, 2, "cxb"}, Case{"cxb", 2, 1, "cxb"},
                           Case{"bxcc", 0, 3, "bxcc"}, Case{"cxxb", 0, 3, "cxxb"}}) {
-        newConsist(editor);
+        begin();
         state.NoAlertCoupling = true;
         for (char letter : c.before)
-            appendStock(editor, letter == 'c' ? chain : letter == 'b' ? bar : both);
-        state.NoAlertCoupling = state.Modified = false;
+            append(letter == 'c' ? chain : letter == 'b' ? bar : both);
+        state.NoAlertCoupling = document.Modified = false;
         state.PassIsBadCoupling = true;
-        pressStrip(editor, middleOf(c.from), 10);
-        moveOnStrip(editor, middleOf(c.to), 10);
-        releaseStrip(editor, ReleaseZone::Strip);
+        pressStrip(editor, middleOf(c.from));
+        moveOnStrip(editor, middleOf(c.to));
+        release(ReleaseZone::Strip);
         EXPECT_EQ(order(), c.after) << c.before << " from " << c.from << " to " << c.to;
-        EXPECT_EQ(state.Modified, c.before != c.after);
-        state.Modified = false;
+        EXPECT_EQ(document.Modified, c.before != c.after);
+        document.Modified = false;
     }
 }
 
 TEST_F(CouplingTest, OneBadPairIsToldOnce) {
     strip({chain, chain});
-    dragOverStrip(editor, middleOf(1), 10);
-    EXPECT_TRUE(dropStock(editor, bar));
+    dragOverStrip(editor, middleOf(1));
+    EXPECT_TRUE(drop(bar));
     EXPECT_EQ(shown(), Shown{"48 misfit"});
 }
 

@@ -25,6 +25,7 @@ class EditorTest : public ::testing::Test, protected TestFrame {
     ConsistDocument document;
     Editor editor{frame, catalogue, document};
     EditorControls& controls = document.controls;
+    Findings told;
 
     EditorTest() {
         files.put(state.LanguagePath,
@@ -48,12 +49,33 @@ class EditorTest : public ::testing::Test, protected TestFrame {
                                      "\r\nNewFile=" + std::string(newFile) + "\r\n");
     }
 
-    // Style, blank and text of each message so far.
+    // The operations, with what they have to tell kept for shown().
+    bool take(Outcome outcome) {
+        addFindings(told, std::move(outcome.told));
+        return outcome.done;
+    }
+    bool append(int index) { return take(appendStock(editor, index)); }
+    bool drop(int index) { return take(dropStock(editor, index)); }
+    bool save() { return take(SaveFileRame(editor)); }
+    bool begin() { return take(newConsist(editor)); }
+    std::optional<int> release(ReleaseZone zone) {
+        Release released = releaseStrip(editor, zone);
+        addFindings(told, std::move(released.told));
+        return released.lookedUp;
+    }
+
+    // Style, blank and text of each question so far, then those of what was told.
     std::vector<std::string> shown() const {
         std::vector<std::string> texts;
         for (const FakeDialogs::Shown& one : dialogs.shown)
             texts.push_back(std::to_string(one.style) + " " + one.text);
+        for (const Finding& finding : told)
+            texts.push_back(std::to_string(finding.style) + " " + wordFinding(frame, finding));
         return texts;
+    }
+    void quiet() {
+        dialogs.shown.clear();
+        told.clear();
     }
     // A catalogued stock file that also stands on the disk. Returns its index.
     int addStock(std::string_view fileName, std::string_view coupling = {},
@@ -74,10 +96,9 @@ class EditorTest : public ::testing::Test, protected TestFrame {
     // One new vehicle a letter at the end of the strip, which counts as saved afterwards.
     void compose(std::string_view letters) {
         for (char letter : letters)
-            appendStock(editor, stockOf(letter));
-        state.Modified = controls.saveEnabled = false;
-        controls.scrollValue = 0;
-        dialogs.shown.clear();
+            append(stockOf(letter));
+        document.Modified = false;
+        quiet();
     }
     int stockOf(char letter) {
         const std::string file = std::string(1, letter) + ".wag";
@@ -99,7 +120,7 @@ class EditorTest : public ::testing::Test, protected TestFrame {
         return all;
     }
     // The middle of a position, or a place behind the last vehicle.
-    int middleOf(int position) const { return position * PlainPictureWidth + 60 - controls.scrollValue; }
+    int middleOf(int position) const { return position * PlainPictureWidth + 60; }
 
     static std::string consistPath(std::string_view file) {
         return consistsPath(Simulator) + std::string(file);

@@ -20,7 +20,7 @@ class OpenTest : public EditorTest {
   protected:
     int loco = addStock("Loco1.eng"), wagon = addStock("Wag1.wag");
 
-    bool open(std::string_view file) { return openConsist(editor, consistPath(file)); }
+    bool open(std::string_view file) { return take(openConsist(editor, consistPath(file))); }
     std::string rows() const {
         std::string text;
         for (const Vehicule& v : document.Vehicules)
@@ -42,9 +42,9 @@ TEST_F(OpenTest, BringsAFileOntoTheStrip) {
     EXPECT_EQ(controls.durability, 750);
     EXPECT_EQ(document.NextNumber, 9);
     EXPECT_EQ(document.StripWidth, 4 * PlainPictureWidth);
-    EXPECT_TRUE(state.HasFile && controls.deleteEnabled && controls.numberEnabled);
-    EXPECT_FALSE(state.Modified || controls.saveEnabled || document.Loading);
-    EXPECT_EQ(state.ConsistFolder, consistsPath(Simulator));
+    EXPECT_TRUE(document.HasFile && controls.deleteEnabled && controls.numberEnabled);
+    EXPECT_FALSE(document.Modified || document.Loading);
+    EXPECT_EQ(document.ConsistFolder, consistsPath(Simulator));
     EXPECT_EQ(shown(), Shown{});
 }
 
@@ -52,7 +52,7 @@ TEST_F(OpenTest, WhatIsSavedIsWhatWasRead) {
     putConsist("mixed.con", Vehicles);
     ASSERT_TRUE(open("mixed.con"));
     const std::string before = rows();
-    SaveFileRame(editor);
+    save();
     EXPECT_EQ(shown().size(), 1u);
     EXPECT_TRUE(shown()[0].ends_with("\r\nincomplete")) << shown()[0];
     for (const char* line :
@@ -65,9 +65,18 @@ TEST_F(OpenTest, WhatIsSavedIsWhatWasRead) {
     initialiseDocument(editor);
     ASSERT_TRUE(open("mixed.con"));
     EXPECT_EQ(rows(), before);
-    SaveFileRame(editor);
+    save();
     EXPECT_EQ(savedText("mixed.con"), saved);
     EXPECT_FALSE(catalogue.here().ConsistSummaries.back().Complete);
+}
+
+TEST_F(OpenTest, AMissingVehicleTakesANewNumberWithItsOldLines) {
+    putConsist("mixed.con", Vehicles);
+    open("mixed.con");
+    numberButtonPressed(editor);
+    save();
+    EXPECT_NE(savedText("mixed.con").find("UiD ( 1 )\r\n\t\t\tEngineData ( Gone \"Old Parc\" )"),
+              std::string::npos);
 }
 
 TEST_F(OpenTest, AFileNamedOtherwiseShowsBothNamesAndKeepsThem) {
@@ -87,7 +96,7 @@ TEST_F(OpenTest, AFileNamedOtherwiseShowsBothNamesAndKeepsThem) {
         EXPECT_EQ(controls.shortNameRed, c.red);
         const auto before = files.allFiles().size();
         settings("0", "0");
-        SaveFileRame(editor);
+        save();
         EXPECT_EQ(files.allFiles().size(), before) << "the file keeps its name";
         EXPECT_TRUE(savedHas(c.file, "TrainCfg ( " + std::string(c.cfgName)));
         EXPECT_EQ(controls.shortName, c.shown);
@@ -103,13 +112,14 @@ TEST_F(OpenTest, WhatIsNoConsistChangesNothing) {
     files.put("C:\\x.txt", std::string(ConsistSignature) + "\r\nTrain (\r\n)\r\n");
     for (const std::string& path : {consistPath("wrong.con"), consistPath("empty.con"),
                                     consistPath("absent.con"), std::string("C:\\x.txt")}) {
-        dialogs.shown.clear();
-        EXPECT_FALSE(openConsist(editor, path)) << path;
+        quiet();
+        EXPECT_FALSE(take(openConsist(editor, path))) << path;
+        EXPECT_EQ(told[0].file, path);
         const bool absent = path.find("absent") != std::string::npos;
         EXPECT_EQ(shown(), Shown{(absent ? "48 no consist " : "48 no train ") + files.nativePath(path)});
         EXPECT_EQ(order(), "AB");
         EXPECT_EQ(controls.shortName, "mine");
-        EXPECT_FALSE(state.HasFile);
+        EXPECT_FALSE(document.HasFile);
     }
 }
 
@@ -139,7 +149,7 @@ TEST_F(OpenTest, AFailingDiskNeverPassesForAnEmptyConsist) {
             const bool failed = files.failed();
             files.failAt(0);
             EXPECT_EQ(vehicleCount(document), opened ? 4 : 0) << call;
-            EXPECT_EQ(state.HasFile, opened);
+            EXPECT_EQ(document.HasFile, opened);
             if (!failed)
                 break;
         }
@@ -164,20 +174,20 @@ TEST_F(OpenTest, VehiclesBehindAStrayBracketAreToldAndNotLostUnasked) {
         settings("0", "0");
         ASSERT_TRUE(open("bad.con"));
         EXPECT_EQ(order(), "Wag1") << stray;
-        EXPECT_EQ(dialogs.shown.size(), 1u) << stray;
+        EXPECT_EQ(shown().size(), 1u) << stray;
 
         dialogs.answers = {answer::No};
-        SaveFileRame(editor);
+        save();
         EXPECT_EQ(*files.get(consistPath("bad.con")), before) << stray;
         dialogs.answers = {answer::Yes};
-        SaveFileRame(editor);
+        save();
         EXPECT_NE(*files.get(consistPath("bad.con")), before) << stray;
         EXPECT_EQ(*files.get(state.BackupDir + "Sauvegarde des fichiers de rames\\bad.con.old"), before)
             << "kept though the settings don't ask for it";
-        dialogs.shown.clear();
-        SaveFileRame(editor);
-        EXPECT_EQ(dialogs.shown.size(), 1u) << "the report alone";
-        dialogs.shown.clear();
+        quiet();
+        save();
+        EXPECT_EQ(shown().size(), 1u) << "the report alone";
+        quiet();
     }
 }
 
@@ -237,7 +247,7 @@ TEST_F(StoreTest, StockOfTheSimulatorIsFoundFromTheTrainStore) {
               "Wag1.wag simulator 6 |Gone too.wag missing flipped 8 |");
     EXPECT_EQ(catalogue.simulator.Materiels.size(), 2u);
     EXPECT_EQ(catalogue.simulator.Materiels[1].BasePath, trainsetPath(Simulator));
-    SaveFileRame(editor);
+    save();
     EXPECT_TRUE(savedHas("mixed.con", "EngineData ( Loco1 Folder1 )"));
     EXPECT_TRUE(savedHas("mixed.con", "WagonData ( Wag1 Folder1 )"));
 }
@@ -255,7 +265,7 @@ TEST_F(StoreTest, AChangeOfRootsEmptiesTheEditorAndFindsTheOtherStock) {
     state.roots.first = otherThan(state.roots.first);
     state.MainReady = true;
     EXPECT_TRUE(ReloadAfterOptions(editor));
-    EXPECT_FALSE(state.Busy || state.Modified || state.HasFile || hasVehicles(document));
+    EXPECT_FALSE(state.Busy || document.Modified || document.HasFile || hasVehicles(document));
     EXPECT_EQ(controls.durability, 600) << "the slider stays where the user has it";
     EXPECT_EQ(document.rame.Durability, "0.60000");
     ASSERT_TRUE(open("mixed.con"));
@@ -270,7 +280,7 @@ TEST_F(OpenTest, AConsistBeyondTheLimitOpensUpToIt) {
     putConsist("long.con", body + ")\r\n)\r\n");
     ASSERT_TRUE(open("long.con"));
     EXPECT_EQ(vehicleCount(document), MaxEntries);
-    EXPECT_EQ(shown(), (Shown{"48 limit 32766 in long.con", "64 shown up to 16364"}));
+    EXPECT_EQ(shown(), Shown{"48 limit 32766 in long.con"});
 }
 
 TEST_F(OpenTest, VehiclesAreAsWideAsTheirPictures) {
@@ -288,7 +298,7 @@ TEST_F(OpenTest, VehiclesAreAsWideAsTheirPictures) {
     EXPECT_FALSE(document.Vehicules[0].ImageIsResource || document.Vehicules[0].ImageIsGeneric);
     EXPECT_EQ(document.Vehicules[1].Picture, "NO_MATERIEL");
     EXPECT_TRUE(document.Vehicules[1].ImageIsResource);
-    EXPECT_TRUE(appendStock(editor, loco));
+    EXPECT_TRUE(append(loco));
     EXPECT_EQ(document.StripWidth, 400 + 2 * PlainPictureWidth);
 }
 

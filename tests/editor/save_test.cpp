@@ -10,16 +10,16 @@ class SaveTest : public EditorTest {
     int loco = addStock("Loco1.eng"), wagon = addStock("Wag1.wag");
 
     void composeExample() {
-        appendStock(editor, loco);
-        appendStock(editor, wagon);
-        flipVehicule(editor, middleOf(1), 10);
+        append(loco);
+        append(wagon);
+        flipVehicule(editor, middleOf(1));
         nameConsist("Test");
     }
 };
 
 TEST_F(SaveTest, WritesTheWholeTextOfAConsist) {
     composeExample();
-    SaveFileRame(editor);
+    save();
     EXPECT_EQ(shown(), Shown{"64 saved"});
     const std::string expected = "SIMISA@@@@@@@@@@JINX0D0t______\r\n"
                                  "\r\n"
@@ -48,14 +48,14 @@ TEST_F(SaveTest, WritesTheWholeTextOfAConsist) {
 
 TEST_F(SaveTest, ASavedConsistStaysAndIsClean) {
     composeExample();
-    SaveFileRame(editor);
-    EXPECT_TRUE(state.HasFile && controls.deleteEnabled);
-    EXPECT_FALSE(state.Modified || controls.saveEnabled || controls.shortNameEnabled);
+    save();
+    EXPECT_TRUE(document.HasFile && controls.deleteEnabled);
+    EXPECT_FALSE(document.Modified || controls.shortNameEnabled);
     EXPECT_EQ(order(), "Loco1Wag1");
     EXPECT_EQ(catalogue.here().ConsistFiles, Shown{"Test.con"});
     EXPECT_EQ(catalogue.here().ConsistSummaries[0].FileName, "Test.con");
     EXPECT_TRUE(catalogue.here().ConsistSummaries[0].Complete);
-    SaveFileRame(editor);
+    save();
     EXPECT_EQ(catalogue.here().ConsistFiles, Shown{"Test.con"});
     EXPECT_EQ(catalogue.here().ConsistSummaries.size(), 1u);
 }
@@ -63,16 +63,16 @@ TEST_F(SaveTest, ASavedConsistStaysAndIsClean) {
 TEST_F(SaveTest, ANewConsistBeginsWhenTheSettingOrTheToolWindowAsksForIt) {
     settings("1", "1");
     composeExample();
-    SaveFileRame(editor);
+    save();
     EXPECT_EQ(order(), "");
-    EXPECT_FALSE(state.HasFile || controls.deleteEnabled);
+    EXPECT_FALSE(document.HasFile || controls.deleteEnabled);
     EXPECT_TRUE(controls.shortNameEnabled);
 
     settings("1", "0");
     composeExample();
     nameConsist("Other");
     document.openedFromOptions = true;
-    SaveFileRame(editor);
+    save();
     EXPECT_EQ(order(), "");
 }
 
@@ -85,30 +85,30 @@ TEST_F(SaveTest, ABadNameStopsTheSave) {
     for (const Case& c :
          {Case{"", "Full", "48 no name"}, Case{"Short", "", "48 no full name"},
           Case{"LISTED", "Full", "48 LISTED.con taken"}, Case{"unlisted", "Full", "48 unlisted.con taken"}}) {
-        appendStock(editor, wagon);
+        append(wagon);
         controls.shortName = c.shortName;
         controls.fullName = c.fullName;
         const auto before = files.allFiles();
-        dialogs.shown.clear();
-        SaveFileRame(editor);
+        quiet();
+        save();
         EXPECT_EQ(shown(), Shown{c.message});
         EXPECT_EQ(files.allFiles(), before);
-        EXPECT_TRUE(state.Modified);
-        EXPECT_FALSE(state.HasFile);
+        EXPECT_TRUE(document.Modified);
+        EXPECT_FALSE(document.HasFile);
     }
 }
 
 TEST_F(SaveTest, AFullNameOfAnyLettersKeepsTheVehicles) {
     for (const std::string name : {"5\" gauge (test", "\"", "a ) b", "( ( \"x\" )", "# one", "\"(\""}) {
-        newConsist(editor);
-        appendStock(editor, addStock("Wag1.wag"));
+        begin();
+        append(addStock("Wag1.wag"));
         changeFullName(editor, name);
         changeShortName(editor, "full");
         settings("0", "0");
-        SaveFileRame(editor);
+        save();
         const std::string kept = controls.fullName;
-        newConsist(editor);
-        ASSERT_TRUE(openConsist(editor, consistPath("full.con"))) << name;
+        begin();
+        ASSERT_TRUE(openConsist(editor, consistPath("full.con")).done) << name;
         EXPECT_EQ(vehicleCount(document), 1) << name;
         EXPECT_EQ(controls.fullName, kept);
         files.deleteFile(consistPath("full.con"));
@@ -120,40 +120,40 @@ TEST_F(SaveTest, StockThatNoFileCanHoldIsRefusedByItsName) {
     for (const int index : {addStock("a\nb.wag"), addStock("c\t.wag"), addStock(".eng"),
                             addStock("d.wag", "", "e\t"), addStock("f.wag", "", "g\r\nh")}) {
         initialiseDocument(editor);
-        state.HasFile = false;
-        appendStock(editor, loco);
-        appendStock(editor, index);
+        document.HasFile = false;
+        append(loco);
+        append(index);
         nameConsist("odd");
         const auto before = files.allFiles();
-        dialogs.shown.clear();
-        SaveFileRame(editor);
+        quiet();
+        save();
         const Materiel& odd = catalogue.here().Materiels[static_cast<std::size_t>(index)];
         EXPECT_EQ(shown(), Shown{"48 unwritable " + odd.Folder + "\\" + odd.FileName});
         EXPECT_EQ(files.allFiles(), before);
-        EXPECT_TRUE(state.Modified && !state.HasFile);
+        EXPECT_TRUE(document.Modified && !document.HasFile);
     }
 }
 
 TEST_F(SaveTest, MaxVelocityFollowsTheEngine) {
-    appendStock(editor, wagon);
+    append(wagon);
     nameConsist("v");
-    SaveFileRame(editor);
+    save();
     EXPECT_TRUE(savedHas("v.con", "MaxVelocity ( 0.00000 0.00100 )"));
-    appendStock(editor, loco);
-    SaveFileRame(editor);
+    append(loco);
+    save();
     EXPECT_TRUE(savedHas("v.con", "MaxVelocity ( 40.00000 1.00000 )"));
     document.rame.MaxVelocity = "22.22222 0.50000";
-    SaveFileRame(editor);
+    save();
     EXPECT_TRUE(savedHas("v.con", "MaxVelocity ( 22.22222 0.50000 )"));
 }
 
 TEST_F(SaveTest, TheWagonsOwnSpellingOfItsNameIsWritten) {
     catalogue.here().Materiels[static_cast<std::size_t>(wagon)].WagonName = "WAG1";
     const int odd = addStock("odd.txt");
-    appendStock(editor, wagon);
-    appendStock(editor, odd);
+    append(wagon);
+    append(odd);
     nameConsist("w");
-    SaveFileRame(editor);
+    save();
     EXPECT_TRUE(savedHas("w.con", "WagonData ( WAG1 Folder1 )"));
     EXPECT_EQ(savedText("w.con").find("odd"), std::string::npos);
     ASSERT_EQ(document.RameStockNew.size(), 1u);
@@ -162,45 +162,44 @@ TEST_F(SaveTest, TheWagonsOwnSpellingOfItsNameIsWritten) {
 
 TEST_F(SaveTest, TheOldFileIsKeptAndTheCopyReplacedByTheNextOne) {
     composeExample();
-    SaveFileRame(editor);
+    save();
     const std::string first = *files.get(consistPath("Test.con"));
-    appendStock(editor, wagon);
-    dialogs.shown.clear();
-    SaveFileRame(editor);
+    append(wagon);
+    quiet();
+    save();
     const std::string copy = std::string(BackupOf) + "Test.con.old";
     EXPECT_EQ(files.get(copy), first);
     EXPECT_EQ(shown(), Shown{"64 saved+kept " + files.nativePath(copy)});
     const std::string second = *files.get(consistPath("Test.con"));
-    appendStock(editor, wagon);
-    SaveFileRame(editor);
+    append(wagon);
+    save();
     EXPECT_EQ(files.get(copy), second);
 
     settings("0", "0");
-    dialogs.shown.clear();
-    SaveFileRame(editor);
+    quiet();
+    save();
     EXPECT_EQ(shown(), Shown{"64 saved"});
     EXPECT_EQ(files.get(copy), second);
 }
 
 TEST_F(SaveTest, TheOnlyCopyIsReplacedWhenTheUserSaysSo) {
     composeExample();
-    SaveFileRame(editor);
+    save();
     const std::string first = *files.get(consistPath("Test.con"));
     files.put("\\program\\Backup\\Sauvegarde des fichiers de rames", "a file in the folder's place");
-    appendStock(editor, wagon);
+    append(wagon);
     const std::string question = "308 Test unkept in " + files.nativePath(BackupOf);
     for (const bool saved : {false, true}) {
-        dialogs.shown.clear();
+        quiet();
         dialogs.answers = {saved ? answer::Yes : answer::No};
-        SaveFileRame(editor);
+        save();
         EXPECT_EQ(shown(), saved ? (Shown{question, "64 saved"}) : Shown{question});
         EXPECT_EQ(files.get(consistPath("Test.con")) == first, !saved);
-        EXPECT_EQ(state.Modified, !saved);
-        EXPECT_EQ(controls.saveEnabled, !saved);
+        EXPECT_EQ(document.Modified, !saved);
     }
     document.noBackup = true;
-    dialogs.shown.clear();
-    SaveFileRame(editor);
+    quiet();
+    save();
     EXPECT_EQ(shown(), Shown{"64 saved"});
 }
 
@@ -209,15 +208,15 @@ TEST_F(SaveTest, BlanksAtTheEndsOfNamesAreNotKept) {
     changeFullName(editor, "  In full ");
     changeShortName(editor, " Short  ");
     files.put(consistPath("Short.con"), "of another program");
-    SaveFileRame(editor);
+    save();
     EXPECT_EQ(shown(), Shown{"48 Short.con taken"});
     files.deleteFile(consistPath("Short.con"));
     for (int i = 0; i < 2; ++i) {
-        SaveFileRame(editor);
+        save();
         EXPECT_TRUE(savedHas("Short.con", "TrainCfg ( Short"));
         EXPECT_TRUE(savedHas("Short.con", "Name ( \"In full\" )"));
         EXPECT_EQ(controls.shortName + '|' + controls.fullName, "Short|In full");
-        ASSERT_TRUE(openConsist(editor, consistPath("Short.con")));
+        ASSERT_TRUE(openConsist(editor, consistPath("Short.con")).done);
         EXPECT_FALSE(controls.shortNameRed);
         changeFullName(editor, "In full ");
     }
@@ -227,10 +226,10 @@ TEST_F(SaveTest, ACloseWaitsForASaveThatFails) {
     composeExample();
     state.roots.RootMSTS = "D:\\Gone";
     dialogs.defaultAnswer = answer::Yes;
-    EXPECT_FALSE(closeEditor(editor));
+    EXPECT_FALSE(take(closeEditor(editor)));
     EXPECT_EQ(order(), "Loco1Wag1");
     state.roots.RootMSTS = Simulator;
-    EXPECT_TRUE(closeEditor(editor));
+    EXPECT_TRUE(take(closeEditor(editor)));
     EXPECT_TRUE(files.get(consistPath("Test.con")));
 }
 
@@ -251,16 +250,16 @@ TEST_F(SaveTest, AFailureAnywhereLosesNothing) {
             composeExample();
             std::optional<std::string> old;
             if (c.hasFile) {
-                SaveFileRame(editor);
+                save();
                 old = files.get(consistPath("Test.con"));
                 ASSERT_TRUE(old);
-                appendStock(editor, wagon);
+                append(wagon);
             }
             const Rame rameBefore = document.rame;
-            dialogs.shown.clear();
+            quiet();
             files.failAt(call, c.allAfter);
             dialogs.defaultAnswer = answer::No;
-            SaveFileRame(editor);
+            save();
             const bool failed = files.failed();
             files.failAt(0);
 
@@ -271,15 +270,14 @@ TEST_F(SaveTest, AFailureAnywhereLosesNothing) {
             const bool isNew =
                 now && now->size() > 100 && savedText("Test.con").ends_with("\t)\r\n)\r\n") && now != old;
             EXPECT_TRUE(isOld || isNew) << "call " << call;
-            EXPECT_EQ(state.Modified, !saved) << "call " << call;
+            EXPECT_EQ(document.Modified, !saved) << "call " << call;
             if (saved) {
                 EXPECT_TRUE(isNew) << "call " << call;
             } else {
                 ++failures;
-                EXPECT_TRUE(controls.saveEnabled);
                 EXPECT_EQ(document.rame.CfgName, rameBefore.CfgName);
                 EXPECT_EQ(document.rame.NextWagonUID, rameBefore.NextWagonUID);
-                EXPECT_EQ(state.HasFile, c.hasFile);
+                EXPECT_EQ(document.HasFile, c.hasFile);
                 EXPECT_EQ(catalogue.here().ConsistFiles.back(), c.hasFile ? "Test.con" : "");
             }
             if (!failed)

@@ -62,16 +62,16 @@ TEST_F(StockUseTest, NothingIsCountedWithoutTheGreenMark) {
 TEST_F(StockUseTest, SavesCountEachVehicleOfAFileOnce) {
     compose("AAB");
     nameConsist("Test");
-    SaveFileRame(editor);
+    save();
     EXPECT_EQ(counts(), "A.wag 2 B.wag 1 ");
-    SaveFileRame(editor);
+    save();
     EXPECT_EQ(counts(), "A.wag 2 B.wag 1 ") << "nothing has changed";
     document.DragSource = 2;
     RemoveVehicule(editor);
-    SaveFileRame(editor);
+    save();
     EXPECT_EQ(counts(), "A.wag 2 B.wag 0 ");
     changeShortName(editor, "Second");
-    SaveFileRame(editor);
+    save();
     EXPECT_EQ(counts(), "A.wag 4 B.wag 0 ") << "the first file still uses its stock";
     EXPECT_EQ(catalogue.ConsistIndex.size(), 2u);
 }

@@ -32,6 +32,7 @@ class StripDrawingTest : public EditorTest {
   protected:
     FixedLetters letters;
     NamedPictures pictures;
+    int viewWidth = 800;
 
     // A vehicle at the end of the strip, of a stock entry of its own.
     Vehicule& add(std::string_view name, std::string_view picture = "w121", std::string_view brakes = "",
@@ -52,7 +53,7 @@ class StripDrawingTest : public EditorTest {
         return document.Vehicules.back();
     }
     std::vector<StripStep> draw(bool onlyLast = false) {
-        return DrawStrip(editor, pictures, letters, onlyLast);
+        return DrawStrip(editor, pictures, letters, viewWidth, onlyLast);
     }
     template <class Step> std::vector<Step> drawn(bool onlyLast = false) {
         std::vector<Step> found;
@@ -113,15 +114,15 @@ TEST_F(StripDrawingTest, ThePictureGrowsWithTheStripUpToItsLimit) {
          {Case{1, 800, 800}, Case{6, 800, 876}, Case{6, 876, 876}, Case{133, 800, before},
           Case{134, 800, 134 * PlainPictureWidth + 150}, Case{135, 800, 134 * PlainPictureWidth + 150},
           Case{1000, 800, 134 * PlainPictureWidth + 150}, Case{1000, 20000, 20000}}) {
-        newConsist(editor);
-        controls.viewWidth = c.viewWidth;
+        begin();
+        viewWidth = c.viewWidth;
         add("A");
         document.Vehicules.resize(static_cast<std::size_t>(c.vehicles), document.Vehicules[0]);
         document.StripWidth = c.vehicles * PlainPictureWidth;
         EXPECT_EQ(drawn<SizeStrip>(), std::vector{SizeStrip{c.width}}) << c.vehicles;
         EXPECT_LE(drawn<CopyPicture>().back().area.left, c.width) << "nothing is drawn behind the end";
         EXPECT_EQ(document.Vehicules.back().DrawnWidth, PlainPictureWidth);
-        state.Modified = false;
+        document.Modified = false;
     }
 }
 
@@ -178,13 +179,13 @@ TEST_F(StripDrawingTest, BarsTellTheBrakeSystem) {
           Case{"vacuum_single_pipe", Red, {{16, 2}}}, Case{"vacuum_twin_pipe", Red, {{12, 5}}},
           Case{"vacuum_piped", Red, {{16, 2}, {12, 5}}}, Case{"ecp", Yellow, {{5, 2}}}, Case{"", Red, {}},
           Case{"handbrake", Red, {}}}) {
-        newConsist(editor);
+        begin();
         add("A", "w121", c.system);
         std::vector<FillBar> expected;
         for (const auto& [fromBottom, thickness] : c.bars)
             expected.push_back({{0, StripHeight - fromBottom, 120, thickness}, c.colour});
         EXPECT_EQ(drawn<FillBar>(), expected) << c.system;
-        state.Modified = false;
+        document.Modified = false;
     }
 }
 
@@ -200,11 +201,11 @@ TEST_F(StripDrawingTest, MarksTellTheFrontOfTheRightVehicle) {
                           Case{"bar", "hydraulic_bar", {{CouplingMark::Hydro, 113, 51}}},
                           Case{"chain", "", {}}, Case{"", "bar", {{CouplingMark::Bar, 113, 51}}},
                           Case{"magnet", "magnet", {}}, Case{"chain", "bar", {{Bad, 111, 0}}}}) {
-        newConsist(editor);
+        begin();
         add("A", "w121", "", c.left);
         add("B", "w121", "", c.right);
         EXPECT_EQ(drawn<PlaceMark>(), c.marks) << c.left << " " << c.right;
-        state.Modified = false;
+        document.Modified = false;
     }
 }
 
@@ -229,10 +230,10 @@ TEST_F(StripDrawingTest, EveryOperationAsksForTheDrawing) {
         operation();
         return document.stripChanges != before;
     };
-    EXPECT_TRUE(asks([this] { appendStock(editor, stockOf('C')); }));
-    EXPECT_TRUE(asks([this] { pressStrip(editor, middleOf(0), 10); }));
-    EXPECT_TRUE(asks([this] { releaseStrip(editor, ReleaseZone::Strip); }));
-    EXPECT_TRUE(asks([this] { flipVehicule(editor, middleOf(0), 10); }));
+    EXPECT_TRUE(asks([this] { append(stockOf('C')); }));
+    EXPECT_TRUE(asks([this] { pressStrip(editor, middleOf(0)); }));
+    EXPECT_TRUE(asks([this] { release(ReleaseZone::Strip); }));
+    EXPECT_TRUE(asks([this] { flipVehicule(editor, middleOf(0)); }));
     EXPECT_TRUE(asks([this] { RemoveVehicule(editor); }));
     EXPECT_TRUE(asks([this] { numberButtonPressed(editor); }));
     EXPECT_TRUE(asks([this] { ResetEditor(editor); })) << "the strip is empty";

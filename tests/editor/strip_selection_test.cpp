@@ -26,25 +26,25 @@ TEST_F(SelectionTest, MovesStepByStepAndNotBeyondTheEnds) {
         compose("ABCD");
         selectVehicule(document, c.from);
         const std::string moved = selected();
-        EXPECT_TRUE(moveSelected(editor, c.step));
+        EXPECT_TRUE(take(moveSelected(editor, c.step)));
         EXPECT_EQ(order(), c.order) << c.from << ' ' << c.step;
         EXPECT_EQ(selected(), moved) << c.from << ' ' << c.step;
-        EXPECT_EQ(state.Modified, c.modified) << c.from << ' ' << c.step;
+        EXPECT_EQ(document.Modified, c.modified) << c.from << ' ' << c.step;
         EXPECT_FALSE(document.DragActive);
     }
 }
 
 TEST_F(SelectionTest, InsertsInFrontOfItOrAtTheEnd) {
     document.selected = -1;
-    EXPECT_TRUE(insertBeforeSelected(editor, stockOf('x')));
+    EXPECT_TRUE(take(insertBeforeSelected(editor, stockOf('x'))));
     EXPECT_EQ(order(), "ABCDx") << "nothing was selected";
     EXPECT_EQ(selected(), "x");
     selectVehicule(document, 1);
-    EXPECT_TRUE(insertBeforeSelected(editor, stockOf('y')));
+    EXPECT_TRUE(take(insertBeforeSelected(editor, stockOf('y'))));
     EXPECT_EQ(order(), "AyBCDx");
     EXPECT_EQ(selected(), "y");
     selectVehicule(document, 0);
-    EXPECT_TRUE(insertBeforeSelected(editor, stockOf('w')));
+    EXPECT_TRUE(take(insertBeforeSelected(editor, stockOf('w'))));
     EXPECT_EQ(order(), "wAyBCDx");
     EXPECT_EQ(selected(), "w");
 }
@@ -54,7 +54,7 @@ TEST_F(SelectionTest, StaysOnItsVehicleWhateverTheMouseDoes) {
     document.DragSource = 0;
     RemoveVehicule(editor);
     EXPECT_EQ(selected(), "C");
-    MoveVehicule(editor, 0, 2);
+    take(MoveVehicule(editor, 0, 2));
     EXPECT_EQ(selected(), "C") << order();
     document.DragSource = document.selected;
     RemoveVehicule(editor);
@@ -64,24 +64,35 @@ TEST_F(SelectionTest, StaysOnItsVehicleWhateverTheMouseDoes) {
     EXPECT_EQ(selected(), "");
     EXPECT_FALSE(hasVehicles(document));
     removeSelected(editor); // nothing is left
-    EXPECT_FALSE(state.Modified);
+    EXPECT_FALSE(document.Modified);
 }
 
-TEST_F(SelectionTest, FlipsScrollsAndTells) {
+TEST_F(SelectionTest, RefusesWhatDoesNotFit) {
+    initialiseDocument(editor);
+    addStock("p.wag", "chain");
+    addStock("q.wag", "bar");
+    state.NoAlertCoupling = true;
+    compose("pq");
+    state.NoAlertCoupling = false;
+    state.PassIsBadCoupling = true;
+    selectVehicule(document, 0);
+    EXPECT_FALSE(take(moveSelected(editor, 1)));
+    EXPECT_EQ(order(), "pq");
+    EXPECT_EQ(selected(), "p");
+    EXPECT_EQ(shown(), Shown{"48 misfit"});
+}
+
+TEST_F(SelectionTest, FlipsAndTells) {
     files.put(state.LanguagePath,
               "[English]\r\n86=|1/|2 |3 |4\r\n87=|1/|2 |3 |4 flipped\r\n88=|1 missing\r\n89=none\r\n");
     document.selected = -1;
     EXPECT_EQ(describeSelected(editor), "none");
-    controls.viewWidth = 200;
-    updateStrip(editor);
     selectVehicule(document, 7);
     EXPECT_EQ(describeSelected(editor), "4/4 D 3");
-    EXPECT_EQ(controls.scrollValue, 4 * PlainPictureWidth - 200);
     flipSelected(editor);
     EXPECT_EQ(describeSelected(editor), "4/4 D 3 flipped");
-    EXPECT_TRUE(state.Modified);
+    EXPECT_TRUE(document.Modified);
     selectVehicule(document, 0);
-    EXPECT_EQ(controls.scrollValue, 0);
     EXPECT_EQ(lookUpSelected(document), document.Vehicules[0].MaterielIndex);
     document.Vehicules[0].Missing = true;
     flipSelected(editor);

@@ -11,27 +11,27 @@ TEST_F(StripTest, StockIsPutWhereItIsDropped) {
         const char* result;
     };
     for (const Case& c : {Case{0, "NABC"}, Case{1, "ANBC"}, Case{2, "ABNC"}, Case{3, "ABCN"}}) {
-        newConsist(editor);
+        begin();
         compose("ABC");
-        dragOverStrip(editor, middleOf(c.position), 10);
+        dragOverStrip(editor, middleOf(c.position));
         EXPECT_TRUE(dropMarkPosition(document)) << c.position;
-        dragOverStrip(editor, middleOf(c.position), 11);
+        dragOverStrip(editor, middleOf(c.position));
         EXPECT_TRUE(dropMarkPosition(document)) << "the mark stays when the pointer moves on the vehicle";
-        EXPECT_TRUE(dropStock(editor, stockOf('N')));
+        EXPECT_TRUE(drop(stockOf('N')));
         EXPECT_EQ(order(), c.result);
-        EXPECT_TRUE(state.Modified && controls.saveEnabled);
+        EXPECT_TRUE(document.Modified);
         EXPECT_FALSE(document.DragActive);
         EXPECT_EQ(document.StripWidth, 4 * PlainPictureWidth);
-        state.Modified = false;
+        document.Modified = false;
     }
 }
 
 TEST_F(StripTest, WhatIsNotInTheCatalogueIsNotDropped) {
     compose("A");
     for (int index : {-1, 1, 4711})
-        EXPECT_FALSE(appendStock(editor, index));
+        EXPECT_FALSE(append(index));
     EXPECT_EQ(order(), "A");
-    EXPECT_FALSE(state.Modified);
+    EXPECT_FALSE(document.Modified);
 }
 
 TEST_F(StripTest, AVehicleMovesToWhereItIsReleased) {
@@ -43,48 +43,48 @@ TEST_F(StripTest, AVehicleMovesToWhereItIsReleased) {
     for (const Case& c : {Case{0, 0, "ABCD", false}, Case{0, 1, "ABCD", false}, Case{0, 2, "BACD", true},
                           Case{0, 4, "BCDA", true}, Case{2, 4, "ABDC", true}, Case{3, 4, "ABCD", false},
                           Case{3, 0, "DABC", true}, Case{2, 1, "ACBD", true}, Case{3, 3, "ABCD", false}}) {
-        newConsist(editor);
+        begin();
         compose("ABCD");
-        pressStrip(editor, middleOf(c.from), 10);
-        moveOnStrip(editor, middleOf(c.to), 10);
+        pressStrip(editor, middleOf(c.from));
+        moveOnStrip(editor, middleOf(c.to));
         EXPECT_EQ(dropMarkPosition(document).has_value(), c.marked) << c.from << " to " << c.to;
-        releaseStrip(editor, ReleaseZone::Strip);
+        release(ReleaseZone::Strip);
         EXPECT_EQ(order(), c.result) << c.from << " to " << c.to;
-        EXPECT_EQ(state.Modified, order() != "ABCD");
+        EXPECT_EQ(document.Modified, order() != "ABCD");
         EXPECT_FALSE(document.DragActive || document.StripPressed);
-        state.Modified = false;
+        document.Modified = false;
     }
 }
 
 TEST_F(StripTest, AVehicleDraggedOffTheStripIsGoneWithNoQuestion) {
     compose("ABC");
-    pressStrip(editor, middleOf(1), 10);
-    moveOnStrip(editor, 300, 400);
-    releaseStrip(editor, ReleaseZone::Elsewhere);
+    pressStrip(editor, middleOf(1));
+    moveOnStrip(editor, std::nullopt);
+    release(ReleaseZone::Elsewhere);
     EXPECT_EQ(order(), "AC");
     EXPECT_EQ(document.StripWidth, 2 * PlainPictureWidth);
-    EXPECT_TRUE(state.Modified);
+    EXPECT_TRUE(document.Modified);
     EXPECT_EQ(shown(), Shown{});
 }
 
 TEST_F(StripTest, AnEmptiedStripHasNothingToSave) {
     compose("A");
-    state.HasFile = state.Modified = true;
-    pressStrip(editor, middleOf(0), 10);
-    releaseStrip(editor, ReleaseZone::Elsewhere);
+    document.HasFile = document.Modified = true;
+    pressStrip(editor, middleOf(0));
+    release(ReleaseZone::Elsewhere);
     EXPECT_FALSE(hasVehicles(document));
-    EXPECT_FALSE(state.Modified || controls.saveEnabled || controls.numberEnabled);
+    EXPECT_FALSE(document.Modified || controls.numberEnabled);
     EXPECT_EQ(document.StripWidth, 0);
 }
 
 TEST_F(StripTest, AForgottenDragFromTheListRemovesNoVehicle) {
     compose("AB");
-    dragOverStrip(editor, middleOf(1), 10);
-    pressStrip(editor, 700, 10);
-    releaseStrip(editor, ReleaseZone::Elsewhere);
+    dragOverStrip(editor, middleOf(1));
+    pressStrip(editor, 700);
+    release(ReleaseZone::Elsewhere);
     EXPECT_EQ(order(), "AB");
-    dragOverStrip(editor, middleOf(0), 10);
-    appendStock(editor, stockOf('C'));
+    dragOverStrip(editor, middleOf(0));
+    append(stockOf('C'));
     EXPECT_EQ(order(), "ABC") << "a double click appends";
 }
 
@@ -95,39 +95,37 @@ TEST_F(StripTest, AReleaseOnThePreviewLooksTheStockUp) {
     InsertVehicule(editor, 0, false, false, &gone);
     const std::optional<int> expected[] = {stockOf('A'), -1, std::nullopt};
     for (int position = 0; position < 3; ++position) {
-        pressStrip(editor, middleOf(position), 10);
-        EXPECT_EQ(releaseStrip(editor, ReleaseZone::Preview), expected[position]) << position;
+        pressStrip(editor, middleOf(position));
+        EXPECT_EQ(release(ReleaseZone::Preview), expected[position]) << position;
     }
     EXPECT_EQ(order(), "ABgone.wag");
 }
 
 TEST_F(StripTest, PointsAreTestedFromEdgeToEdge) {
     compose("AB");
-    controls.viewWidth = 400;
     struct Case {
-        int x, y, index;
+        StripPoint point;
+        int index;
         bool hit, atFront, atEnd;
     };
-    for (const Case& c : {Case{0, 0, 0, true, true, false}, Case{120, StripHeight, 0, true, true, false},
-                          Case{121, 50, 1, true, false, false}, Case{241, 50, 1, true, false, false},
-                          Case{242, 50, 0, false, false, true}, Case{400, 50, 0, false, false, true},
-                          Case{401, 50, 0, false, false, false}, Case{-1, 50, 0, false, false, false},
-                          Case{50, StripHeight + 1, 0, false, false, false}}) {
-        const StripHit hit = HitTestStrip(document, c.x, c.y);
-        EXPECT_EQ(hit.hit, c.hit) << c.x;
-        EXPECT_EQ(hit.index, c.index) << c.x;
-        EXPECT_EQ(hit.atFront, c.atFront) << c.x;
-        EXPECT_EQ(hit.atEnd, c.atEnd) << c.x;
+    for (const Case& c : {Case{0, 0, true, true, false}, Case{120, 0, true, true, false},
+                          Case{121, 1, true, false, false}, Case{241, 1, true, false, false},
+                          Case{242, 0, false, false, true}, Case{std::nullopt, 0, false, false, false}}) {
+        const StripHit hit = HitTestStrip(document, c.point);
+        EXPECT_EQ(hit.hit, c.hit) << c.point.value_or(-1);
+        EXPECT_EQ(hit.index, c.index) << c.point.value_or(-1);
+        EXPECT_EQ(hit.atFront, c.atFront) << c.point.value_or(-1);
+        EXPECT_EQ(hit.atEnd, c.atEnd) << c.point.value_or(-1);
     }
-    EXPECT_EQ(stripToolTip(document, 130, 5), "B");
-    EXPECT_EQ(stripToolTip(document, 300, 5), "");
+    EXPECT_EQ(stripToolTip(document, 130), "B");
+    EXPECT_EQ(stripToolTip(document, 300), "");
 }
 
 TEST_F(StripTest, NumbersRunAlongTheStripOnlyWhenAskedFor) {
     compose("ABC");
-    pressStrip(editor, middleOf(2), 10);
-    moveOnStrip(editor, middleOf(0), 10);
-    releaseStrip(editor, ReleaseZone::Strip);
+    pressStrip(editor, middleOf(2));
+    moveOnStrip(editor, middleOf(0));
+    release(ReleaseZone::Strip);
     EXPECT_EQ(numbers(), (std::vector<int>{2, 0, 1}));
     numberButtonPressed(editor);
     EXPECT_EQ(numbers(), (std::vector<int>{0, 1, 2}));
@@ -136,7 +134,7 @@ TEST_F(StripTest, NumbersRunAlongTheStripOnlyWhenAskedFor) {
     state.PrintNumber = true;
     document.DragSource = 0;
     RemoveVehicule(editor);
-    appendStock(editor, stockOf('D'));
+    append(stockOf('D'));
     EXPECT_EQ(numbers(), (std::vector<int>{0, 1, 2}));
     EXPECT_EQ(document.NextNumber, 3);
 }
@@ -144,7 +142,7 @@ TEST_F(StripTest, NumbersRunAlongTheStripOnlyWhenAskedFor) {
 TEST_F(StripTest, PastTheHighestNumberALowerFreeOneFollows) {
     compose("AB");
     document.NextNumber = 32767;
-    appendStock(editor, stockOf('C'));
+    append(stockOf('C'));
     EXPECT_EQ(document.Vehicules[2].Number, 32767);
     EXPECT_EQ(document.NextNumber, 2);
 }
@@ -153,60 +151,12 @@ TEST_F(StripTest, AMissingVehicleIsNotTurned) {
     compose("A");
     const RameItem gone{true, 0, false, "gone", "Parc", ""};
     InsertVehicule(editor, 0, false, false, &gone);
-    state.Modified = false;
-    flipVehicule(editor, middleOf(1), 10);
-    EXPECT_FALSE(document.Vehicules[1].Flipped || state.Modified);
-    flipVehicule(editor, middleOf(0), 10);
-    EXPECT_TRUE(document.Vehicules[0].Flipped && state.Modified);
+    document.Modified = false;
+    flipVehicule(editor, middleOf(1));
+    EXPECT_FALSE(document.Vehicules[1].Flipped || document.Modified);
+    flipVehicule(editor, middleOf(0));
+    EXPECT_TRUE(document.Vehicules[0].Flipped && document.Modified);
     EXPECT_TRUE(isEngine(editor, document.Vehicules[1]));
-}
-
-TEST_F(StripTest, AppendingScrollsToTheEndAndInsertingStays) {
-    controls.viewWidth = 300;
-    compose("AB");
-    EXPECT_FALSE(controls.scrollEnabled);
-    appendStock(editor, stockOf('C'));
-    EXPECT_TRUE(controls.scrollEnabled);
-    EXPECT_EQ(controls.scrollMaximum, 3 * PlainPictureWidth + 150 - 300);
-    EXPECT_EQ(controls.scrollValue, controls.scrollMaximum);
-    controls.scrollValue = 40;
-    dragOverStrip(editor, 100, 10);
-    EXPECT_EQ(dropMarkPosition(document), PlainPictureWidth - 40);
-    dropStock(editor, stockOf('D'));
-    EXPECT_EQ(order(), "ADBC");
-    EXPECT_EQ(controls.scrollValue, 40);
-    while (vehicleCount(document) > 2)
-        RemoveVehicule(editor);
-    EXPECT_FALSE(controls.scrollEnabled);
-    EXPECT_EQ(controls.scrollValue, 0);
-}
-
-TEST_F(StripTest, ThatTheEndIsOutOfSightIsToldOnce) {
-    controls.viewWidth = 0; // no window shows it
-    compose(std::string(140, 'A'));
-    EXPECT_EQ(shown(), Shown{});
-    newConsist(editor);
-    controls.viewWidth = 800;
-    dialogs.shown.clear();
-    compose(std::string(134, 'A'));
-    EXPECT_EQ(shown(), Shown{});
-    EXPECT_TRUE(appendStock(editor, stockOf('A')));
-    EXPECT_TRUE(appendStock(editor, stockOf('A')));
-    EXPECT_EQ(shown(), Shown{"64 shown up to " + std::to_string(134 * PlainPictureWidth + 150)});
-}
-
-TEST_F(StripTest, ThePointerNearAnEdgeScrolls) {
-    controls.viewWidth = 400;
-    compose("ABCDEFGH");
-    struct Case {
-        int x, y, before, after;
-    };
-    for (const Case& c : {Case{390, 10, 100, 140}, Case{350, 10, 100, 100}, Case{10, 10, 100, 60},
-                          Case{10, 10, 20, 0}, Case{400, 10, 700, 718}, Case{401, 10, 100, 100}}) {
-        controls.scrollValue = c.before;
-        AutoScrollStrip(document, c.x, c.y);
-        EXPECT_EQ(controls.scrollValue, c.after) << c.x << " from " << c.before;
-    }
 }
 
 TEST_F(StripTest, TotalsAreCutNotRounded) {
@@ -216,7 +166,7 @@ TEST_F(StripTest, TotalsAreCutNotRounded) {
     for (const Case& c :
          {Case{"3m 4m 18.98765m", "80.5t", "long 37.975 heavy 161"}, Case{"3m 4m 18m", "", "long 36"},
           Case{"", "12.25", " heavy 24.5"}, Case{"", "", ""}, Case{"wide", "0", ""}}) {
-        newConsist(editor);
+        begin();
         catalogue.here().Materiels[static_cast<std::size_t>(stockOf('A'))].Size = c.size;
         catalogue.here().Materiels[static_cast<std::size_t>(stockOf('A'))].Mass = c.mass;
         compose("AA");
@@ -237,7 +187,7 @@ TEST_F(StripTest, FiguresHaveTheMarkOfTheLanguage) {
     const MaterielInfo info = ShowMaterielInfo(frame, materiel);
     EXPECT_EQ(info.length + info.mass, "18,98765 m80,5 t");
     nameConsist("comma");
-    SaveFileRame(editor);
+    save();
     EXPECT_TRUE(savedHas("comma.con", "Durability ( 0.50000 )"));
 }
 
@@ -246,7 +196,7 @@ TEST_F(StripTest, AFullStripTakesNoMore) {
     for (Vehicule& vehicule : document.Vehicules)
         vehicule.Name = "x";
     controls.shortName = "long";
-    EXPECT_FALSE(appendStock(editor, stockOf('A')));
+    EXPECT_FALSE(append(stockOf('A')));
     EXPECT_EQ(vehicleCount(document), MaxEntries);
     EXPECT_EQ(shown(), Shown{"48 limit 32766 in long"});
 }
@@ -264,25 +214,25 @@ TEST_F(StripTest, TheShortNameHoldsWhatAFileNameCan) {
 TEST_F(StripTest, NamesAndDurabilityChangeAConsistOnlyWhenThereIsOne) {
     changeDurability(editor, 500);
     changeFullName(editor, "empty");
-    EXPECT_FALSE(state.Modified || controls.saveEnabled);
+    EXPECT_FALSE(document.Modified);
     EXPECT_EQ(controls.resistance, "R 14.7");
     compose("A");
     changeDurability(editor, 1000);
-    EXPECT_TRUE(state.Modified && controls.saveEnabled);
+    EXPECT_TRUE(document.Modified);
     EXPECT_EQ(controls.resistance, "R 29.4");
 }
 
 TEST_F(StripTest, ANewConsistAsksFirst) {
     compose("A");
-    state.Modified = true;
+    document.Modified = true;
     dialogs.defaultAnswer = answer::Yes;
-    EXPECT_FALSE(newConsist(editor)) << "it has no name to be saved by";
+    EXPECT_FALSE(begin()) << "it has no name to be saved by";
     EXPECT_EQ(shown(), (Shown{"36 save new?", "48 no name"}));
     EXPECT_EQ(order(), "A");
     dialogs.defaultAnswer = answer::No;
-    EXPECT_TRUE(newConsist(editor));
+    EXPECT_TRUE(begin());
     EXPECT_EQ(order(), "");
-    EXPECT_FALSE(state.Modified || controls.saveEnabled || controls.deleteEnabled);
+    EXPECT_FALSE(document.Modified || controls.deleteEnabled);
     EXPECT_TRUE(controls.shortNameEnabled);
 }
 

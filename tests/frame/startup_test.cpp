@@ -297,35 +297,16 @@ TEST_F(StartUp, OnlyAnExistingConsistOfTheCommandLineIsOpened) {
     EXPECT_TRUE(dialogs.shown.empty());
 }
 
-TEST_F(StartUp, UnsavedChangesAreAskedFor) {
-    EXPECT_FALSE(AskSaveChanges(frame, "Rapide"));
-    EXPECT_TRUE(dialogs.shown.empty());
-
-    state.Modified = true;
-    dialogs.answers = {answer::Yes, answer::No};
-    EXPECT_TRUE(AskSaveChanges(frame, "Rapide"));
-    EXPECT_EQ(dialogs.shown[0].text, frame.text(Message::AskSaveNew));
-    EXPECT_EQ(dialogs.shown[0].style, 36);
-    EXPECT_EQ(state.LastAnswer, "6");
-
-    state.HasFile = true;
-    EXPECT_FALSE(AskSaveChanges(frame, "Rapide"));
-    EXPECT_EQ(dialogs.shown[1].text, frame.text(Message::AskSaveExisting, {{"|1", "Rapide"}}));
-    EXPECT_EQ(state.LastAnswer, "7");
-}
-
 TEST_F(StartUp, ACloseKeepsFoldersAndLanguageForTheNextRun) {
     putFolder("D:\\Mśts");
     load();
     state.roots.RootMSTS = "D:\\Mśts";
     state.roots.RootTStore = "";
     state.Language = "Deutsch";
-    state.HasFile = true;
     files.log.clear();
     writeClosingSettings(frame, {{"Window", "MainTop", "7"}});
     EXPECT_EQ(std::ranges::count_if(files.log, [](auto& call) { return call.starts_with("writeFile"); }), 1);
     EXPECT_EQ(profiles.ReadIniValue("Window", "MainTop", state.IniPath), "7");
-    EXPECT_FALSE(state.HasFile);
     EXPECT_EQ(setting("TStoreDir"), "");
     state.roots.RootMSTS.clear();
     EXPECT_TRUE(findRoots(frame));

@@ -164,7 +164,7 @@ TEST_F(KeyboardTest, ADroppedConsistOpensAfterTheQuestion) {
                                  "\r\nTrain (\r\nTrainCfg ( given\r\nEngine (\r\nUiD ( 7 )\r\n"
                                  "EngineData ( bb1 BB )\r\n)\r\n)\r\n)\r\n"));
     build({"CC 6500"});
-    state.Modified = true;
+    document.Modified = true;
     test.dialogs.answers = {answer::Yes, answer::Ok};
     dropFile("/given/given.con");
     EXPECT_EQ(vehicles(), Names{"CC 6500"}) << "the save that was wanted had no name";

@@ -68,7 +68,7 @@ class OpenWindowTest : public ::testing::Test, protected TestFrame {
             frame, catalogue,
             [this](const std::string& path) {
                 opened.push_back(path);
-                return opens && openConsist(editor, path);
+                return opens && showOutcome(frame, openConsist(editor, path));
             },
             nullptr);
     }
@@ -170,20 +170,20 @@ TEST_F(OpenWindowTest, EveryWayOfOpeningOpensTheSelectedConsist) {
         EXPECT_EQ(opened, Names{pathOf("zephyr.con")});
         EXPECT_EQ(window->result(), QDialog::Accepted);
         EXPECT_FALSE(window->isVisible());
-        EXPECT_TRUE(state.HasFile);
+        EXPECT_TRUE(document.HasFile);
         EXPECT_EQ(document.rame.Name, "Zéphyr");
     }
 }
 
 TEST_F(OpenWindowTest, AConsistThatVanishedLeavesTheDialogAndTheStripAsTheyWere) {
-    ASSERT_TRUE(openConsist(editor, pathOf("aquilon.con")));
+    ASSERT_TRUE(openConsist(editor, pathOf("aquilon.con")).done);
     show();
     files.deleteFile(pathOf("mistral.con"));
     QTest::keyClick(&list(), Qt::Key_Return);
     EXPECT_EQ(dialogs.shown.size(), 1u);
     EXPECT_TRUE(window->isVisible());
     EXPECT_EQ(document.rame.Name, "aquilon");
-    EXPECT_TRUE(state.HasFile);
+    EXPECT_TRUE(document.HasFile);
 }
 
 TEST_F(OpenWindowTest, WithoutConsistsThereIsNothingToOpen) {

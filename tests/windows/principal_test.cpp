@@ -150,7 +150,66 @@ TEST_F(WindowTest, ADragThatEndedElsewhereLeavesNothing) {
     EXPECT_EQ(vehicles(), (Names{"BB 9288", "CC 6500", "CC 6500"}));
 }
 
+TEST_F(WindowTest, ARefusedCouplingIsToldOnceAndChangesNothing) {
+    build({"BB 9288"});
+    state.NoAlertCoupling = false;
+    state.PassIsBadCoupling = true;
+    const auto data = dragged(keyOf("BB 67400"));
+    enterStrip(*data, behind(1));
+    dropOnStrip(*data, behind(1));
+    EXPECT_EQ(test.dialogs.shown.size(), 1u);
+    EXPECT_EQ(vehicles(), Names{"BB 9288"});
+    EXPECT_FALSE(document.Modified);
+}
+
 // ---- the mouse on the strip
+
+TEST_F(WindowTest, VehiclesAreMovedAndThrownAway) {
+    const QPoint away(200, 400); // far below the strip
+    struct Case {
+        const char* what;
+        QPoint from, to;
+        Names after;
+        const char* selected;
+        bool modified;
+    };
+    const Case cases[] = {
+        {"to the right", onVehicle(0), onVehicle(2), {"CC 6500", "BB 9288", "BB 67400"}, "BB 9288", true},
+        {"to the end", onVehicle(0), behind(3), {"CC 6500", "BB 67400", "BB 9288"}, "BB 9288", true},
+        {"to the front", onVehicle(2), onVehicle(0), {"BB 67400", "BB 9288", "CC 6500"}, "BB 67400", true},
+        {"onto its neighbour's left",
+         onVehicle(0),
+         onVehicle(1),
+         {"BB 9288", "CC 6500", "BB 67400"},
+         "BB 9288",
+         false},
+        {"onto itself", onVehicle(1), onVehicle(1), {"BB 9288", "CC 6500", "BB 67400"}, "CC 6500", false},
+        {"away", onVehicle(1), away, {"BB 9288", "BB 67400"}, "BB 67400", true},
+        {"the last away", onVehicle(2), away, {"BB 9288", "CC 6500"}, "CC 6500", true},
+    };
+    for (const Case& c : cases) {
+        initialiseDocument(editor);
+        build({"BB 9288", "CC 6500", "BB 67400"});
+        drag(c.from, c.to);
+        EXPECT_EQ(vehicles(), c.after) << c.what;
+        EXPECT_EQ(document.Modified, c.modified) << c.what;
+        EXPECT_EQ(selected(), c.selected) << c.what;
+        EXPECT_TRUE(get<QLabel>("lblSTATUS").text().contains(c.selected)) << c.what;
+        EXPECT_FALSE(document.DragActive) << c.what;
+        EXPECT_TRUE(test.dialogs.shown.empty()) << c.what;
+        document.Modified = false;
+    }
+}
+
+TEST_F(WindowTest, ATremblingClickMovesNothing) {
+    build({"BB 9288", "CC 6500"});
+    const QPoint edge(PlainPictureWidth - 2, 60);
+    QTest::mousePress(&strip(), Qt::LeftButton, {}, edge);
+    moveHeld(edge + QPoint(3, 0));
+    QTest::mouseRelease(&strip(), Qt::LeftButton, {}, edge + QPoint(3, 0));
+    EXPECT_EQ(vehicles(), (Names{"BB 9288", "CC 6500"}));
+    EXPECT_FALSE(document.Modified);
+}
 
 TEST_F(WindowTest, EscapeAndLostFocusPutAHeldVehicleBack) {
     build({"BB 9288", "CC 6500"});
@@ -190,7 +249,7 @@ TEST_F(WindowTest, ThePointerShowsWhatLettingGoWouldDo) {
         {"between it and the strip", ofPreview({20, preview.height()}), true},
     };
     for (const Case& c : cases) {
-        newConsist(editor);
+        initialiseDocument(editor);
         build({"BB 9288"});
         QTest::mousePress(&strip(), Qt::LeftButton, {}, onVehicle(0));
         EXPECT_FALSE(QApplication::overrideCursor()) << "a hand at rest throws nothing away";
@@ -200,7 +259,7 @@ TEST_F(WindowTest, ThePointerShowsWhatLettingGoWouldDo) {
         QTest::mouseRelease(&strip(), Qt::LeftButton, {}, c.at);
         EXPECT_FALSE(QApplication::overrideCursor()) << c.what;
         EXPECT_EQ(vehicles().empty(), c.thrownAway) << c.what;
-        state.Modified = false;
+        document.Modified = false;
     }
 }
 
@@ -210,7 +269,7 @@ TEST_F(WindowTest, AHandThatTremblesOverTheEdgeRemovesNothing) {
     QTest::mousePress(&strip(), Qt::LeftButton, {}, edge);
     QTest::mouseRelease(&strip(), Qt::LeftButton, {}, edge + QPoint(0, 3));
     EXPECT_EQ(vehicles().size(), 2u);
-    EXPECT_FALSE(state.Modified);
+    EXPECT_FALSE(document.Modified);
 }
 
 TEST_F(WindowTest, LettersLookForNamesAlsoBehindAClickOnAnIcon) {
@@ -227,7 +286,7 @@ TEST_F(WindowTest, AVehicleOnThePreviewIsLookedUpInTheList) {
     EXPECT_EQ(list().currentKey(), keyOf("Wagon plat"));
     EXPECT_EQ(get<QLabel>("tbSELECT").text().trimmed(), "Wagon plat");
     EXPECT_EQ(vehicles().size(), 2u);
-    EXPECT_FALSE(state.Modified);
+    EXPECT_FALSE(document.Modified);
 }
 
 TEST_F(WindowTest, TheRightButtonTurnsAVehicleRound) {
@@ -253,18 +312,16 @@ TEST_F(WindowTest, TheToolTipNamesTheVehicle) {
 TEST_F(WindowTest, ADragThatRestsAtTheEdgeScrolls) {
     for (int i = 0; i < 20; ++i)
         build({"BB 9288"});
-    document.controls.scrollValue = 0;
-    window->refresh();
+    const QScrollBar& bar = get<QScrollBar>("HScrollRAME");
     const auto data = dragged(keyOf("CC 6500"));
     enterStrip(*data, {strip().width() - 5, 60});
-    const int before = document.controls.scrollValue;
+    const int before = bar.value();
     QTest::qWait(200);
-    EXPECT_GT(document.controls.scrollValue, before);
-    EXPECT_EQ(get<QScrollBar>("HScrollRAME").value(), document.controls.scrollValue);
+    EXPECT_GT(bar.value(), before);
     leaveStrip();
-    const int after = document.controls.scrollValue;
+    const int after = bar.value();
     QTest::qWait(100);
-    EXPECT_EQ(document.controls.scrollValue, after);
+    EXPECT_EQ(bar.value(), after);
 }
 
 // ---- names, durability, saving
@@ -281,7 +338,7 @@ TEST_F(WindowTest, TypedNamesKeepWhatAFileNameCanHold) {
     QTest::keyClicks(&get<QLineEdit>("tbFULL_NAME"), "Paris: <Lyon>");
     EXPECT_EQ(get<QLineEdit>("tbFULL_NAME").text(), "Paris: <Lyon>");
     EXPECT_EQ(shortName.text(), "Paris Lyon");
-    EXPECT_FALSE(state.Modified) << "there is no vehicle yet";
+    EXPECT_FALSE(document.Modified) << "there is no vehicle yet";
 }
 
 TEST_F(WindowTest, TheSliderShowsItsForce) {
@@ -320,7 +377,7 @@ TEST_F(WindowTest, OpenShowsTheConsistAndItsDoubleNameInRed) {
 
 TEST_F(WindowTest, CloseWaitsForASaveThatDidNotHappen) {
     build({"BB 9288"});
-    state.Modified = true;
+    document.Modified = true;
     test.dialogs.answers = {answer::Yes}; // then the message that the name is missing
     EXPECT_FALSE(window->close());
     EXPECT_TRUE(window->isVisible());
@@ -337,7 +394,6 @@ TEST_F(WindowTest, AResizedWindowShowsAsMuchOfTheStrip) {
     const int narrow = get<QScrollBar>("HScrollRAME").maximum();
     window->resize(1400, 800);
     QTest::qWait(1);
-    EXPECT_EQ(document.controls.viewWidth, strip().width());
     EXPECT_EQ(get<QScrollBar>("HScrollRAME").pageStep(), strip().width()) << "the handle is as large";
     EXPECT_LT(get<QScrollBar>("HScrollRAME").maximum(), narrow);
     window->resize(1800, 800);

@@ -42,7 +42,7 @@ TEST_F(WindowTest, ScrollingAndTheTimerOnlyCopy) {
     QTest::qWait(1);
     strip().grab();
     EXPECT_EQ(strip().imgRAME().cacheKey(), drawn);
-    appendStock(editor, stockIndex("CC 6500"));
+    EXPECT_TRUE(appendStock(editor, stockIndex("CC 6500")).done);
     window->refresh();
     strip().grab();
     EXPECT_NE(strip().imgRAME().cacheKey(), drawn);

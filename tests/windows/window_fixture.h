@@ -100,8 +100,8 @@ struct WindowTest : ::testing::Test {
     void build(std::initializer_list<const char*> names) {
         state.NoAlertCoupling = true;
         for (const char* name : names)
-            appendStock(editor, stockIndex(name));
-        state.Modified = document.controls.saveEnabled = false;
+            EXPECT_TRUE(appendStock(editor, stockIndex(name)).done);
+        document.Modified = false;
         document.selected = -1;
         window->refresh();
     }

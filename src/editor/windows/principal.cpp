@@ -168,7 +168,6 @@ void frmPrincipal::connectStrip() {
     connect(c.PicRAME, &StripView::changed, this, &frmPrincipal::refresh);
     connect(c.PicRAME, &StripView::scrolled, this, &frmPrincipal::refreshScrollBar);
     connect(c.PicRAME, &StripView::lookedUp, this, &frmPrincipal::lookUp);
-    connect(c.PicRAME, &StripView::sizeChanged, this, &frmPrincipal::stripResized);
     connect(c.PicRAME, &StripView::stockDropped, this, [this](int index) {
         // A message of the drop must not stand in the middle of the system's drag: it waits for the drag's
         // end.
@@ -178,10 +177,7 @@ void frmPrincipal::connectStrip() {
                 finishStockDrag();
         });
     });
-    connect(c.HScrollRAME, &QScrollBar::valueChanged, this, [this](int value) {
-        editor_.document.controls.scrollValue = value;
-        controls_.PicRAME->update();
-    });
+    connect(c.HScrollRAME, &QScrollBar::valueChanged, c.PicRAME, &StripView::scrollTo);
     connect(c.Timer1, &QTimer::timeout, this, [this] {
         if (!controls_.PicRAME->dragging())
             controls_.PicRAME->update();
@@ -269,14 +265,14 @@ void frmPrincipal::applyListColours() {
 // ---- commands
 
 void frmPrincipal::newPressed() {
-    newConsist(editor_);
+    showOutcome(editor_.frame, newConsist(editor_));
     updateUnusedStock(); // the question may have led to a save
     refresh();
 }
 
 void frmPrincipal::openPressed() {
     Frame& frame = editor_.frame;
-    const bool goOn = offerToSave(editor_);
+    const bool goOn = showOutcome(frame, offerToSave(editor_));
     updateUnusedStock();
     refresh();
     if (!goOn)
@@ -291,21 +287,26 @@ bool frmPrincipal::openFile(const std::string& path) {
     const frmLoading loading(toQt(editor_.frame.text(Message::OpeningConsist, {{"|1", GetFileName(path)}})),
                              parentOfDialogs());
     const std::size_t known = editor_.catalogue.here().Materiels.size();
-    const bool opened = openConsist(editor_, path);
-    if (opened)
+    const Outcome outcome = openConsist(editor_, path);
+    showFindings(editor_.frame, outcome.told);
+    if (outcome.done) {
         selectVehicule(editor_.document, 0);
+        controls_.PicRAME->showSelected();
+        if (endIsHidden(editor_.document, controls_.PicRAME->scroll()))
+            showFindings(editor_.frame, {endHidden(editor_.document, controls_.PicRAME->scroll())});
+    }
     if (editor_.catalogue.here().Materiels.size() != known) { // stock that came since the load
         const QString key = controls_.lstViewMATERIEL->currentKey();
         fillStockList();
         controls_.lstViewMATERIEL->selectKey(key);
     }
     refresh();
-    return opened;
+    return outcome.done;
 }
 
 void frmPrincipal::savePressed() {
     const BusyPointer busy;
-    SaveFileRame(editor_);
+    showOutcome(editor_.frame, SaveFileRame(editor_));
     updateUnusedStock();
     refresh();
 }
@@ -316,7 +317,7 @@ void frmPrincipal::aboutPressed() {
 
 void frmPrincipal::closeEvent(QCloseEvent* event) {
     emit closeAsked();
-    if (closeEditor(editor_, place_->values())) {
+    if (showOutcome(editor_.frame, closeEditor(editor_, place_->values()))) {
         event->accept();
         return;
     }
@@ -341,7 +342,7 @@ void frmPrincipal::dropEvent(QDropEvent* event) {
 }
 
 void frmPrincipal::offerFile(const std::string& path) {
-    if (offerToSave(editor_))
+    if (showOutcome(editor_.frame, offerToSave(editor_)))
         openFile(path);
     updateUnusedStock();
     refresh();
@@ -352,22 +353,26 @@ void frmPrincipal::offerFile(const std::string& path) {
 void frmPrincipal::actionTriggered(int id) {
     const QString key = controls_.lstViewMATERIEL->currentKey();
     const int stock = indexOfKey(fromQt(key));
+    const bool wasHidden = endIsHidden(editor_.document, controls_.PicRAME->scroll());
     switch (id) {
     case StripActions::InsertEnd:
         return appendFromList(key);
     case StripActions::InsertBefore:
         if (materielOfKey(editor_.catalogue, key))
-            insertBeforeSelected(editor_, stock);
+            finishInsertion(insertBeforeSelected(editor_, stock), wasHidden);
+        controls_.PicRAME->showSelected();
         break;
     case StripActions::MoveLeft:
     case StripActions::MoveRight:
-        moveSelected(editor_, id == StripActions::MoveLeft ? -1 : 1);
+        showOutcome(editor_.frame, moveSelected(editor_, id == StripActions::MoveLeft ? -1 : 1));
+        controls_.PicRAME->showSelected();
         break;
     case StripActions::Flip:
         flipSelected(editor_);
         break;
     case StripActions::Remove:
         removeSelected(editor_);
+        controls_.PicRAME->showSelected();
         break;
     case StripActions::FindInList:
         if (const auto found = lookUpSelected(editor_.document))
@@ -378,6 +383,17 @@ void frmPrincipal::actionTriggered(int id) {
         break;
     }
     refresh();
+}
+
+// What was put at the end comes into sight; elsewhere the strip stays as it was scrolled.
+void frmPrincipal::finishInsertion(const Outcome& outcome, bool endWasHidden) {
+    StripView& strip = *controls_.PicRAME;
+    Findings told = outcome.told;
+    if (outcome.done && !endWasHidden && endIsHidden(editor_.document, strip.scroll()))
+        told.push_back(endHidden(editor_.document, strip.scroll()));
+    showFindings(editor_.frame, told);
+    if (outcome.done)
+        strip.showInserted();
 }
 
 // ---- the stock list
@@ -415,13 +431,15 @@ void frmPrincipal::updateUnusedStock() {
 void frmPrincipal::appendFromList(const QString& key) {
     if (!materielOfKey(editor_.catalogue, key))
         return;
-    appendStock(editor_, indexOfKey(fromQt(key)));
+    const bool wasHidden = endIsHidden(editor_.document, controls_.PicRAME->scroll());
+    finishInsertion(appendStock(editor_, indexOfKey(fromQt(key))), wasHidden);
     refresh();
 }
 
 void frmPrincipal::finishStockDrag() {
+    const bool wasHidden = endIsHidden(editor_.document, controls_.PicRAME->scroll());
     if (const auto index = std::exchange(droppedStock_, std::nullopt))
-        dropStock(editor_, *index);
+        finishInsertion(dropStock(editor_, *index), wasHidden);
     else if (!controls_.PicRAME->dragging())
         clearDrag(editor_.document);
     refresh();
@@ -489,12 +507,11 @@ void frmPrincipal::refresh() {
     }
     c.lblRESISTANCE->setText(toQt(shown.resistance));
     c.lblLongueurNewRame->setText(toQt(shown.totals));
-    c.cmdSAVE->setEnabled(shown.saveEnabled);
+    c.cmdSAVE->setEnabled(editor_.document.Modified);
     c.cmdNUMEROTATION->setEnabled(shown.numberEnabled);
     c.lblSTATUS->setText(toQt(hasVehicles(editor_.document) ? describeSelected(editor_) : std::string()));
     refreshActions();
-    refreshScrollBar();
-    c.PicRAME->update();
+    c.PicRAME->refresh();
 }
 
 void frmPrincipal::refreshActions() {
@@ -519,22 +536,14 @@ void frmPrincipal::refreshNames() {
 }
 
 void frmPrincipal::refreshScrollBar() {
-    const EditorControls& shown = editor_.document.controls;
+    const StripScroll& scroll = controls_.PicRAME->scroll();
     QScrollBar& bar = *controls_.HScrollRAME;
     const QSignalBlocker quiet(bar);
-    bar.setRange(0, shown.scrollMaximum);
-    bar.setSingleStep(shown.scrollSmallStep);
-    bar.setPageStep(shown.scrollLargeStep);
-    bar.setValue(shown.scrollValue);
-    bar.setEnabled(shown.scrollEnabled);
-}
-
-void frmPrincipal::stripResized() {
-    EditorControls& shown = editor_.document.controls;
-    shown.viewWidth = controls_.PicRAME->width();
-    shown.viewHeight = controls_.PicRAME->height();
-    updateStrip(editor_);
-    refresh();
+    bar.setRange(0, scroll.maximum);
+    bar.setSingleStep(scroll.smallStep);
+    bar.setPageStep(scroll.largeStep);
+    bar.setValue(scroll.value);
+    bar.setEnabled(scroll.enabled);
 }
 
 void frmPrincipal::changeEvent(QEvent* event) {
@@ -549,9 +558,11 @@ bool frmPrincipal::filterStrip(QEvent* event) {
     if (event->type() == QEvent::ContextMenu) {
         const auto* asked = static_cast<QContextMenuEvent*>(event);
         if (withControl) {
-            const StripHit hit = HitTestStrip(editor_.document, asked->x(), asked->y());
-            if (hit.hit)
+            const StripHit hit = HitTestStrip(editor_.document, controls_.PicRAME->pointAt(asked->pos()));
+            if (hit.hit) {
                 selectVehicule(editor_.document, hit.index);
+                controls_.PicRAME->showSelected();
+            }
             refresh();
         }
         if (withControl || asked->reason() == QContextMenuEvent::Keyboard)

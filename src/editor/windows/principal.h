@@ -72,7 +72,7 @@ class frmPrincipal final : public QWidget {
     void showInfo(const MaterielInfo& info);
     void lookUp(int materielIndex);
     void sayNotInList();
-    void stripResized();
+    void finishInsertion(const Outcome& outcome, bool endWasHidden);
     void refreshNames();
     void refreshScrollBar();
     QString describeStock(const QString& key, int column) const;

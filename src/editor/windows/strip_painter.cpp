@@ -146,11 +146,10 @@ QRect stripPixels(const PixelGrid& grid, int left, int width, int scrollValue, i
             corner + QPoint(grid.length(left + width) - 1, grid.length(height) - 1)};
 }
 
-void paintDropMark(QPainter& painter, const ConsistDocument& document, int height) {
-    const int scrolled = document.controls.scrollValue;
-    if (const auto x = dropMarkPosition(document)) {
+void paintDropMark(QPainter& painter, const ConsistDocument& document, int scrollValue, int height) {
+    if (const StripPoint x = dropMarkPosition(document)) {
         const PixelGrid grid(painter);
-        painter.fillRect(stripPixels(grid, *x + scrolled, DropMarkWidth, scrolled, height), DropMark);
+        painter.fillRect(stripPixels(grid, *x, DropMarkWidth, scrollValue, height), DropMark);
     }
 }
 

@@ -48,6 +48,6 @@ class StripPicture {
 QRect stripPixels(const PixelGrid& grid, int left, int width, int scrollValue, int height);
 
 // The red line where a dragged vehicle would go, when it would go anywhere.
-void paintDropMark(QPainter& painter, const ConsistDocument& document, int height);
+void paintDropMark(QPainter& painter, const ConsistDocument& document, int scrollValue, int height);
 
 } // namespace zandor

@@ -75,11 +75,37 @@ void StripView::DrawStrip() {
 void StripView::draw() {
     pictures_.beginRedraw();
     const FontMeasure letters(font());
-    const auto steps = zandor::DrawStrip(editor_, pictures_, letters);
+    const auto steps = zandor::DrawStrip(editor_, pictures_, letters, scroll_.viewWidth);
     drawnRatio_ = devicePixelRatioF();
     picture_.carryOut(steps, pictures_, font(), drawnRatio_);
     drawnChanges_ = editor_.document.stripChanges;
     drawnInDrag_ = editor_.document.DragActive;
+}
+
+void StripView::refresh() {
+    updateScroll(scroll_, editor_.document);
+    emit scrolled();
+    update();
+}
+
+void StripView::scrollTo(int value) {
+    scrollBy(scroll_, value - scroll_.value);
+    update();
+}
+
+void StripView::showSelected() {
+    updateScroll(scroll_, editor_.document);
+    scrollToVehicule(scroll_, editor_.document, editor_.document.selected);
+    emit scrolled();
+    update();
+}
+
+void StripView::showInserted() {
+    updateScroll(scroll_, editor_.document);
+    if (editor_.document.selected == vehicleCount(editor_.document) - 1)
+        scrollToEnd(scroll_);
+    emit scrolled();
+    update();
 }
 
 void StripView::paintEmptyHint(QPainter& painter) const {
@@ -95,8 +121,7 @@ void StripView::paintSelection(QPainter& painter) const {
     for (std::size_t i = 0; i < selected; ++i)
         left += document.Vehicules[i].Width;
     const PixelGrid grid(painter);
-    const QRect frame =
-        stripPixels(grid, left, document.Vehicules[selected].Width, document.controls.scrollValue, height());
+    const QRect frame = stripPixels(grid, left, document.Vehicules[selected].Width, scroll_.value, height());
     grid.frame(frame, hasFocus() ? 2 : 1, theme::Accent, hasFocus() ? Qt::SolidLine : Qt::DashLine);
 }
 
@@ -104,17 +129,19 @@ void StripView::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     if (isOutdated())
         draw();
-    picture_.ShowStrip(painter, size(), editor_.document.controls.scrollValue);
+    picture_.ShowStrip(painter, size(), scroll_.value);
     if (!hasVehicles(editor_.document))
         paintEmptyHint(painter);
     else if (hasSelection(editor_.document) && !dragging())
         paintSelection(painter);
     if (inside_ && dragging())
-        paintDropMark(painter, editor_.document, height());
+        paintDropMark(painter, editor_.document, scroll_.value, height());
 }
 
 void StripView::resizeEvent(QResizeEvent*) {
-    emit sizeChanged();
+    scroll_.viewWidth = width();
+    ++editor_.document.stripChanges; // the picture fills the view
+    refresh();
 }
 
 // ---- a vehicle in the hand
@@ -123,7 +150,7 @@ void StripView::mousePressEvent(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton || dragging())
         return;
     lastPoint_ = event->position().toPoint();
-    pressStrip(editor_, lastPoint_.x(), lastPoint_.y());
+    pressStrip(editor_, pointAt(lastPoint_));
     pressed_ = editor_.document.DragActive;
     pressPoint_ = lastPoint_;
     moved_ = false;
@@ -135,7 +162,8 @@ void StripView::mousePressEvent(QMouseEvent* event) {
 void StripView::followPress(const QPoint& point) {
     lastPoint_ = point;
     inside_ = rect().contains(point);
-    moveOnStrip(editor_, point.x(), point.y());
+    moveOnStrip(editor_, pointAt(point));
+    AutoScrollStrip(scroll_, point.x(), point.y());
     setShape(zoneAt(mapToGlobal(point)) == ReleaseZone::Elsewhere ? Shape::Discard : Shape::Carry);
     emit scrolled();
     update();
@@ -160,7 +188,7 @@ void StripView::mouseReleaseEvent(QMouseEvent* event) {
     const QPoint point = event->position().toPoint();
     if (event->button() == Qt::RightButton) {
         endPress();
-        flipVehicule(editor_, point.x(), point.y());
+        flipVehicule(editor_, pointAt(point));
         emit changed();
         update();
         return;
@@ -176,11 +204,12 @@ void StripView::mouseReleaseEvent(QMouseEvent* event) {
         clearDrag(editor_.document);
         return;
     }
-    const auto found = releaseStrip(editor_, atRest ? ReleaseZone::Strip : zoneAt(mapToGlobal(point)));
+    const Release release = releaseStrip(editor_, atRest ? ReleaseZone::Strip : zoneAt(mapToGlobal(point)));
+    showFindings(editor_.frame, release.told);
     emit changed();
     update();
-    if (found)
-        emit lookedUp(*found);
+    if (release.lookedUp)
+        emit lookedUp(*release.lookedUp);
 }
 
 void StripView::endPress() {
@@ -218,19 +247,18 @@ void StripView::setShape(Shape shape) {
 
 // The strip goes on scrolling while the pointer rests near an edge.
 void StripView::scrollWhileResting() {
-    const int before = editor_.document.controls.scrollValue;
+    const int before = scroll_.value;
     if (pressed_)
         followPress(lastPoint_);
     else if (stockOver_)
         followStock(lastPoint_);
-    if (editor_.document.controls.scrollValue != before)
+    if (scroll_.value != before)
         update();
 }
 
 void StripView::updateToolTip(const QPoint& point) {
     const ConsistDocument& document = editor_.document;
-    setToolTip(hasVehicles(document) ? plainTip(toQt(stripToolTip(document, point.x(), point.y())))
-                                     : emptyTip_);
+    setToolTip(hasVehicles(document) ? plainTip(toQt(stripToolTip(document, pointAt(point)))) : emptyTip_);
 }
 
 void StripView::keyPressEvent(QKeyEvent* event) {
@@ -255,16 +283,18 @@ void StripView::keyPressEvent(QKeyEvent* event) {
     default:
         return QWidget::keyPressEvent(event);
     }
+    showSelected();
     emit changed();
-    update();
 }
 
 // The keyboard comes to a vehicle, not to nothing.
 void StripView::focusInEvent(QFocusEvent* event) {
     QWidget::focusInEvent(event);
     const bool byKey = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
-    if (byKey && !hasSelection(editor_.document))
+    if (byKey && !hasSelection(editor_.document)) {
         selectVehicule(editor_.document, 0);
+        showSelected();
+    }
     emit changed();
     update();
 }
@@ -277,13 +307,11 @@ void StripView::focusOutEvent(QFocusEvent* event) {
 
 // A notch of the wheel is one vehicle.
 void StripView::wheelEvent(QWheelEvent* event) {
-    EditorControls& controls = editor_.document.controls;
-    if (!controls.scrollEnabled)
+    if (!scroll_.enabled)
         return event->ignore();
     const QPoint turned = event->angleDelta();
     const int delta = std::abs(turned.x()) > std::abs(turned.y()) ? turned.x() : turned.y();
-    controls.scrollValue =
-        std::clamp(controls.scrollValue - delta * PlainPictureWidth / 120, 0, controls.scrollMaximum);
+    scrollBy(scroll_, -delta * PlainPictureWidth / 120);
     emit scrolled();
     update();
 }
@@ -293,7 +321,8 @@ void StripView::wheelEvent(QWheelEvent* event) {
 void StripView::followStock(const QPoint& point) {
     lastPoint_ = point;
     inside_ = rect().contains(point);
-    dragOverStrip(editor_, point.x(), point.y());
+    dragOverStrip(editor_, pointAt(point));
+    AutoScrollStrip(scroll_, point.x(), point.y());
     emit scrolled();
     update();
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "editor/consist_document.h"
+#include "editor/strip_scroll.h"
 #include "editor/windows/picture_store.h"
 #include "editor/windows/strip_painter.h"
 
@@ -27,6 +28,15 @@ class StripView final : public QWidget {
     // Draws the strip anew at once: after a change that no operation of the document has brought, such as a
     // setting.
     void DrawStrip();
+    // Shows the document as it stands.
+    void refresh();
+    const StripScroll& scroll() const { return scroll_; }
+    void scrollTo(int value); // of the scroll bar
+    // The selected vehicle brought into sight: as little as need be, or as one that was put in by the mouse,
+    // which moves the strip at its end alone.
+    void showSelected();
+    void showInserted();
+    StripPoint pointAt(const QPoint& point) const { return pointOf(scroll_, point.x(), point.y()); }
     const QPixmap& imgRAME() const { return picture_.pixmap(); }
     PictureStore& pictures() { return pictures_; }
     // Puts a vehicle in the hand back without doing anything.
@@ -38,7 +48,6 @@ class StripView final : public QWidget {
     void scrolled();
     void stockDropped(int materielIndex); // of a list row, at the drag state's place
     void lookedUp(int materielIndex); // a vehicle was let go over the preview; -1: it isn't in the catalogue
-    void sizeChanged();
 
   protected:
     void paintEvent(QPaintEvent*) override;
@@ -73,6 +82,7 @@ class StripView final : public QWidget {
     Editor& editor_;
     PictureStore pictures_;
     StripPicture picture_;
+    StripScroll scroll_;
     // Of the last drawing.
     unsigned drawnChanges_ = 0;
     double drawnRatio_ = 0;
