@@ -123,7 +123,7 @@ class ComposeCommand final : public Command {
     // Empties the strip, then adds to its end what is wanted. False: one was refused.
     static bool putVehicles(Session& session, Editor& editor, const std::vector<WantedVehicle>& wanted) {
         ConsistDocument& document = editor.document;
-        document.Vehicules.assign(1, {});
+        document.Vehicules.clear();
         document.StripWidth = document.NextNumber = 0;
         document.Loading = true; // the strip is laid out once, when all of it stands
         for (const WantedVehicle& vehicle : wanted) {

@@ -77,8 +77,6 @@ class OpenCommand final : public Command {
         JsonList list = object.list("vehicles");
         int position = 0, missing = 0;
         for (const Vehicule& vehicule : document.Vehicules) {
-            if (vehicule.Name.empty())
-                continue;
             list.add(recordOf(editor, vehicule, position++));
             missing += vehicule.Missing ? 1 : 0;
         }

@@ -21,7 +21,7 @@ struct Vehicule {
     bool ImageIsResource = false;
     bool ImageIsGeneric = false;
     bool Flipped = false;
-    std::string Name; // not empty on any occupied slot
+    std::string Name; // never empty
     std::string Coupling;
     int MaterielIndex = 0;
     int Number = 0; // UiD
@@ -54,8 +54,8 @@ struct EditorControls {
 
 struct ConsistDocument {
     Rame rame;
-    std::vector<RameItem> items{1}; // as read
-    std::vector<Vehicule> Vehicules{1};
+    std::vector<RameItem> items; // as read
+    std::vector<Vehicule> Vehicules;
     std::vector<StockPair> RameStockOld, RameStockNew;
     EditorControls controls;
     bool Modified = false;     // there are unsaved changes: cmdSAVE is enabled
@@ -96,7 +96,7 @@ struct StripHit {
     bool atFront = false;
 };
 
-int vehicleCount(const ConsistDocument& document); // occupied positions
+int vehicleCount(const ConsistDocument& document);
 bool hasVehicles(const ConsistDocument& document);
 const Materiel* materielOf(const Editor& editor, const Vehicule& vehicule); // nullptr for a Missing one
 bool isEngine(const Editor& editor, const Vehicule& vehicule);

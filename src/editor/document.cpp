@@ -8,11 +8,11 @@
 namespace zandor {
 
 int vehicleCount(const ConsistDocument& document) {
-    return hasVehicles(document) ? static_cast<int>(document.Vehicules.size()) : 0;
+    return static_cast<int>(document.Vehicules.size());
 }
 
 bool hasVehicles(const ConsistDocument& document) {
-    return !document.Vehicules.empty() && !document.Vehicules.front().Name.empty();
+    return !document.Vehicules.empty();
 }
 
 const Materiel* materielOf(const Editor& editor, const Vehicule& vehicule) {
@@ -33,7 +33,7 @@ bool isEngine(const Editor& editor, const Vehicule& vehicule) {
 
 void ResetEditor(Editor& editor) {
     ConsistDocument& document = editor.document;
-    document.Vehicules.assign(1, {});
+    document.Vehicules.clear();
     ++document.stripChanges;
     document.RameStockOld.clear();
     document.RameStockNew.clear();
@@ -57,7 +57,7 @@ void beginNewConsist(Editor& editor) {
     document.rame.Serial = document.rame.NextWagonUID = document.NextNumber;
     document.rame.Durability = formatDurability(document.controls.durability / 1000.0);
     document.rame.MaxVelocity = EngineMaxVelocity;
-    document.items.assign(1, {});
+    document.items.clear();
 }
 
 void initialiseDocument(Editor& editor) {

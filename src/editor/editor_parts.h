@@ -6,13 +6,12 @@
 #include <charconv>
 #include <string>
 #include <string_view>
-#include <utility>
 
 namespace zandor {
 
 inline constexpr std::string_view LineBreak = "\r\n"; // in messages
 
-// Position of the last slot, 0 for the empty strip.
+// Position of the last vehicle, 0 for the empty strip.
 inline int lastPosition(const ConsistDocument& document) {
     return document.Vehicules.empty() ? 0 : static_cast<int>(document.Vehicules.size()) - 1;
 }

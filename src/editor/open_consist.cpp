@@ -142,14 +142,12 @@ Findings insertItems(Editor& editor, const std::vector<RameItem>& items) {
     std::vector<StockPlace> places;
     places.reserve(items.size());
     for (const RameItem& item : items)
-        places.push_back(item.Name.empty() ? StockPlace() : resolver.resolve(item));
+        places.push_back(resolver.resolve(item));
     resolver.addNewEntries();
 
     ConsistDocument& document = editor.document;
     document.Vehicules.reserve(items.size());
     for (std::size_t i = 0; i < items.size(); ++i) {
-        if (items[i].Name.empty())
-            continue;
         if (vehicleCount(document) >= MaxEntries)
             return {stripFull(document)};
         insertItem(editor, items[i], places[i]);
@@ -160,8 +158,7 @@ Findings insertItems(Editor& editor, const std::vector<RameItem>& items) {
 std::vector<StockPair> stockOf(const std::vector<RameItem>& items) {
     std::vector<StockPair> pairs;
     for (const RameItem& item : items)
-        if (!item.Name.empty())
-            pairs.push_back({stockFileOf(item), item.Folder});
+        pairs.push_back({stockFileOf(item), item.Folder});
     return pairs;
 }
 
@@ -170,12 +167,13 @@ struct ConsistReading {
     std::vector<RameItem> items;
     std::optional<SimError> error;
 
-    bool empty() const { return rame.CfgName.empty() && rame.Name.empty() && stockOf(items).empty(); }
+    bool empty() const { return rame.CfgName.empty() && rame.Name.empty() && items.empty(); }
 };
 
 ConsistReading readConsist(SimReader& reader, std::string_view path, double durability) {
     ConsistReading reading;
     reading.error = ReadConsistFile(reader, reading.rame, reading.items, path, durability);
+    std::erase_if(reading.items, [](const RameItem& item) { return item.Name.empty(); });
     return reading;
 }
 

@@ -144,8 +144,6 @@ void addFromOrigin(const Editor& editor, const Vehicule& vehicule, VehicleList& 
 VehicleList listVehicles(const Editor& editor) {
     VehicleList list;
     for (const Vehicule& vehicule : editor.document.Vehicules) {
-        if (vehicule.Name.empty())
-            continue;
         list.hasEngine = list.hasEngine || isEngine(editor, vehicule);
         if (const Materiel* materiel = materielOf(editor, vehicule))
             addCatalogued(editor, vehicule, *materiel, list);

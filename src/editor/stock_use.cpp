@@ -87,8 +87,6 @@ void UpdateStockUse(Editor& editor, bool hadFile, const std::string& fullName, c
     entry.DisplayName = fullName;
     entry.FolderPath = folder;
     entry.Items = document.RameStockNew;
-    if (entry.Items.empty())
-        entry.Items.emplace_back();
     document.RameStockOld = document.RameStockNew;
 }
 

@@ -102,11 +102,7 @@ bool InsertVehicule(Editor& editor, int index, bool fromMateriels, bool fromSimu
     vehicule.Width = document.PictureWidth;
 
     const int position = insertPosition(document);
-    std::vector<Vehicule>& vehicules = document.Vehicules;
-    if (!hasVehicles(document))
-        vehicules.assign(1, std::move(vehicule));
-    else
-        vehicules.insert(vehicules.begin() + position, std::move(vehicule));
+    document.Vehicules.insert(document.Vehicules.begin() + position, std::move(vehicule));
 
     document.NextNumber = numberAfter(document, document.NextNumber);
     document.StripWidth += document.PictureWidth;
@@ -144,8 +140,6 @@ void RemoveVehicule(Editor& editor) {
     const auto removed = vehicules.begin() + document.DragSource;
     document.StripWidth -= removed->Width;
     vehicules.erase(removed);
-    if (vehicules.empty())
-        vehicules.emplace_back();
     if (document.selected > document.DragSource)
         --document.selected;
     document.selected = std::min(document.selected, vehicleCount(document) - 1);
@@ -160,8 +154,7 @@ void RenumberVehicles(Editor& editor) {
         return;
     document.NextNumber = 0;
     for (Vehicule& vehicule : document.Vehicules)
-        if (!vehicule.Name.empty())
-            vehicule.Number = document.NextNumber++;
+        vehicule.Number = document.NextNumber++;
     document.Modified = true;
 }
 

@@ -231,6 +231,13 @@ TEST_F(SaveTest, ACloseWaitsForASaveThatFails) {
     state.roots.RootMSTS = Simulator;
     EXPECT_TRUE(take(closeEditor(editor)));
     EXPECT_TRUE(files.get(consistPath("Test.con")));
+    quiet();
+    document.HasFile = true;
+    changeDurability(editor, 500);
+    dialogs.defaultAnswer = answer::No;
+    EXPECT_TRUE(take(closeEditor(editor)));
+    EXPECT_EQ(shown(), Shown{"36 save Test?"});
+    EXPECT_EQ(state.LastAnswer, "7");
 }
 
 // Every call that a save makes fails once, alone and with all that follow.

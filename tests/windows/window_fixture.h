@@ -108,8 +108,7 @@ struct WindowTest : ::testing::Test {
     std::vector<std::string> vehicles() const {
         std::vector<std::string> names;
         for (const Vehicule& vehicule : document.Vehicules)
-            if (!vehicule.Name.empty())
-                names.push_back(vehicule.Name);
+            names.push_back(vehicule.Name);
         return names;
     }
     std::vector<std::string> listed() {
