@@ -3,13 +3,10 @@
 #include "catalogue/stock_files.h"
 
 #include <algorithm>
-#include <charconv>
 
 namespace zandor {
 
 namespace {
-
-constexpr std::string_view KeyPrefix = "KEY_";
 
 // An empty engineType fits any.
 struct StockClassRule {
@@ -73,7 +70,7 @@ template <std::size_t N> int iconOf(const IconRow (&rows)[N], std::string_view t
 StockListRow makeRow(const AppState& state, const Catalogue& catalogue, int index, bool byFileName) {
     const Materiel& materiel = catalogue.here().Materiels[static_cast<std::size_t>(index)];
     StockListRow row;
-    row.key = std::string(KeyPrefix) + std::to_string(index);
+    row.index = index;
     row.text = byFileName ? materiel.FileName : shownName(materiel);
     row.icon = materiel.CabView.empty() ? NoCabIcon : CabIcon;
     row.unused = isShownUnused(state, catalogue, materiel.Folder, materiel.FileName);
@@ -128,15 +125,6 @@ int brakeIcon(std::string_view brakeSystem) {
 
 int couplingIcon(std::string_view coupling) {
     return iconOf(CouplingIcons, coupling);
-}
-
-int indexOfKey(std::string_view key) {
-    if (!key.starts_with(KeyPrefix))
-        return -1;
-    key.remove_prefix(KeyPrefix.size());
-    unsigned short index = 0;
-    const auto [end, error] = std::from_chars(key.data(), key.data() + key.size(), index);
-    return error == std::errc() && end == key.data() + key.size() ? index : -1;
 }
 
 bool isShownUnused(const AppState& state, const Catalogue& catalogue, std::string_view folder,

@@ -22,7 +22,7 @@ int couplingIcon(std::string_view coupling);
 inline constexpr int CabIcon = 20, NoCabIcon = 21;
 
 struct StockListRow {
-    std::string key;  // "KEY_" and the index in Materiels
+    int index = 0;    // in Materiels
     std::string text; // the shown name, or the file name
     int icon = NoCabIcon;
     int brakeIcon = 0;    // an unknown brake repeats the icon of the stock before it
@@ -33,8 +33,6 @@ struct StockListRow {
 // The rows of a class in catalogue order; the list control sorts.
 std::vector<StockListRow> FillStockList(const AppState& state, const Catalogue& catalogue, int classIndex,
                                         bool byFileName);
-// The index behind "KEY_", or -1.
-int indexOfKey(std::string_view key);
 // True when the stock is to be shown as unused: PrintGreen is on and no consist uses it.
 bool isShownUnused(const AppState& state, const Catalogue& catalogue, std::string_view folder,
                    std::string_view file);

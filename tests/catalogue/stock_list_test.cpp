@@ -44,9 +44,9 @@ TEST_F(StockListTest, HoldsTheClassInCatalogueOrder) {
 
     const auto rows = FillStockList(state, catalogue, 1, false);
     ASSERT_EQ(rows.size(), 2u);
-    EXPECT_EQ(rows[0].key + rows[0].text, "KEY_0Zed");
+    EXPECT_EQ(std::to_string(rows[0].index) + rows[0].text, "0Zed");
     EXPECT_EQ(rows[0].icon, NoCabIcon);
-    EXPECT_EQ(rows[1].key + rows[1].text, "KEY_3Shell");
+    EXPECT_EQ(std::to_string(rows[1].index) + rows[1].text, "4Shell");
     EXPECT_EQ(rows[1].icon, CabIcon);
     EXPECT_EQ(FillStockList(state, catalogue, 1, true)[0].text, "z.eng");
     EXPECT_TRUE(FillStockList(state, catalogue, 0, false).empty());
@@ -97,17 +97,6 @@ TEST_F(StockListTest, UnusedStockIsShownOnlyWithPrintGreen) {
         state.PrintGreen = false;
         EXPECT_FALSE(isShownUnused(state, catalogue, "Parc", one.file)) << one.file;
     }
-}
-
-TEST(StockKey, LeadsBackToItsIndex) {
-    struct Case {
-        const char* key;
-        int index;
-    };
-    for (const Case& one :
-         {Case{"KEY_0", 0}, Case{"KEY_32765", 32765}, Case{"KEY_", -1}, Case{"", -1}, Case{"SUBKEY_15", -1},
-          Case{"KEY_-1", -1}, Case{"KEY_99999999999", -1}, Case{"KEY_1x", -1}})
-        EXPECT_EQ(indexOfKey(one.key), one.index) << one.key;
 }
 
 } // namespace

@@ -69,12 +69,12 @@ TEST_F(WindowTest, ArrowKeysShowTheNextStock) {
 }
 
 TEST_F(WindowTest, ColumnClicksTurnTheOrderRoundAndKeepTheSelection) {
-    const QString chosen = list().currentKey();
+    const int chosen = list().currentStock();
     QHeaderView& header = *list().header();
     for (const Names& order : {Names{"CC 6500", "BB 9288"}, Names{"BB 9288", "CC 6500"}}) {
         QTest::mouseClick(header.viewport(), Qt::LeftButton, {}, {20, header.height() / 2});
         EXPECT_EQ(listed(), order);
-        EXPECT_EQ(list().currentKey(), chosen);
+        EXPECT_EQ(list().currentStock(), chosen);
     }
 }
 
@@ -89,11 +89,11 @@ TEST_F(WindowTest, NamesStandInTheOrderOfTheLanguage) {
     window->fillStockList();
     const Names english = {"BB 007", "bb 9", "BB 9", "BB 10", "Ela", "élan", "Elm", "Ña", "Nz", "Zug"};
     EXPECT_EQ(listed(), english);
-    const QString chosen = list().currentKey();
+    const int chosen = list().currentStock();
     window->chooseLanguage("Español");
-    EXPECT_EQ(list().currentKey(), chosen);
+    EXPECT_EQ(list().currentStock(), chosen);
     EXPECT_EQ(listed(), (Names{"BB 007", "bb 9", "BB 9", "BB 10", "Ela", "élan", "Elm", "Nz", "Ña", "Zug"}));
-    list().stock()->sort(0, Qt::DescendingOrder);
+    list().model()->sort(0, Qt::DescendingOrder);
     EXPECT_EQ(listed(), (Names{"Zug", "Ña", "Nz", "Elm", "élan", "Ela", "BB 10", "bb 9", "BB 9", "BB 007"}));
 }
 
@@ -124,7 +124,7 @@ TEST_F(WindowTest, DoubleClickAndEnterAppend) {
 // ---- from the list to the strip
 
 TEST_F(WindowTest, ADropOnTheEmptyStripBeginsIt) {
-    const auto data = dragged(keyOf("BB 9288"));
+    const auto data = dragged("BB 9288");
     enterStrip(*data, {300, 50});
     dropOnStrip(*data, {300, 50});
     EXPECT_EQ(vehicles(), Names{"BB 9288"});
@@ -134,18 +134,18 @@ TEST_F(WindowTest, AForeignDragIsRefused) {
     QMimeData text;
     text.setText("KEY_1");
     EXPECT_FALSE(enterStrip(text, {10, 10}));
-    const auto nothing = dragged("KEY_");
-    EXPECT_FALSE(enterStrip(*nothing, {10, 10}));
+    text.setData(StockModel::MimeType, "KEY_");
+    EXPECT_FALSE(enterStrip(text, {10, 10}));
 }
 
 TEST_F(WindowTest, ADragThatEndedElsewhereLeavesNothing) {
     build({"BB 9288", "CC 6500"});
-    const auto data = dragged(keyOf("BB 67400"));
+    const auto data = dragged("BB 67400");
     enterStrip(*data, onVehicle(0));
     leaveStrip();
     emit list().dragEnded();
     EXPECT_FALSE(document.DragActive);
-    list().selectKey(keyOf("CC 6500"));
+    list().selectStock(stockIndex("CC 6500"));
     QTest::keyClick(&list(), Qt::Key_Return);
     EXPECT_EQ(vehicles(), (Names{"BB 9288", "CC 6500", "CC 6500"}));
 }
@@ -154,7 +154,7 @@ TEST_F(WindowTest, ARefusedCouplingIsToldOnceAndChangesNothing) {
     build({"BB 9288"});
     state.NoAlertCoupling = false;
     state.PassIsBadCoupling = true;
-    const auto data = dragged(keyOf("BB 67400"));
+    const auto data = dragged("BB 67400");
     enterStrip(*data, behind(1));
     dropOnStrip(*data, behind(1));
     EXPECT_EQ(test.dialogs.shown.size(), 1u);
@@ -276,14 +276,14 @@ TEST_F(WindowTest, LettersLookForNamesAlsoBehindAClickOnAnIcon) {
     const QModelIndex brakes = list().model()->index(0, 1);
     QTest::mouseClick(list().viewport(), Qt::LeftButton, {}, list().visualRect(brakes).center());
     QTest::keyClicks(&list(), "cc");
-    EXPECT_EQ(list().currentKey(), keyOf("CC 6500"));
+    EXPECT_EQ(list().currentStock(), stockIndex("CC 6500"));
 }
 
 TEST_F(WindowTest, AVehicleOnThePreviewIsLookedUpInTheList) {
     build({"BB 9288", "Wagon plat"});
     drag(onVehicle(1), fromWindow(get<QWidget>("picPREVIEW")));
     EXPECT_EQ(get<QComboBox>("cmbMATERIEL").currentIndex(), 4);
-    EXPECT_EQ(list().currentKey(), keyOf("Wagon plat"));
+    EXPECT_EQ(list().currentStock(), stockIndex("Wagon plat"));
     EXPECT_EQ(get<QLabel>("tbSELECT").text().trimmed(), "Wagon plat");
     EXPECT_EQ(vehicles().size(), 2u);
     EXPECT_FALSE(document.Modified);
@@ -313,7 +313,7 @@ TEST_F(WindowTest, ADragThatRestsAtTheEdgeScrolls) {
     for (int i = 0; i < 20; ++i)
         build({"BB 9288"});
     const QScrollBar& bar = get<QScrollBar>("HScrollRAME");
-    const auto data = dragged(keyOf("CC 6500"));
+    const auto data = dragged("CC 6500");
     enterStrip(*data, {strip().width() - 5, 60});
     const int before = bar.value();
     QTest::qWait(200);

@@ -143,9 +143,9 @@ struct WindowTest : ::testing::Test {
     }
 
     // ---- a row of the list over the strip
-    static std::unique_ptr<QMimeData> dragged(const QString& key) {
+    std::unique_ptr<QMimeData> dragged(std::string_view name) const {
         auto data = std::make_unique<QMimeData>();
-        data->setData(StockModel::MimeType, key.toUtf8());
+        data->setData(StockModel::MimeType, QByteArray::number(stockIndex(name)));
         return data;
     }
     bool enterStrip(QMimeData& data, QPoint at) {
@@ -176,8 +176,6 @@ struct WindowTest : ::testing::Test {
         });
         waiting->start(20);
     }
-    QString keyOf(std::string_view name) { return QString("KEY_%1").arg(stockIndex(name)); }
-
     QColor pixel(QPoint at) { return strip().grab().toImage().pixelColor(at); }
 };
 

@@ -1,11 +1,9 @@
 #include "editor/windows/open_model.h"
 
 #include "frame/windows/art.h"
-#include "frame/windows/name_order.h"
 #include "frame/windows/qt_text.h"
 
 #include <algorithm>
-#include <numeric>
 #include <utility>
 
 namespace zandor {
@@ -23,117 +21,74 @@ constexpr std::pair<const char*, Message> Columns[OpenModel::ColumnCount] = {
 } // namespace
 
 OpenModel::OpenModel(const Frame& frame, QObject* parent)
-    : QAbstractTableModel(parent), names_(nameOrder(toQt(frame.state.Language))),
-      inServiceTip_(toQt(frame.text(Message::TipUsedByService))),
+    : RowModel(ColumnCount, parent), inServiceTip_(toQt(frame.text(Message::TipUsedByService))),
       notInServiceTip_(toQt(frame.text(Message::TipUsedByNoService))),
       incompleteTip_(toQt(frame.text(Message::TipIncomplete))), inServiceIcon_(artIcon(RouteMarkYes.data())),
       notInServiceIcon_(artIcon(RouteMarkNo.data())) {
-    for (std::size_t i = 0; i < ColumnCount; ++i)
-        titles_[i] = toQt(frame.text(Columns[i].second));
+    QStringList titles;
+    for (const auto& [key, message] : Columns)
+        titles.append(toQt(frame.text(message)));
+    setTitles(titles);
     incompleteFont_.setBold(true);
 }
 
 void OpenModel::setRows(const std::vector<ConsistSummary>& summaries, const std::vector<int>& rows) {
-    beginResetModel();
-    rows_.clear();
-    rows_.reserve(rows.size());
-    for (const int index : rows) {
-        const ConsistSummary& summary = summaries[static_cast<std::size_t>(index)];
-        rows_.push_back({QString("KEY_%1").arg(index),
-                         {toQt(summary.FullName), toQt(summary.Composition), toQt(summary.FileName)},
-                         summary.RouteMark == RouteMarkYes,
-                         summary.Complete});
+    std::vector<ListRow> taken;
+    taken.reserve(rows.size());
+    looks_.clear();
+    looks_.reserve(rows.size());
+    for (const int number : rows) {
+        const ConsistSummary& summary = summaries[static_cast<std::size_t>(number)];
+        taken.push_back(
+            {number, {toQt(summary.FullName), toQt(summary.Composition), toQt(summary.FileName)}});
+        looks_.push_back({summary.RouteMark == RouteMarkYes, summary.Complete});
     }
-    endResetModel();
-}
-
-void OpenModel::sort(int column, Qt::SortOrder order) {
-    std::vector<std::pair<QCollatorSortKey, std::size_t>> keys;
-    keys.reserve(rows_.size());
-    for (const Row& row : rows_)
-        keys.emplace_back(names_.sortKey(row.texts[static_cast<std::size_t>(column)]), keys.size());
-    std::ranges::stable_sort(keys, [order](const auto& a, const auto& b) {
-        return order == Qt::AscendingOrder ? a.first < b.first : b.first < a.first;
-    });
-
-    beginResetModel();
-    std::vector<Row> sorted;
-    sorted.reserve(rows_.size());
-    for (const auto& [key, row] : keys)
-        sorted.push_back(std::move(rows_[row]));
-    rows_ = std::move(sorted);
-    endResetModel();
-}
-
-QModelIndex OpenModel::indexOfKey(const QString& key) const {
-    const auto row = std::ranges::find(rows_, key, &Row::key);
-    return row == rows_.end() ? QModelIndex() : index(static_cast<int>(row - rows_.begin()), NameColumn);
+    takeRows(std::move(taken));
 }
 
 QString OpenModel::longestText(Column column) const {
-    QString longest = titles_[column];
-    for (const Row& row : rows_)
+    QString longest = headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
+    for (const ListRow& row : rows())
         if (row.texts[column].size() > longest.size())
             longest = row.texts[column];
     return longest;
 }
 
 int OpenModel::incompleteCount() const {
-    return static_cast<int>(std::ranges::count(rows_, false, &Row::complete));
+    return static_cast<int>(std::ranges::count(looks_, false, &Look::complete));
 }
 
-int OpenModel::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : static_cast<int>(rows_.size());
-}
-
-int OpenModel::columnCount(const QModelIndex&) const {
-    return ColumnCount;
-}
-
-QString OpenModel::toolTip(const Row& row) const {
-    const QString& service = row.inService ? inServiceTip_ : notInServiceTip_;
-    return row.complete ? service : incompleteTip_ + u'\n' + service;
+QString OpenModel::toolTip(const Look& look) const {
+    const QString& service = look.inService ? inServiceTip_ : notInServiceTip_;
+    return look.complete ? service : incompleteTip_ + u'\n' + service;
 }
 
 QVariant OpenModel::data(const QModelIndex& index, int role) const {
     if (!index.isValid() || index.row() >= rowCount())
         return {};
-    const Row& row = rows_[static_cast<std::size_t>(index.row())];
-    const QString& text = row.texts[static_cast<std::size_t>(index.column())];
+    const Look& look = looks_[static_cast<std::size_t>(index.row())];
+    const QString& text = rowAt(index).texts[static_cast<std::size_t>(index.column())];
     const bool isName = index.column() == NameColumn;
     switch (role) {
-    case Qt::DisplayRole:
-        return text;
     case Qt::ToolTipRole:
-        return plainTip(text + u'\n' + toolTip(row));
+        return plainTip(text + u'\n' + toolTip(look));
     case Qt::AccessibleTextRole: // what colour and icon say
-        return isName ? text + u'\n' + toolTip(row) : text;
+        return isName ? text + u'\n' + toolTip(look) : text;
     case Qt::DecorationRole:
-        return isName ? QVariant(row.inService ? inServiceIcon_ : notInServiceIcon_) : QVariant();
+        return isName ? QVariant(look.inService ? inServiceIcon_ : notInServiceIcon_) : QVariant();
     case Qt::ForegroundRole:
-        return row.complete ? (textColour_.isValid() ? QVariant(textColour_) : QVariant()) : IncompleteColour;
+        return look.complete ? RowModel::data(index, role) : QVariant(IncompleteColour);
     case Qt::FontRole:
-        return row.complete ? QVariant() : incompleteFont_;
-    case KeyRole:
-        return row.key;
+        return look.complete ? QVariant() : incompleteFont_;
     default:
-        return {};
+        return RowModel::data(index, role);
     }
 }
 
 QVariant OpenModel::headerData(int section, Qt::Orientation orientation, int role) const {
-    if (orientation != Qt::Horizontal || section < 0 || section >= ColumnCount)
-        return {};
-    switch (role) {
-    case Qt::DisplayRole:
-        return titles_[static_cast<std::size_t>(section)];
-    case KeyRole:
-        return Columns[section].first;
-    case Qt::TextAlignmentRole:
-        return int(Qt::AlignLeft | Qt::AlignVCenter);
-    default:
-        return {};
-    }
+    const bool isColumn = orientation == Qt::Horizontal && section >= 0 && section < ColumnCount;
+    return isColumn && role == KeyRole ? QVariant(Columns[section].first)
+                                       : RowModel::headerData(section, orientation, role);
 }
 
 } // namespace zandor

@@ -5,6 +5,7 @@
 #include "frame/windows/cursors.h"
 #include "frame/windows/elided_label.h"
 #include "frame/windows/help.h"
+#include "frame/windows/name_order.h"
 #include "frame/windows/qt_text.h"
 #include "frame/windows/settings_colour.h"
 #include "frame/windows/window_parts.h"
@@ -35,7 +36,8 @@ constexpr std::pair<OpenModel::Column, double> SizedColumns[] = {
 
 frmOpen::frmOpen(Frame& frame, Catalogue& catalogue, Open open, QWidget* parent)
     : QDialog(parent), frame_(frame), catalogue_(catalogue), open_(std::move(open)),
-      model_(new OpenModel(frame, this)), lsvCONSISTS_(named(new RowView(this), "lsvCONSISTS")),
+      model_(new OpenModel(frame, this)), sorted_(new RowOrder(*model_, this)),
+      lsvCONSISTS_(named(new RowView(this), "lsvCONSISTS")),
       Label1_(named(new ElidedLabel(this, Qt::ElideRight), "Label1")),
       lblCOUNT_(named(new QLabel(this), "lblCOUNT")),
       ProgressBar1_(named(new QProgressBar(this), "ProgressBar1")),
@@ -51,7 +53,8 @@ frmOpen::frmOpen(Frame& frame, Catalogue& catalogue, Open open, QWidget* parent)
 }
 
 void frmOpen::buildList() {
-    lsvCONSISTS_->setModel(model_);
+    sorted_->setNameOrder(nameOrder(toQt(frame_.state.Language)));
+    lsvCONSISTS_->setModel(sorted_);
     lsvCONSISTS_->setIconSize({16, 16});
     lsvCONSISTS_->setMinimumHeight(90);
     lsvCONSISTS_->setAccessibleName(toQt(frame_.text(Message::ConsistFilter)));
@@ -147,7 +150,7 @@ void frmOpen::showList() {
     const bool any = model_->rowCount() > 0;
     cmdOPEN_->setEnabled(any);
     if (any)
-        lsvCONSISTS_->setCurrentIndex(model_->index(0, 0));
+        lsvCONSISTS_->setCurrentIndex(sorted_->index(0, 0));
     else
         Label1_->setText(toQt(frame_.text(Message::OpenNone)));
 }
@@ -174,33 +177,30 @@ void frmOpen::showCounts() {
     lblCOUNT_->setText(toQt(frame_.text(message, {{"|1", all}, {"|2", incomplete}})));
 }
 
-void frmOpen::showSelected() {
+const ConsistSummary* frmOpen::selected() const {
     const QModelIndex row = lsvCONSISTS_->currentIndex();
-    if (!row.isValid())
-        return;
-    const std::string name = fromQt(row.siblingAtColumn(OpenModel::NameColumn).data().toString());
-    const std::string file = fromQt(row.siblingAtColumn(OpenModel::FileColumn).data().toString());
-    Label1_->setText(toQt(frame_.text(Message::ConsistSelected, {{"|1", name}, {"|2", file}})));
+    return row.isValid() ? &catalogue_.here().ConsistSummaries[row.data(OpenModel::NumberRole).toUInt()] : nullptr;
+}
+
+void frmOpen::showSelected() {
+    if (const ConsistSummary* consist = selected())
+        Label1_->setText(toQt(
+            frame_.text(Message::ConsistSelected, {{"|1", consist->FullName}, {"|2", consist->FileName}})));
 }
 
 void frmOpen::sortBy(int column) {
     if (model_->rowCount() == 0)
         return;
-    const QString key = lsvCONSISTS_->currentIndex().data(OpenModel::KeyRole).toString();
     order_ = order_ == Qt::AscendingOrder ? Qt::DescendingOrder : Qt::AscendingOrder;
-    model_->sort(column, order_);
+    sorted_->sort(column, order_);
     lsvCONSISTS_->header()->setSortIndicatorShown(true);
     lsvCONSISTS_->header()->setSortIndicator(column, order_);
-    lsvCONSISTS_->setCurrentIndex(model_->indexOfKey(key));
     lsvCONSISTS_->scrollTo(lsvCONSISTS_->currentIndex());
 }
 
 void frmOpen::OpenSelectedConsist() {
-    const QModelIndex row = lsvCONSISTS_->currentIndex();
-    if (!row.isValid())
-        return;
-    const QString file = row.siblingAtColumn(OpenModel::FileColumn).data().toString();
-    if (open_(consistsPath(frame_.state.roots.RootPrimary()) + fromQt(file)))
+    const ConsistSummary* const consist = selected();
+    if (consist && open_(consistsPath(frame_.state.roots.RootPrimary()) + consist->FileName))
         accept();
 }
 

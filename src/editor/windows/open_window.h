@@ -17,6 +17,7 @@ namespace zandor {
 
 class ElidedLabel;
 class OpenModel;
+class RowOrder;
 class RowView;
 
 // exec() gives Accepted when a consist has been opened. Otherwise the consist under edit is what it was,
@@ -49,12 +50,14 @@ class frmOpen final : public QDialog, public ProgressView {
     void sizeColumns();
     void showCounts();
     void showSelected();
+    const ConsistSummary* selected() const; // nullptr: none
     void sortBy(int column);
 
     Frame& frame_;
     Catalogue& catalogue_;
     Open open_;
     OpenModel* model_;
+    RowOrder* sorted_;
     RowView* lsvCONSISTS_;
     ElidedLabel* Label1_;
     QLabel* lblCOUNT_;

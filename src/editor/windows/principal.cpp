@@ -49,8 +49,7 @@ namespace {
 constexpr QSize DefaultSize{1024, 700};
 constexpr int RepaintEvery = 1000; // ms: Timer1
 
-const Materiel* materielOfKey(const Catalogue& catalogue, const QString& key) {
-    const int index = indexOfKey(fromQt(key));
+const Materiel* materielAt(const Catalogue& catalogue, int index) {
     const bool known = index >= 0 && index < static_cast<int>(catalogue.here().Materiels.size());
     return known ? &catalogue.here().Materiels[index] : nullptr;
 }
@@ -140,18 +139,17 @@ void frmPrincipal::connectInputs() {
 void frmPrincipal::connectStock() {
     const auto& c = controls_;
     connect(c.cmbMATERIEL, &QComboBox::currentIndexChanged, this, &frmPrincipal::fillStockList);
-    connect(c.lstViewMATERIEL, &StockView::currentKeyChanged, this, &frmPrincipal::showStockInfo);
+    connect(c.lstViewMATERIEL, &StockView::currentStockChanged, this, &frmPrincipal::showStockInfo);
     connect(c.lstViewMATERIEL, &StockView::chosen, this, &frmPrincipal::appendFromList);
     connect(c.lstViewMATERIEL, &StockView::dragEnded, this, &frmPrincipal::finishStockDrag);
     c.lstViewMATERIEL->stock()->setDescriber(
-        [this](const QString& key, StockModel::Column column) { return describeStock(key, column); });
+        [this](int stock, StockModel::Column column) { return describeStock(stock, column); });
     c.lstViewMATERIEL->setDragPicture([this] { return carriedPicture(); });
 }
 
 // What goes with the pointer: half the size, so that the strip is seen beside it.
 QPixmap frmPrincipal::carriedPicture() {
-    const PictureRef picture =
-        ShowMaterielInfo(editor_, indexOfKey(fromQt(controls_.lstViewMATERIEL->currentKey()))).picture;
+    const PictureRef picture = ShowMaterielInfo(editor_, controls_.lstViewMATERIEL->currentStock()).picture;
     if (!picture.found())
         return {};
     const double ratio = devicePixelRatioF();
@@ -192,7 +190,7 @@ void frmPrincipal::connectActions() {
     c.PicRAME->installEventFilter(this);
     c.lstViewMATERIEL->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(c.lstViewMATERIEL, &QWidget::customContextMenuRequested, this, [this](const QPoint& at) {
-        if (!controls_.lstViewMATERIEL->currentKey().isEmpty())
+        if (controls_.lstViewMATERIEL->currentStock() >= 0)
             actions_->stockMenu()->popup(controls_.lstViewMATERIEL->viewport()->mapToGlobal(at));
     });
     c.cmdOptions->setMenu(languages_);
@@ -231,15 +229,14 @@ void frmPrincipal::applyLanguage() {
     ShowTotals(editor_);
     controls_.PicRAME->DrawStrip(); // a Missing vehicle bears a word
     orderStockList();
-    showStockInfo(controls_.lstViewMATERIEL->currentKey());
+    showStockInfo(controls_.lstViewMATERIEL->currentStock());
     refresh();
 }
 
 void frmPrincipal::orderStockList() {
     StockView& list = *controls_.lstViewMATERIEL;
-    const QString key = list.currentKey();
-    list.stock()->setNameOrder(nameOrder(toQt(editor_.frame.state.Language)));
-    list.selectKey(key);
+    list.setNameOrder(nameOrder(toQt(editor_.frame.state.Language)));
+    list.selectStock(list.currentStock());
 }
 
 void frmPrincipal::captionLanguages() {
@@ -296,9 +293,9 @@ bool frmPrincipal::openFile(const std::string& path) {
             showFindings(editor_.frame, {endHidden(editor_.document, controls_.PicRAME->scroll())});
     }
     if (editor_.catalogue.here().Materiels.size() != known) { // stock that came since the load
-        const QString key = controls_.lstViewMATERIEL->currentKey();
+        const int stock = controls_.lstViewMATERIEL->currentStock();
         fillStockList();
-        controls_.lstViewMATERIEL->selectKey(key);
+        controls_.lstViewMATERIEL->selectStock(stock);
     }
     refresh();
     return outcome.done;
@@ -351,14 +348,13 @@ void frmPrincipal::offerFile(const std::string& path) {
 // ---- the selected vehicle
 
 void frmPrincipal::actionTriggered(int id) {
-    const QString key = controls_.lstViewMATERIEL->currentKey();
-    const int stock = indexOfKey(fromQt(key));
+    const int stock = controls_.lstViewMATERIEL->currentStock();
     const bool wasHidden = endIsHidden(editor_.document, controls_.PicRAME->scroll());
     switch (id) {
     case StripActions::InsertEnd:
-        return appendFromList(key);
+        return appendFromList(stock);
     case StripActions::InsertBefore:
-        if (materielOfKey(editor_.catalogue, key))
+        if (materielAt(editor_.catalogue, stock))
             finishInsertion(insertBeforeSelected(editor_, stock), wasHidden);
         controls_.PicRAME->showSelected();
         break;
@@ -407,9 +403,9 @@ void frmPrincipal::fillStockList() {
     refreshActions();
 }
 
-QString frmPrincipal::describeStock(const QString& key, int column) const {
+QString frmPrincipal::describeStock(int stock, int column) const {
     const Frame& frame = editor_.frame;
-    const Materiel* materiel = materielOfKey(editor_.catalogue, key);
+    const Materiel* materiel = materielAt(editor_.catalogue, stock);
     if (!materiel)
         return {};
     if (column != StockModel::NameColumn) {
@@ -428,11 +424,11 @@ void frmPrincipal::updateUnusedStock() {
         FillStockList(editor_.frame.state, editor_.catalogue, controls_.cmbMATERIEL->currentIndex(), false));
 }
 
-void frmPrincipal::appendFromList(const QString& key) {
-    if (!materielOfKey(editor_.catalogue, key))
+void frmPrincipal::appendFromList(int stock) {
+    if (!materielAt(editor_.catalogue, stock))
         return;
     const bool wasHidden = endIsHidden(editor_.document, controls_.PicRAME->scroll());
-    finishInsertion(appendStock(editor_, indexOfKey(fromQt(key))), wasHidden);
+    finishInsertion(appendStock(editor_, stock), wasHidden);
     refresh();
 }
 
@@ -445,9 +441,9 @@ void frmPrincipal::finishStockDrag() {
     refresh();
 }
 
-void frmPrincipal::showStockInfo(const QString& key) {
-    if (materielOfKey(editor_.catalogue, key))
-        showInfo(ShowMaterielInfo(editor_, indexOfKey(fromQt(key))));
+void frmPrincipal::showStockInfo(int stock) {
+    if (materielAt(editor_.catalogue, stock))
+        showInfo(ShowMaterielInfo(editor_, stock));
 }
 
 void frmPrincipal::showInfo(const MaterielInfo& info) {
@@ -481,9 +477,8 @@ void frmPrincipal::lookUp(int materielIndex) {
     if (stockClass < 0)
         return sayNotInList();
     c.cmbMATERIEL->setCurrentIndex(stockClass);
-    const QString key = QString("KEY_%1").arg(materielIndex);
-    c.lstViewMATERIEL->selectKey(key);
-    showStockInfo(key);
+    c.lstViewMATERIEL->selectStock(materielIndex);
+    showStockInfo(materielIndex);
     c.lstViewMATERIEL->setFocus();
 }
 
@@ -517,7 +512,7 @@ void frmPrincipal::refresh() {
 void frmPrincipal::refreshActions() {
     const ConsistDocument& document = editor_.document;
     const bool selected = hasSelection(document);
-    actions_->enable(!controls_.lstViewMATERIEL->currentKey().isEmpty(), selected,
+    actions_->enable(controls_.lstViewMATERIEL->currentStock() >= 0, selected,
                      selected && document.Vehicules[static_cast<std::size_t>(document.selected)].Missing,
                      hasVehicles(document));
     controls_.cmdVEHICLE->setEnabled(hasVehicles(document));

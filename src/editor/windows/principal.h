@@ -65,17 +65,17 @@ class frmPrincipal final : public QWidget {
     void savePressed();
     void aboutPressed();
 
-    void appendFromList(const QString& key);
+    void appendFromList(int stock);
     void finishStockDrag();
     QPixmap carriedPicture();
-    void showStockInfo(const QString& key);
+    void showStockInfo(int stock);
     void showInfo(const MaterielInfo& info);
     void lookUp(int materielIndex);
     void sayNotInList();
     void finishInsertion(const Outcome& outcome, bool endWasHidden);
     void refreshNames();
     void refreshScrollBar();
-    QString describeStock(const QString& key, int column) const;
+    QString describeStock(int stock, int column) const;
     void updateUnusedStock();
 
     Editor& editor_;

@@ -1,13 +1,10 @@
-// The rows of the stock list, sorted by name.
+// The rows of the stock list: names, brakes and couplings.
 #pragma once
 
 #include "catalogue/stock_list.h"
+#include "editor/windows/row_model.h"
 
-#include <QAbstractTableModel>
-#include <QCollator>
-#include <QColor>
 #include <QIcon>
-#include <QString>
 
 #include <array>
 #include <functional>
@@ -16,43 +13,30 @@
 
 namespace zandor {
 
-class StockModel final : public QAbstractTableModel {
+class StockModel final : public RowModel {
     Q_OBJECT
   public:
     enum Column { NameColumn, BrakeColumn, CouplingColumn, ColumnCount };
-    static constexpr int KeyRole = Qt::UserRole; // "KEY_" and the number of the stock entry
-    // The type of a dragged row: its data is the key.
+    // The type of a dragged row: its data is the number of the stock entry.
     static constexpr const char* MimeType = "application/x-zandor-stock";
 
-    explicit StockModel(QObject* parent) : QAbstractTableModel(parent) {}
+    explicit StockModel(QObject* parent) : RowModel(ColumnCount, parent) {}
 
-    void setRows(std::vector<StockListRow> rows);
+    void setRows(const std::vector<StockListRow>& rows);
     // Only the colours: which rows are unused.
     void updateUnused(const std::vector<StockListRow>& rows);
-    void setTitles(const QStringList& titles);
     // What a cell shows, in words: its tool tip, and what a screen reader says.
-    void setDescriber(std::function<QString(const QString& key, Column column)> describe) {
+    void setDescriber(std::function<QString(int stock, Column column)> describe) {
         describe_ = std::move(describe);
     }
-    void setTextColour(const QColor& colour) { textColour_ = colour; }
-    void setNameOrder(const QCollator& names);
 
-    void sort(int column, Qt::SortOrder order) override; // always by name, whatever the column
-    Qt::SortOrder order() const { return order_; }
-    QModelIndex indexOfKey(const QString& key) const; // invalid when it isn't listed
-
-    int rowCount(const QModelIndex& parent = {}) const override;
-    int columnCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;
-    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
     Qt::ItemFlags flags(const QModelIndex& index) const override;
     QStringList mimeTypes() const override { return {MimeType}; }
     QMimeData* mimeData(const QModelIndexList& indexes) const override;
 
   private:
-    struct Row {
-        QString key, text;
-        QCollatorSortKey sortKey;
+    struct Look {
         std::array<int, ColumnCount> icons; // 0: none
         bool unused = false;
     };
@@ -64,18 +48,11 @@ class StockModel final : public QAbstractTableModel {
       private:
         mutable std::unordered_map<int, QIcon> known_;
     };
-    void sortRows();
-    QString description(const Row& row, int column) const {
-        return describe_ ? describe_(row.key, static_cast<Column>(column)) : QString();
-    }
+    QString description(const QModelIndex& index) const;
 
-    std::vector<Row> rows_;
-    QCollator names_;
+    std::vector<Look> looks_; // of the rows
     Icons icons_;
-    std::function<QString(const QString&, Column)> describe_;
-    QStringList titles_;
-    QColor textColour_;
-    Qt::SortOrder order_ = Qt::AscendingOrder;
+    std::function<QString(int, Column)> describe_;
 };
 
 } // namespace zandor

@@ -12,9 +12,11 @@
 
 namespace zandor {
 
-StockView::StockView(QWidget* parent) : RowView(parent), model_(new StockModel(this)) {
+StockView::StockView(QWidget* parent)
+    : RowView(parent), model_(new StockModel(this)), order_(new RowOrder(*model_, this)) {
     setObjectName("lstViewMATERIEL");
-    setModel(model_);
+    order_->sort(StockModel::NameColumn, Qt::AscendingOrder);
+    setModel(order_);
     setDragEnabled(true);
     setDragDropMode(DragOnly);
     setTextElideMode(Qt::ElideRight);
@@ -26,8 +28,8 @@ StockView::StockView(QWidget* parent) : RowView(parent), model_(new StockModel(t
     connect(columns, &QHeaderView::sectionClicked, this, &StockView::toggleOrder);
 }
 
-QString StockView::currentKey() const {
-    return currentIndex().data(StockModel::KeyRole).toString();
+int StockView::currentStock() const {
+    return currentIndex().isValid() ? currentIndex().data(StockModel::NumberRole).toInt() : -1;
 }
 
 void StockView::show(const QModelIndex& index) {
@@ -37,12 +39,12 @@ void StockView::show(const QModelIndex& index) {
     scrollTo(index);
 }
 
-void StockView::selectKey(const QString& key) {
-    show(model_->indexOfKey(key));
+void StockView::selectStock(int index) {
+    show(order_->indexOf(index));
 }
 
 void StockView::selectFirst() {
-    show(model_->index(0, 0));
+    show(order_->index(0, 0));
 }
 
 void StockView::setColours(const QColor& background, const QColor& text) {
@@ -67,12 +69,11 @@ void StockView::paintEvent(QPaintEvent* event) {
 
 void StockView::toggleOrder() {
     QHeaderView* columns = header();
-    const bool wasAscending = model_->order() == Qt::AscendingOrder;
+    const bool wasAscending = order_->sortOrder() == Qt::AscendingOrder;
     const Qt::SortOrder order = wasAscending ? Qt::DescendingOrder : Qt::AscendingOrder;
-    const QString key = currentKey();
-    model_->sort(StockModel::NameColumn, order);
+    order_->sort(StockModel::NameColumn, order);
     columns->setSortIndicator(StockModel::NameColumn, order);
-    selectKey(key);
+    show(currentIndex());
 }
 
 // The names get what the two other columns leave; as soon as the user has sized one, they stay.
@@ -87,23 +88,23 @@ void StockView::resizeEvent(QResizeEvent* event) {
 void StockView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
     QTreeView::currentChanged(current, previous);
     if (current.isValid())
-        emit currentKeyChanged(current.data(StockModel::KeyRole).toString());
+        emit currentStockChanged(currentStock());
 }
 
 void StockView::mousePressEvent(QMouseEvent* event) {
-    const QString before = currentKey();
+    const int before = currentStock();
     QTreeView::mousePressEvent(event);
     // A click on the row that is current already shows it again: the panel may have shown another vehicle
     // since.
     if (event->button() == Qt::LeftButton && indexAt(event->position().toPoint()) == currentIndex() &&
-        currentKey() == before)
-        emit currentKeyChanged(currentKey());
+        currentStock() == before)
+        emit currentStockChanged(before);
 }
 
 void StockView::mouseDoubleClickEvent(QMouseEvent* event) {
     const QModelIndex index = indexAt(event->position().toPoint());
     if (event->button() == Qt::LeftButton && index.isValid())
-        emit chosen(index.data(StockModel::KeyRole).toString());
+        emit chosen(index.data(StockModel::NumberRole).toInt());
     else
         QTreeView::mouseDoubleClickEvent(event);
 }
@@ -111,13 +112,13 @@ void StockView::mouseDoubleClickEvent(QMouseEvent* event) {
 void StockView::keyPressEvent(QKeyEvent* event) {
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (enter && currentIndex().isValid())
-        emit chosen(currentKey());
+        emit chosen(currentStock());
     else
         QTreeView::keyPressEvent(event);
 }
 
 void StockView::startDrag(Qt::DropActions) {
-    std::unique_ptr<QMimeData> row(model_->mimeData({currentIndex()}));
+    std::unique_ptr<QMimeData> row(order_->mimeData({currentIndex()}));
     if (!currentIndex().isValid() || !row)
         return;
     auto* drag = new QDrag(this);

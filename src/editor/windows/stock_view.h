@@ -14,17 +14,18 @@ class StockView final : public RowView {
     explicit StockView(QWidget* parent);
 
     StockModel* stock() const { return model_; }
-    QString currentKey() const; // empty when nothing is selected
-    void selectKey(const QString& key);
+    int currentStock() const; // the index in Materiels, -1 when nothing is selected
+    void selectStock(int index);
     void selectFirst();
     void setColours(const QColor& background, const QColor& text); // an invalid colour stays as it is
-    void setEmptyHint(const QString& hint);                        // shown in place of rows
+    void setNameOrder(const QCollator& names) { order_->setNameOrder(names); }
+    void setEmptyHint(const QString& hint); // shown in place of rows
     // The picture that goes with a dragged row.
     void setDragPicture(std::function<QPixmap()> picture) { dragPicture_ = std::move(picture); }
 
   signals:
-    void currentKeyChanged(const QString& key);
-    void chosen(const QString& key); // double click or Enter
+    void currentStockChanged(int index);
+    void chosen(int index); // double click or Enter
     void dragEnded();
 
   protected:
@@ -41,6 +42,7 @@ class StockView final : public RowView {
     void show(const QModelIndex& index);
 
     StockModel* model_;
+    RowOrder* order_;
     std::function<QPixmap()> dragPicture_;
     QString emptyHint_;
 };

@@ -1,6 +1,5 @@
 #include "editor/windows/strip_view.h"
 
-#include "catalogue/stock_list.h"
 #include "editor/strip_drawing.h"
 #include "editor/strip_selection.h"
 #include "editor/windows/stock_model.h"
@@ -34,9 +33,9 @@ QCursor discardCursor() {
 
 // The stock entry of a dragged list row, or -1.
 int draggedStock(const QMimeData* data) {
-    if (!data || !data->hasFormat(StockModel::MimeType))
-        return -1;
-    return indexOfKey(data->data(StockModel::MimeType).toStdString());
+    bool isNumber = false;
+    const int index = data ? data->data(StockModel::MimeType).toInt(&isNumber) : -1;
+    return isNumber ? index : -1;
 }
 
 } // namespace
