@@ -46,7 +46,7 @@ void checkRepair(fuzz::Surroundings& around, const std::string& path, const Stoc
     if (!reading.repaired)
         return;
     require(reading.needsRepair, "only a file that needs it is repaired");
-    require(around.reader.ReadSimFile(path, "", "", 1, false, false), "a repaired file reads");
+    require(around.reader.ReadSimFile(path).accepted(), "a repaired file reads");
     checkLines(linesOf(before), linesOf(after), reading.wagonNames.size());
 }
 

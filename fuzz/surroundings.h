@@ -1,7 +1,7 @@
 // What every fuzz target needs around the call that it tries.
 #pragma once
 
-#include "frame/language.h"
+#include "frame/settings.h"
 #include "platform/memory_file_system.h"
 #include "simfiles/sim_file.h"
 
@@ -14,13 +14,11 @@
 
 namespace zandor::fuzz {
 
-// A disk in memory and a reader on it. There is no language file, so every message text is empty.
+// A disk in memory and a reader on it.
 struct Surroundings {
     MemoryFileSystem files;
     ProfileFiles profiles{files};
-    AppState state;
-    Language language{profiles, state};
-    SimReader reader{files, language};
+    SimReader reader{files};
 };
 
 // Ends the run, as a crash does, when a promise is broken.

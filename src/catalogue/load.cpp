@@ -96,7 +96,7 @@ bool LoadCatalogue(Frame& frame, Catalogue& catalogue, LoadOptions options) {
 }
 
 bool readAllStock(Frame& frame, Catalogue& catalogue, LoadOptions options) {
-    SimReader reader(frame.files, frame.language);
+    SimReader reader(frame.files);
     QuickStockReader quick(frame.files);
     ReadingTexts texts(frame.text(Message::ReadingStock));
     std::vector<Materiel>& materiels = catalogue.here().Materiels;
@@ -110,7 +110,7 @@ bool readAllStock(Frame& frame, Catalogue& catalogue, LoadOptions options) {
         // What is wrong with a file is the verifier's business; its entry keeps what could be read.
         if (frame.state.Optimize)
             notePassedOver(catalogue, texts.path,
-                           ReadStockFile(reader, texts.path, materiel, options.repair).error);
+                           ReadStockFile(reader, texts.path, materiel, options.repair).answer.outcome);
         else
             notePassedOver(catalogue, texts.path, quick.QuickReadStock(materiel));
         frame.progress.ShowProgress(0, last, index++, texts.shown);

@@ -16,8 +16,8 @@ void notePassedOver(Catalogue& catalogue, std::string_view path, ReadResult resu
         catalogue.passedOver.emplace_back(path);
 }
 
-void notePassedOver(Catalogue& catalogue, std::string_view path, const std::optional<SimError>& error) {
-    if (error && (error->number == FileTooLarge || error->number == NoMemoryLeft))
+void notePassedOver(Catalogue& catalogue, std::string_view path, ReadOutcome outcome) {
+    if (outcome == ReadOutcome::TooLarge || outcome == ReadOutcome::NoMemory)
         catalogue.passedOver.emplace_back(path);
 }
 

@@ -3,14 +3,13 @@
 
 #include "catalogue/catalogue.h"
 
-#include <optional>
 #include <string_view>
 
 namespace zandor {
 
 // A file that is too large to be read, or for which no memory is left, is noted for tellPassedOver().
 void notePassedOver(Catalogue& catalogue, std::string_view path, ReadResult result);
-void notePassedOver(Catalogue& catalogue, std::string_view path, const std::optional<SimError>& error);
+void notePassedOver(Catalogue& catalogue, std::string_view path, ReadOutcome outcome);
 
 // Tells all of them in one message, if there are any.
 void tellPassedOver(Frame& frame, const Catalogue& catalogue);

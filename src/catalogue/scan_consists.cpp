@@ -51,8 +51,7 @@ void countUse(Catalogue& catalogue, const StockPair& used, int known) {
 void takeItems(Catalogue& catalogue, ConsistEntry& entry, ConsistScratch& scratch) {
     entry.Items.reserve(scratch.items.size());
     for (RameItem& item : scratch.items)
-        if (!item.Name.empty())
-            entry.Items.push_back({stockFileOf(item), std::move(item.Folder)});
+        entry.Items.push_back({stockFileOf(item), std::move(item.Folder)});
     catalogue.stockUseIndex.findExact(catalogue.StockUsage, entry.Items, scratch.known);
     std::size_t next = 0;
     for (const StockPair& used : entry.Items)
@@ -64,7 +63,8 @@ void readEntry(Catalogue& catalogue, ConsistEntry& entry, ConsistScratch& scratc
     // What the reader objects to is the verifier's business; the vehicles read until then count. The
     // durability isn't looked at.
     const std::string path = entry.FolderPath + entry.FileName;
-    notePassedOver(catalogue, path, ReadConsistFile(scratch.reader, scratch.rame, scratch.items, path));
+    const ReadAnswer answer = ReadConsistFile(scratch.reader, scratch.rame, scratch.items, path);
+    notePassedOver(catalogue, path, answer.outcome);
     takeItems(catalogue, entry, scratch);
     if (!entry.Items.empty())
         entry.DisplayName = scratch.rame.Name.empty() ? scratch.rame.CfgName : scratch.rame.Name;
@@ -77,7 +77,7 @@ bool ScanConsists(Frame& frame, Catalogue& catalogue) {
     indexConsists(frame, catalogue, frame.state.roots.RootPrimary());
     copyConsistFiles(catalogue);
     indexConsists(frame, catalogue, frame.state.roots.RootSecondary());
-    ConsistScratch scratch{SimReader(frame.files, frame.language), {}, {}, {}};
+    ConsistScratch scratch{SimReader(frame.files), {}, {}, {}};
     const std::string shown = frame.text(Message::ReadingConsists);
     const int last = static_cast<int>(catalogue.ConsistIndex.size()) - 1;
     for (int index = 0; index <= last; ++index) {

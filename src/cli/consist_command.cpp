@@ -17,17 +17,18 @@ class ConsistCommand final : public Command {
     }
 
     int run(Session& session) override {
-        SimReader reader(session.frame.files, session.frame.language);
+        SimReader reader(session.frame.files);
+        ReadAnswer answer;
         const std::string path = session.atWork = ExpandLongPath(file_);
-        if (const int refusal = readWholeFile(session, reader, path); refusal != exitcode::Done)
+        if (const int refusal = readWholeFile(session, reader, path, {}, answer); refusal != exitcode::Done)
             return refusal;
         if (kindOfFile(path) != FileKind::Consist)
             return session.fault("Not a consist file: " + session.shown(path));
         Rame rame;
         std::vector<RameItem> items;
-        const std::optional<SimError> error = ReadConsistFile(reader, rame, items, path);
+        answer = ReadConsistFile(reader, rame, items, path);
         print(session.result, rame, items);
-        return error ? session.fault(errorText(*error)) : exitcode::Done;
+        return answer.sound() ? exitcode::Done : session.fault(faultOf(session, answer));
     }
 
   private:
@@ -36,8 +37,7 @@ class ConsistCommand final : public Command {
         object.member("rame", recordOf(rame));
         JsonList list = object.list("items");
         for (const RameItem& item : items)
-            if (!item.Name.empty())
-                list.add(recordOf(item));
+            list.add(recordOf(item));
         list.close();
         object.close();
     }

@@ -7,10 +7,6 @@ namespace zandor {
 
 namespace {
 
-bool isPlaceholder(const SimKey& key) {
-    return key.Line == 0 && key.Path.empty() && key.Key.empty() && key.Value.empty();
-}
-
 class KeysCommand final : public Command {
   public:
     const char* name() const override { return "keys"; }
@@ -37,15 +33,17 @@ class KeysCommand final : public Command {
     }
 
     int run(Session& session) override {
-        SimReader reader(session.frame.files, session.frame.language);
+        SimReader reader(session.frame.files);
+        ReadAnswer answer;
         const std::string path = session.atWork = ExpandLongPath(file_);
-        if (const int refusal = readWholeFile(session, reader, path); refusal != exitcode::Done)
+        const ReadRequest all{.keepLines = textureLines(kindOfFile(path))};
+        if (const int refusal = readWholeFile(session, reader, path, all, answer); refusal != exitcode::Done)
             return refusal;
         if (section_->count() + key_->count() + stock_->count() > 0)
-            printHits(session, reader, path);
+            answer = printHits(session, reader, path);
         else
             printKeys(session, reader);
-        return reader.error ? session.fault(errorText(*reader.error)) : exitcode::Done;
+        return answer.sound() ? exitcode::Done : session.fault(faultOf(session, answer));
     }
 
   private:
@@ -60,23 +58,23 @@ class KeysCommand final : public Command {
     void printKeys(Session& session, const SimReader& reader) const {
         JsonList list(session.result);
         for (const SimKey& key : reader.SimKeys)
-            if (!isPlaceholder(key))
-                list.add(shortened(key));
+            list.add(shortened(key));
         list.close();
         session.result << "\n";
     }
 
-    void printHits(Session& session, SimReader& reader, const std::string& path) const {
-        const bool result = reader.ReadSimFile(path, sought_.section, sought_.key,
-                                               stockMode_ ? 0 : sought_.count, true, stockMode_);
+    ReadAnswer printHits(Session& session, SimReader& reader, const std::string& path) const {
+        const ReadAnswer answer =
+            reader.ReadSimFile(path, {sought_.section, sought_.key, stockMode_ ? 0 : sought_.count,
+                                      stockMode_, textureLines(kindOfFile(path))});
         JsonObject object(session.result);
-        object.member("result", result);
+        object.member("result", answer.found);
         JsonList list = object.list("hits");
         for (const SimHit& hit : reader.SimHits)
-            if (hit.Found)
-                list.add(shortened(hit));
+            list.add(shortened(hit));
         list.close();
         object.close();
+        return answer;
     }
 
     std::string file_;

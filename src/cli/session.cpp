@@ -1,6 +1,7 @@
 #include "cli/session.h"
 
 #include "frame/startup.h"
+#include "simfiles/fault_text.h"
 #include "text/control_characters.h"
 
 namespace zandor {
@@ -120,25 +121,31 @@ void Session::takeRootsOfSettings() {
         state.roots.RootTStore = knownTrainStore(frame);
 }
 
-int readWholeFile(Session& session, SimReader& reader, const std::string& path) {
+int readWholeFile(Session& session, SimReader& reader, const std::string& path, const ReadRequest& request,
+                  ReadAnswer& answer) {
     const std::string shown = session.shown(path);
     if (!FileExists(session.frame.files, path))
         return session.cannotRun(
             (session.frame.files.stamp(path) ? "The file can't be read: " : "There is no file ") + shown);
     if (kindOfFile(path) == FileKind::Unknown)
         return session.fault("The simulator has no files of this kind: " + shown);
-    if (reader.ReadSimFile(path, "", "", 1, false, false))
-        return exitcode::Done;
-    if (!reader.error)
-        return session.fault("The file does not begin with the signature of its kind: " + shown);
-    return reader.error->number == MalformedConsist ? exitcode::Done
-                                                    : session.fault(errorText(*reader.error) + ": " + shown);
+    answer = reader.ReadSimFile(path, request);
+    return answer.accepted() ? exitcode::Done : session.fault(faultOf(session, answer) + ": " + shown);
 }
 
-std::string errorText(const SimError& error) {
-    if (!error.text.empty())
-        return error.text;
-    return error.number == EmptyFile ? "The file is empty" : "Error " + std::to_string(error.number);
+std::string faultOf(const Session& session, const ReadAnswer& answer) {
+    switch (answer.outcome) {
+    case ReadOutcome::NoFile:
+        return "There is no such file";
+    case ReadOutcome::Empty:
+        return "The file is empty";
+    case ReadOutcome::OtherKind:
+        return "The file does not begin with the signature of its kind";
+    default:
+        break;
+    }
+    const std::string text = faultText(session.frame.language, answer);
+    return text.empty() && !answer.sound() ? "Error " + std::to_string(errorNumber(answer)) : text;
 }
 
 } // namespace zandor

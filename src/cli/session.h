@@ -77,11 +77,13 @@ class Session {
     Frame frame;
 };
 
-// Reads a simulator file as a whole. Done: the reader holds its keys, and perhaps an error that ended the
-// read. Another exit code: there is no such file or it is none of the simulator's, and the user was told.
-int readWholeFile(Session& session, SimReader& reader, const std::string& path);
+// Reads a simulator file as a whole. Done: the reader holds its keys; `answer` tells whether the file is
+// malformed. Another exit code: there is no such file or it is none of the simulator's, and the user was
+// told.
+int readWholeFile(Session& session, SimReader& reader, const std::string& path, const ReadRequest& request,
+                  ReadAnswer& answer);
 
-// What an error of a reader says; never empty.
-std::string errorText(const SimError& error);
+// What a reader's answer says; empty for a sound one.
+std::string faultOf(const Session& session, const ReadAnswer& answer);
 
 } // namespace zandor

@@ -37,7 +37,7 @@ class StockCommand final : public Command {
 
     int run(Session& session) override {
         int exitCode = exitcode::Done;
-        SimReader reader(session.frame.files, session.frame.language);
+        SimReader reader(session.frame.files);
         JsonList list(session.result);
         for (const std::string& file : files_) {
             const std::string path = session.atWork = ExpandLongPath(file);
@@ -59,12 +59,18 @@ class StockCommand final : public Command {
     Json read(Session& session, SimReader& reader, const std::string& file, const std::string& path) const {
         Materiel materiel = materielAt(path);
         StockReading reading;
-        if (!isStockKind(path))
-            reading.error = SimError{0, path, "Not an engine or a wagon file"};
-        else if (quick_)
+        std::string fault;
+        if (!isStockKind(path)) {
+            fault = "Not an engine or a wagon file";
+        } else if (quick_) {
             QuickStockReader(session.frame.files).QuickReadStock(materiel);
-        else
-            reading = readInFull(reader, path, materiel);
+        } else {
+            reading =
+                ReadStockFile(reader, path, materiel, repair_ ? NameRepair::Allowed : NameRepair::Never);
+            fault = faultOf(session, reading.answer);
+            if (repair_ && reading.needsRepair && !reading.repaired && fault.empty())
+                fault = "The file could not be rewritten";
+        }
 
         Json record{{"file", file}};
         record.update(recordOf(materiel));
@@ -72,20 +78,9 @@ class StockCommand final : public Command {
             record["needsRepair"] = !reading.repaired;
         if (reading.repaired)
             record["repaired"] = true;
-        if (reading.error)
-            record["error"] = {{"number", reading.error->number}, {"text", errorText(*reading.error)}};
+        if (!fault.empty())
+            record["error"] = {{"number", errorNumber(reading.answer)}, {"text", fault}};
         return record;
-    }
-
-    StockReading readInFull(SimReader& reader, const std::string& path, Materiel& materiel) const {
-        StockReading reading =
-            ReadStockFile(reader, path, materiel, repair_ ? NameRepair::Allowed : NameRepair::Never);
-        // A file that was accepted has a type, or the reader would have objected.
-        if (!reading.error && materiel.Type.empty())
-            reading.error = SimError{0, path, "The file does not begin with the signature of its kind"};
-        else if (repair_ && reading.needsRepair && !reading.repaired && !reading.error)
-            reading.error = SimError{0, path, "The file could not be rewritten"};
-        return reading;
     }
 
     std::vector<std::string> files_;

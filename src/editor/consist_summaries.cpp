@@ -48,8 +48,8 @@ bool StockPresence::isIn(std::string_view root, std::string_view folder, std::st
 }
 
 SummaryReader::SummaryReader(Frame& frame, const Catalogue& catalogue)
-    : folder_(consistsPath(frame.state.roots.RootPrimary())), reader_(frame.files, frame.language),
-      stock_(frame.files, frame.state), services_(catalogue), compositions_(frame) {}
+    : folder_(consistsPath(frame.state.roots.RootPrimary())), reader_(frame.files), stock_(frame.files, frame.state),
+      services_(catalogue), compositions_(frame) {}
 
 void SummaryReader::takeItem(const RameItem& item, ConsistSummary& summary) {
     ++(item.IsEngine ? summary.Engines : summary.Wagons);
@@ -64,8 +64,7 @@ void SummaryReader::ReadConsistSummary(const std::string& fileName, std::vector<
     summary.FileName = fileName;
     summary.RouteMark = services_.markOf(fileName);
     for (const RameItem& item : items_)
-        if (!item.Name.empty())
-            takeItem(item, summary);
+        takeItem(item, summary);
     summary.Composition = compositions_.of(summary.Engines, summary.Wagons);
 }
 

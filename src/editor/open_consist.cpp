@@ -1,6 +1,7 @@
 #include "editor/consist_io.h"
 #include "editor/editor_parts.h"
 #include "simfiles/consist_file.h"
+#include "simfiles/fault_text.h"
 #include "simfiles/stock_reader.h"
 
 #include <algorithm>
@@ -24,8 +25,8 @@ class StockResolver {
   public:
     explicit StockResolver(Editor& editor)
         : files_(editor.frame.files), state_(editor.frame.state),
-          reader_(files_, editor.frame.language), primary_{editor.catalogue.here(), {}},
-          simulator_{editor.catalogue.simulator, {}} {}
+          reader_(files_), primary_{editor.catalogue.here(), {}}, simulator_{editor.catalogue.simulator, {}} {
+    }
 
     StockPlace resolve(const RameItem& item) {
         const auto [known, isNew] = places_.try_emplace(lowerCase(item.Folder + "\\" + stockFileOf(item)));
@@ -162,27 +163,6 @@ std::vector<StockPair> stockOf(const std::vector<RameItem>& items) {
     return pairs;
 }
 
-struct ConsistReading {
-    Rame rame;
-    std::vector<RameItem> items;
-    std::optional<SimError> error;
-
-    bool empty() const { return rame.CfgName.empty() && rame.Name.empty() && items.empty(); }
-};
-
-ConsistReading readConsist(SimReader& reader, std::string_view path, double durability) {
-    ConsistReading reading;
-    reading.error = ReadConsistFile(reader, reading.rame, reading.items, path, durability);
-    std::erase_if(reading.items, [](const RameItem& item) { return item.Name.empty(); });
-    return reading;
-}
-
-bool isConsist(SimReader& reader, std::string_view path) {
-    return kindOfFile(path) == FileKind::Consist &&
-           (reader.ReadSimFile(path, "Train", "", 1, false, false) ||
-            (reader.error && reader.error->number == MalformedConsist));
-}
-
 // `reason`: of the reader, already in the user's language.
 Finding aboutFile(FileSystem& files, std::string_view path, Message message, std::string_view reason = {}) {
     return {.message = message,
@@ -192,13 +172,19 @@ Finding aboutFile(FileSystem& files, std::string_view path, Message message, std
             .file = std::string(path)};
 }
 
-// `error`: what the gate raised, if anything.
-Finding notOpened(FileSystem& files, std::string_view path, const std::optional<SimError>& error) {
-    const bool unread = error && (error->number == FileTooLarge || error->number == NoMemoryLeft ||
-                                  error->number == UnreadableFile);
+Finding notOpened(Frame& frame, std::string_view path, const ReadAnswer& answer) {
+    const bool unread = answer.outcome == ReadOutcome::TooLarge || answer.outcome == ReadOutcome::NoMemory ||
+                        answer.outcome == ReadOutcome::Unreadable;
     if (unread)
-        return aboutFile(files, path, Message::ConsistUnread, error->text);
-    return aboutFile(files, path, files.fileExists(path) ? Message::NotAConsist : Message::OpenFailed);
+        return aboutFile(frame.files, path, Message::ConsistUnread, faultText(frame.language, answer));
+    return aboutFile(frame.files, path,
+                     frame.files.fileExists(path) ? Message::NotAConsist : Message::OpenFailed);
+}
+
+Finding openedFaulty(Frame& frame, std::string_view path, const ReadAnswer& answer) {
+    const Message message =
+        answer.flaw == Flaw::VehicleNameless ? Message::OpenedWithoutVehicle : Message::OpenedFaulty;
+    return aboutFile(frame.files, path, message, faultText(frame.language, answer));
 }
 
 std::string folderOf(std::string_view path) {
@@ -211,26 +197,24 @@ std::string folderOf(std::string_view path) {
 Outcome openConsist(Editor& editor, std::string_view path) {
     Frame& frame = editor.frame;
     const double durability = editor.document.controls.durability / 1000.0;
-    SimReader reader(frame.files, frame.language);
-    ConsistReading reading;
+    SimReader reader(frame.files);
+    Rame rame;
+    std::vector<RameItem> items;
+    ReadAnswer answer;
+    answer.outcome = ReadOutcome::OtherKind;
     if (kindOfFile(path) == FileKind::Consist)
-        reading = readConsist(reader, path, durability);
-    // Nothing came: the consist is empty, or this is none, or the disk failed. An empty one is read once
-    // more, so that a failure doesn't pass for it and a save over the file loses nothing.
-    if (reading.empty()) {
-        if (!isConsist(reader, path))
-            return {false, {notOpened(frame.files, path, reader.error)}};
-        reading = readConsist(reader, path, durability);
-    }
+        answer = ReadConsistFile(reader, rame, items, path, durability);
+    if (!answer.accepted())
+        return {false, {notOpened(frame, path, answer)}};
     ConsistDocument& document = editor.document;
-    document.rame = std::move(reading.rame);
-    document.items = std::move(reading.items);
+    document.rame = std::move(rame);
+    document.items = std::move(items);
     document.HasFile = true;
     document.ConsistFolder = folderOf(path);
     Findings told = OpenFileRame(editor);
-    document.faultyFile = reading.error.has_value(); // a save over it would lose what wasn't read
-    if (reading.error)
-        told.push_back(aboutFile(frame.files, path, Message::OpenedFaulty, reading.error->text));
+    document.faultyFile = !answer.sound(); // a save over it would lose what wasn't read
+    if (document.faultyFile)
+        told.push_back(openedFaulty(frame, path, answer));
     return {true, std::move(told)};
 }
 

@@ -239,7 +239,7 @@ bool writeConsist(Editor& editor, const std::string& folder, const Rame& rame, c
 // A name with a line break or a quote in it would be lost, or lose the vehicles behind it.
 Findings unwritableStock(Editor& editor, const Rame& rame, const VehicleList& list) {
     Frame& frame = editor.frame;
-    SimReader reader(frame.files, frame.language);
+    SimReader reader(frame.files);
     const std::optional<std::size_t> lost = findUnreadable(reader, rame, list.lines);
     if (!lost)
         return {};

@@ -519,6 +519,9 @@ enum class Message : int {
     DecimalMark = 831, // "." or ","
     // what no consist file can hold
     StockUnwritable = 820, // |1 the stock's folder and file, |2 a line break
+    // vehicles that a consist file doesn't name
+    VehicleNameless = 870,      // as 84
+    OpenedWithoutVehicle = 871, // |1 the file, |2 a line break, |3 the text of 870
     // files that aren't read
     FileTooLarge = 800,    // |1 its size in megabytes, |2 the most that is read
     NoMemoryForFile = 801, // as 800 and 802, the reason that 803 gives

@@ -23,8 +23,12 @@ std::vector<std::string> listFiles(FileSystem& files, std::string_view folder, s
 
 std::string megabytesOf(FileSystem& files, std::string_view path) {
     const auto stamp = files.stamp(path);
+    return megabytesOf(stamp ? stamp->size : 0);
+}
+
+std::string megabytesOf(std::uint64_t bytes) {
     constexpr std::uint64_t megabyte = 1 << 20;
-    return std::to_string(stamp ? (stamp->size + megabyte - 1) / megabyte : 0);
+    return std::to_string((bytes + megabyte - 1) / megabyte);
 }
 
 bool FileExists(FileSystem& files, std::string_view path) {

@@ -79,6 +79,7 @@ std::vector<std::string> listFiles(FileSystem& files, std::string_view folder, s
 
 // The file's size in megabytes, rounded up, for messages; "0" when there is no such file.
 std::string megabytesOf(FileSystem& files, std::string_view path);
+std::string megabytesOf(std::uint64_t bytes);
 
 bool FileExists(FileSystem& files, std::string_view path);   // one trailing "\" is dropped first
 bool FolderExists(FileSystem& files, std::string_view path); // false for an empty text

@@ -46,44 +46,13 @@ void takeTrainKey(const SimKey& key, Rame& rame) {
         rame.Durability = StripQuotes(key.Value);
 }
 
-// The last slot, or a new one behind it when a vehicle stands there.
-void beginVehicle(std::vector<RameItem>& items, bool isEngine) {
-    if (!items.back().Name.empty())
-        items.emplace_back();
-    else
-        items.back() = RameItem();
-    items.back().IsEngine = isEngine;
-}
-
 void takeVariables(std::string_view name, std::string_view value, RameItem& item) {
     item.EngineVariables = std::string(name) + "(" + (value.empty() ? " " : std::string(value)) + ")";
 }
 
-// Behind a bracket that is missing or too many, vehicles stand in another block; they would be lost without a
-// word.
+// Behind a bracket that is missing or too many, vehicles stand in another block.
 bool isVehicleData(const SimKey& key) {
     return nameIs(key.Key, "EngineData") || nameIs(key.Key, "WagonData");
-}
-
-SimError misplacedVehicle(const SimReader& reader, std::string_view path, const SimKey& key) {
-    const std::string line = std::to_string(key.Line);
-    return {MisplacedVehicle, std::string(path),
-            reader.language().GetLangText(Message::VehicleMisplaced,
-                                          {{"|1", line}, {"|2", "\r\n"}, {"|3", key.Tail}})};
-}
-
-void takeVehicleKey(const SimKey& key, bool inEngine, std::vector<RameItem>& items) {
-    const auto is = [&key](std::string_view name) { return nameIs(key.Key, name); };
-    if (key.Key.empty())
-        beginVehicle(items, inEngine);
-    else if (is("Flip"))
-        items.back().Flip = true;
-    else if (is("UiD"))
-        items.back().UiD = numericInt16(key.Value);
-    else if (inEngine && is("EngineVariables"))
-        takeVariables(key.Key, key.Value, items.back());
-    else if (is(inEngine ? "EngineData" : "WagonData"))
-        splitVehicleData(key.Value, items.back().Name, items.back().Folder);
 }
 
 bool bracketsBalance(std::string_view text) {
@@ -103,36 +72,100 @@ std::string_view cleanFolder(std::string_view text) {
     return itsOwn ? text : CleanValue(text);
 }
 
+// The keys of a consist as they come.
+class ConsistKeys {
+  public:
+    ConsistKeys(Rame& rame, std::vector<RameItem>& items, ReadAnswer& answer)
+        : rame_(rame), items_(items), answer_(answer) {}
+
+    void take(const SimKey& key) {
+        if (key.Path.empty())
+            return;
+        if (key.pathId != lastPath_) {
+            block_ = blockOf(key.Path, train_);
+            lastPath_ = key.pathId;
+        }
+        if (block_ == Block::TrainCfg)
+            takeTrainKey(key, rame_);
+        else if (block_ == Block::Engine || block_ == Block::Wagon)
+            takeVehicleKey(key, block_ == Block::Engine);
+        else if (block_ == Block::EngineVariables && key.Key.empty()) // its numbers stand on several lines
+            takeVariables("EngineVariables", key.Value, item());
+        else if (block_ == Block::Other && isVehicleData(key))
+            noteFlaw(Flaw::VehicleMisplaced, key.Line, key.Tail);
+    }
+
+    void finish() {
+        dropNameless();
+        if (rame_.Name.empty())
+            rame_.Name = rame_.CfgName;
+    }
+
+  private:
+    RameItem& item() { return items_.empty() ? items_.emplace_back() : items_.back(); }
+
+    void beginVehicle(const SimKey& opening, bool isEngine) {
+        dropNameless();
+        items_.emplace_back().IsEngine = isEngine;
+        opening_ = &opening;
+    }
+
+    // What it is can't be told, and a save would lose it.
+    void dropNameless() {
+        if (items_.empty() || !items_.back().Name.empty())
+            return;
+        items_.pop_back();
+        if (opening_)
+            noteFlaw(Flaw::VehicleNameless, opening_->Line, opening_->Tail);
+    }
+
+    void takeVehicleKey(const SimKey& key, bool inEngine) {
+        const auto is = [&key](std::string_view name) { return nameIs(key.Key, name); };
+        if (key.Key.empty()) {
+            beginVehicle(key, inEngine);
+        } else if (is("Flip")) {
+            item().Flip = true;
+        } else if (is("UiD")) {
+            item().UiD = numericInt16(key.Value);
+        } else if (inEngine && is("EngineVariables")) {
+            takeVariables(key.Key, key.Value, item());
+        } else if (is(inEngine ? "EngineData" : "WagonData")) {
+            splitVehicleData(key.Value, item().Name, item().Folder);
+            opening_ = &key;
+        }
+    }
+
+    void noteFlaw(Flaw flaw, int line, std::string_view text) {
+        if (answer_.flaw != Flaw::None)
+            return;
+        answer_.flaw = flaw;
+        answer_.line = line;
+        answer_.text = text;
+    }
+
+    Rame& rame_;
+    std::vector<RameItem>& items_;
+    ReadAnswer& answer_;
+    std::string_view train_;
+    int lastPath_ = -1;
+    Block block_ = Block::Other;
+    const SimKey* opening_ = nullptr; // of the last vehicle: its data, or its block's begin
+};
+
 void beginReading(Rame& rame, std::vector<RameItem>& items, std::string_view path, double durability) {
-    items.assign(1, {});
+    items.clear();
     rame = Rame();
     rame.Durability = formatDurability(durability);
     rame.MaxVelocity = EngineMaxVelocity;
     rame.FileName = GetFileName(path);
 }
 
-void takeKeys(SimReader& reader, Rame& rame, std::vector<RameItem>& items, std::string_view path) {
-    std::string_view train;
-    int lastPath = -1;
-    Block block = Block::Other;
-    for (const SimKey& key : reader.SimKeys) {
-        if (key.Path.empty())
-            continue;
-        if (key.pathId != lastPath) {
-            block = blockOf(key.Path, train);
-            lastPath = key.pathId;
-        }
-        if (block == Block::TrainCfg)
-            takeTrainKey(key, rame);
-        else if (block == Block::Engine || block == Block::Wagon)
-            takeVehicleKey(key, block == Block::Engine, items);
-        else if (block == Block::EngineVariables && key.Key.empty()) // its numbers stand on several lines
-            takeVariables("EngineVariables", key.Value, items.back());
-        else if (block == Block::Other && !reader.error && isVehicleData(key))
-            reader.error = misplacedVehicle(reader, path, key);
-    }
-    if (rame.Name.empty())
-        rame.Name = rame.CfgName;
+ReadAnswer takeKeys(const SimReader& reader, Rame& rame, std::vector<RameItem>& items, ReadAnswer answer) {
+    ConsistKeys keys(rame, items, answer);
+    for (const SimKey& key : reader.SimKeys)
+        keys.take(key);
+    keys.finish();
+    return answer;
 }
 
 bool isReadBack(const VehicleLines& vehicle, const RameItem& item) {
@@ -193,20 +226,16 @@ void splitVehicleData(std::string_view value, std::string& name, std::string& fo
     folder = cleanFolder(name.empty() ? value : value.substr(split + 1));
 }
 
-std::optional<SimError> ReadConsistFile(SimReader& reader, Rame& rame, std::vector<RameItem>& items,
-                                        std::string_view path, double durability) {
+ReadAnswer ReadConsistFile(SimReader& reader, Rame& rame, std::vector<RameItem>& items, std::string_view path,
+                           double durability) {
     beginReading(rame, items, path, durability);
-    reader.ReadSimFile(path, "", "", 1, false, false);
-    takeKeys(reader, rame, items, path);
-    return reader.error;
+    return takeKeys(reader, rame, items, reader.ReadSimFile(path));
 }
 
-std::optional<SimError> ReadConsistBytes(SimReader& reader, Rame& rame, std::vector<RameItem>& items,
-                                         std::string_view path, std::string_view bytes, double durability) {
+ReadAnswer ReadConsistBytes(SimReader& reader, Rame& rame, std::vector<RameItem>& items,
+                            std::string_view path, std::string_view bytes, double durability) {
     beginReading(rame, items, path, durability);
-    reader.readBytes(path, bytes, "", "", 1, false, false);
-    takeKeys(reader, rame, items, path);
-    return reader.error;
+    return takeKeys(reader, rame, items, reader.readBytes(path, bytes));
 }
 
 std::optional<std::size_t> findUnreadable(SimReader& reader, const Rame& rame,

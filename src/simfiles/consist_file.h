@@ -11,16 +11,15 @@
 
 namespace zandor {
 
-// A missing or unreadable file leaves the defaults (Durability from `durability`, 1 being new stock's) and
-// one free slot. Returns what the gate raised, after which the vehicles read so far stand, or that vehicles
-// stand in blocks where none belongs and were left out.
-std::optional<SimError> ReadConsistFile(SimReader& reader, Rame& rame, std::vector<RameItem>& items,
-                                        std::string_view path, double durability = 1.0);
+// A file that isn't accepted leaves the defaults (Durability from `durability`, 1 being new stock's) and no
+// items. The answer tells the first flaw: a vehicle line that ended the read, after which the vehicles read
+// so far stand, or a vehicle that was left out.
+ReadAnswer ReadConsistFile(SimReader& reader, Rame& rame, std::vector<RameItem>& items, std::string_view path,
+                           double durability = 1.0);
 
 // The same from bytes at hand.
-std::optional<SimError> ReadConsistBytes(SimReader& reader, Rame& rame, std::vector<RameItem>& items,
-                                         std::string_view path, std::string_view bytes,
-                                         double durability = 1.0);
+ReadAnswer ReadConsistBytes(SimReader& reader, Rame& rame, std::vector<RameItem>& items,
+                            std::string_view path, std::string_view bytes, double durability = 1.0);
 
 // Splits the value of EngineData or WagonData into stock name and folder.
 void splitVehicleData(std::string_view value, std::string& name, std::string& folder);

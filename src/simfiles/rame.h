@@ -20,7 +20,7 @@ struct Rame {
 inline constexpr const char* EngineMaxVelocity = "40.00000 1.00000";
 inline constexpr const char* WagonsOnlyMaxVelocity = "0.00000 0.00100";
 
-// One vehicle position. An empty Name marks a free slot.
+// One vehicle position.
 struct RameItem {
     bool IsEngine = false;
     int UiD = 0; // 16-bit

@@ -15,7 +15,7 @@ struct KindRow {
     std::string_view extension;
     FileKind kind;
     std::string_view signature;
-    std::string_view keepOnly; // lines without this text are of no use; lower case
+    std::string_view textureLines;
 };
 
 // A later row wins where two fit.
@@ -54,6 +54,33 @@ std::string_view signatureOf(FileKind kind) {
     return {};
 }
 
+std::string_view textureLines(FileKind kind) {
+    for (const KindRow& row : Kinds)
+        if (row.kind == kind)
+            return row.textureLines;
+    return {};
+}
+
+int errorNumber(const ReadAnswer& answer) {
+    switch (answer.outcome) {
+    case ReadOutcome::NoMemory:
+        return NoMemoryLeft;
+    case ReadOutcome::Empty:
+        return EmptyFile;
+    case ReadOutcome::Unreadable:
+        return UnreadableFile;
+    case ReadOutcome::TooLarge:
+        return FileTooLarge;
+    case ReadOutcome::Malformed:
+        return MalformedConsist;
+    default:
+        break;
+    }
+    if (answer.flaw == Flaw::StockKeyMissing)
+        return MissingStockKeyError;
+    return answer.flaw == Flaw::None ? 0 : LostVehicle;
+}
+
 struct SimReader::Work {
     explicit Work(SimReader& reader) : tokeniser(reader.SimKeys, reader.SimHits, arena) {}
 
@@ -62,87 +89,79 @@ struct SimReader::Work {
     std::vector<SimLine> SimLines; // index n holds line n of the file; only during a call
     TextArena arena;
     Tokeniser tokeniser;
-    std::string_view signature; // stands from call to call: a file of no known kind is held to the last one's
 };
 
-SimReader::SimReader(FileSystem& files, const Language& language)
-    : SimKeys(1), SimHits(1), files_(files), language_(language), work_(std::make_unique<Work>(*this)) {}
+SimReader::SimReader(FileSystem& files) : files_(files), work_(std::make_unique<Work>(*this)) {}
 
 SimReader::~SimReader() = default;
 
-bool SimReader::ReadSimFile(std::string_view path, std::string_view section, std::string_view key, int count,
-                            bool mustFind, bool stockMode) {
+ReadAnswer SimReader::ReadSimFile(std::string_view path, const ReadRequest& request) {
     ReadResult result = files_.read(path, work_->bytes, LargestSimFile);
     try {
         if (result == ReadResult::Done)
-            return readBytes(path, work_->bytes, section, key, count, mustFind, stockMode);
+            return readBytes(path, work_->bytes, request);
     } catch (const std::bad_alloc&) {
         giveBackMemory();
         result = ReadResult::NoMemory;
     }
-    forget();
-    if (result != ReadResult::Missing)
-        error = readError(path, result);
-    return false;
-}
-
-void SimReader::forget() {
-    SimKeys.assign(1, {});
-    SimHits.assign(1, {});
-    error.reset();
+    SimKeys.clear();
+    SimHits.clear();
+    return unread(path, result);
 }
 
 void SimReader::giveBackMemory() {
     SimKeys = {};
     SimHits = {};
-    const std::string_view signature = work_->signature;
     work_.reset();
     work_ = std::make_unique<Work>(*this);
-    work_->signature = signature;
 }
 
-SimError SimReader::readError(std::string_view path, ReadResult result) {
-    SimError found{UnreadableFile, std::string(path), language_.GetLangText(Message::FileUnreadable)};
-    if (result == ReadResult::NoMemory)
-        return {NoMemoryLeft, found.source, language_.GetLangText(Message::NoMemoryForFile)};
-    if (result != ReadResult::TooLarge)
-        return found;
-    const std::string size = megabytesOf(files_, path), most = std::to_string(LargestSimFile >> 20);
-    return {FileTooLarge, found.source,
-            language_.GetLangText(Message::FileTooLarge, {{"|1", size}, {"|2", most}})};
+ReadAnswer SimReader::unread(std::string_view path, ReadResult result) {
+    ReadAnswer answer;
+    switch (result) {
+    case ReadResult::Missing:
+        answer.outcome = ReadOutcome::NoFile;
+        break;
+    case ReadResult::NoMemory:
+        answer.outcome = ReadOutcome::NoMemory;
+        break;
+    case ReadResult::TooLarge:
+        answer.outcome = ReadOutcome::TooLarge;
+        if (const auto stamp = files_.stamp(path))
+            answer.size = stamp->size;
+        break;
+    default:
+        answer.outcome = ReadOutcome::Unreadable;
+    }
+    return answer;
 }
 
-bool SimReader::readBytes(std::string_view path, std::string_view bytes, std::string_view section,
-                          std::string_view key, int count, bool mustFind, bool stockMode) {
-    forget();
+ReadAnswer SimReader::readBytes(std::string_view path, std::string_view bytes, const ReadRequest& request) {
+    SimKeys.clear();
+    SimHits.clear();
     work_->arena.reset();
-
+    ReadAnswer answer;
     const KindRow* row = rowOf(path);
-    if (row)
-        work_->signature = row->signature;
+    if (!row) {
+        answer.outcome = ReadOutcome::OtherKind;
+        return answer;
+    }
     decodeSimulatorText(bytes, work_->text);
-    if (work_->text.empty()) {
-        error = SimError{EmptyFile, std::string(path), {}};
-        return false;
+    const std::string_view first = cutLines(work_->text, request.keepLines, work_->SimLines);
+    if (work_->text.empty() || !containsIgnoringCase(first, row->signature)) {
+        answer.outcome = work_->text.empty() ? ReadOutcome::Empty : ReadOutcome::OtherKind;
+        return answer;
     }
-    const std::string_view first =
-        cutLines(work_->text, row ? row->keepOnly : std::string_view(), work_->SimLines);
-    if (!containsIgnoringCase(first, work_->signature))
-        return false;
-
-    const bool isConsist = row && row->kind == FileKind::Consist;
-    const SearchRequest request{section, key, count, stockMode};
-    const Tokeniser::Outcome outcome = work_->tokeniser.run(work_->SimLines, request, isConsist);
-    if (outcome.badLine > 0) {
-        const std::string number = std::to_string(outcome.badLine);
-        const std::string_view line = work_->SimLines[static_cast<std::size_t>(outcome.badLine)].text;
-        const Message message =
-            outcome.closeMissing ? Message::BracketCloseMissing : Message::BracketOpenMissing;
-        error = SimError{MalformedConsist, std::string(path),
-                         language_.GetLangText(message, {{"|1", number}, {"|2", "\r\n"}, {"|3", line}})};
-        return false;
-    }
-    return !mustFind || outcome.found;
+    const Tokeniser::Outcome outcome =
+        work_->tokeniser.run(work_->text, work_->SimLines, request, row->kind == FileKind::Consist);
+    answer.found = outcome.found;
+    if (outcome.badLine == 0)
+        return answer;
+    answer.outcome = ReadOutcome::Malformed;
+    answer.flaw = outcome.closeMissing ? Flaw::BracketCloseMissing : Flaw::BracketOpenMissing;
+    answer.line = outcome.badLine;
+    answer.text = work_->SimLines[static_cast<std::size_t>(outcome.badLine)].text;
+    return answer;
 }
 
 } // namespace zandor

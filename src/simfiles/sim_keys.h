@@ -1,10 +1,20 @@
 // The parsed form of a simulator text file.
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 
 namespace zandor {
+
+// A stretch of a file's decoded text, in bytes from 0. Line 1 begins it, so that 0 to 0 is nowhere.
+struct TextSpan {
+    std::uint32_t begin = 0, end = 0;
+
+    bool nowhere() const { return end == 0; }
+    std::size_t size() const { return end - begin; }
+    bool operator==(const TextSpan&) const = default;
+};
 
 // One key of a file. The texts live in the reader that parsed them, until its next read.
 struct SimKey {
@@ -15,9 +25,13 @@ struct SimKey {
     int Line = 0;           // from 1
     // A handle of Path for callers that compare many records: equal paths of one read share it. From 0.
     int pathId = 0;
+    // Where the value stands between its brackets, with its quotes; of one that several lines make, from the
+    // first piece's begin to the last one's end. Words behind the bracket that joined the value are outside
+    // of it. Empty where a value could be put in; nowhere when no text put in there would be read as one.
+    TextSpan place;
 };
 
-// One key that a read was asked for.
+// One match of what a read was asked for.
 struct SimHit {
     int FirstLine = 0; // from 1; for a Description, the line that holds its bracket
     int LastLine = 0;  // for a Description, the line at which it was complete; otherwise 0
@@ -25,7 +39,7 @@ struct SimHit {
     std::string Key;   // as asked for
     std::string Tail;
     std::string Value; // cut at "#" where the comment rule applies
-    bool Found = false;
+    TextSpan place;    // of Value, as in SimKey: a comment that was cut isn't part of it
 };
 
 // Two blocks of one name in one parent are kept apart by this marker and a number behind the name.

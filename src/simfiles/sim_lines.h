@@ -35,9 +35,9 @@ std::size_t findUnquoted(std::string_view line, std::size_t from, Wanted isWante
 // Where the bracket that opens at `open` closes, those between them balanced; npos: not on this line.
 std::size_t closingOf(std::string_view line, std::size_t open);
 
-// Cuts a decoded text into lines at CR, CR LF or LF; tabs in `text` are replaced in place. Element 0 and 1
-// are blank: lines count from 1 and the first is the signature, which is returned. A line that lacks
-// `keepOnly` (lower case, case ignored) becomes blank; empty keeps all.
+// Cuts a decoded text into lines at CR, CR LF or LF; tabs in `text` become blanks in place, so that what
+// stands where stays the same. Element 0 and 1 are blank: lines count from 1 and the first is the signature,
+// which is returned. A line that lacks `keepOnly` (lower case, case ignored) becomes blank; empty keeps all.
 std::string_view cutLines(std::string& text, std::string_view keepOnly, std::vector<SimLine>& lines);
 
 } // namespace zandor

@@ -1,6 +1,7 @@
 #include "simfiles/stock_reader.h"
 
 #include "simfiles/coupling_fields.h"
+#include "simfiles/text_edit.h"
 #include "text/decode.h"
 #include "text/lines.h"
 #include "text/text.h"
@@ -86,15 +87,13 @@ constexpr std::array<NeededKey, 4> NeededKeys{{{&Materiel::Coupling, "Wagon\\Cou
                                                {&Materiel::Size, "Wagon\\Size"},
                                                {&Materiel::Type, "Wagon\\Type"}}};
 
-std::optional<SimError> findMissingKey(const SimReader& reader, std::string_view path,
-                                       const Materiel& materiel) {
+void noteMissingKey(const Materiel& materiel, ReadAnswer& answer) {
     for (const NeededKey& needed : NeededKeys)
-        if ((materiel.*needed.field).empty())
-            return SimError{
-                MissingStockKeyError, std::string(path),
-                reader.language().GetLangText(Message::MissingStockKey,
-                                              {{"|1", "\r\n"}, {"|2", needed.path}, {"|3", "\r\n"}})};
-    return std::nullopt;
+        if ((materiel.*needed.field).empty()) {
+            answer.flaw = Flaw::StockKeyMissing;
+            answer.text = needed.path;
+            return;
+        }
 }
 
 // The first name stays, unless one stands a few lines behind the shape, where the simulator looks for it.
@@ -117,10 +116,10 @@ bool isNameLine(std::string_view line) {
            nameIs(trim(std::string_view(plain).substr(0, open)), "name");
 }
 
-// The file's text without the names that don't stay; nothing when one of them isn't alone on its line.
-std::optional<std::string> textWithOneName(std::string_view text, const std::vector<WagonNameLine>& names,
-                                           int stays) {
-    std::string result;
+// Takes the lines of the names that don't stay out; nothing when one of them holds more than its name.
+std::optional<std::vector<TextEdit>> surplusLines(std::string_view text,
+                                                  const std::vector<WagonNameLine>& names, int stays) {
+    std::vector<TextEdit> edits;
     bool alone = true;
     int number = 0;
     auto next = names.begin(); // in the order of the file
@@ -129,31 +128,38 @@ std::optional<std::string> textWithOneName(std::string_view text, const std::vec
         bool surplus = false;
         for (; next != names.end() && next->line <= number; ++next)
             surplus = next->line == number && number != stays;
-        alone = alone && (!surplus || isNameLine(line));
         if (!surplus)
-            result.append(number == 1 ? ConsistSignature : line).append("\r\n");
+            return;
+        alone = alone && isNameLine(line);
+        const auto begin = static_cast<std::uint32_t>(line.data() - text.data());
+        edits.push_back({{begin, begin + lineSpan(text.substr(begin), 1).end}, {}});
     });
-    return alone ? std::optional(std::move(result)) : std::nullopt;
+    return alone ? std::optional(std::move(edits)) : std::nullopt;
 }
 
+// The first line becomes the signature and nothing else, and the encoding the simulator's.
 bool rewriteNames(FileSystem& files, std::string_view path, const std::vector<WagonNameLine>& names,
                   int stays) {
-    std::string bytes, text;
+    std::string bytes;
     if (files.read(path, bytes, LargestSimFile) != ReadResult::Done)
         return false;
-    decodeSimulatorText(bytes, text);
-    const std::optional<std::string> result = textWithOneName(text, names, stays);
-    return result && replaceFile(files, path, encodeText(*result, TextEncoding::Utf16), ReadOnly::Kept);
+    EditableText file = editableText(std::move(bytes));
+    std::optional<std::vector<TextEdit>> edits = surplusLines(file.text, names, stays);
+    if (!edits || edits->empty())
+        return false;
+    const auto length = static_cast<std::uint32_t>(file.text.find_first_of("\r\n"));
+    edits->insert(edits->begin(), TextEdit{{0, length}, std::string(ConsistSignature)});
+    file.encoding = TextEncoding::Utf16;
+    return replaceSpans(file.text, *edits) && writeEdited(files, path, file) == EditOutcome::Written;
 }
 
 } // namespace
 
 StockReading ReadStockFile(SimReader& reader, std::string_view path, Materiel& materiel, NameRepair repair) {
     StockReading reading;
-    if (!reader.ReadSimFile(path, "", "", 1, false, false)) {
-        reading.error = reader.error;
+    reading.answer = reader.ReadSimFile(path);
+    if (!reading.answer.accepted())
         return reading;
-    }
     for (Field field : ReadFields)
         (materiel.*field).clear();
     const bool isWagonFile = kindOfFile(path) == FileKind::Wagon;
@@ -180,9 +186,9 @@ StockReading ReadStockFile(SimReader& reader, std::string_view path, Materiel& m
         else if (nameIs(key.Key, "wagonshape"))
             shapeLine = key.Line;
     }
-    reading.error = findMissingKey(reader, path, materiel);
+    noteMissingKey(materiel, reading.answer);
     reading.needsRepair = reading.wagonNames.size() > 1;
-    if (reading.error || !reading.needsRepair)
+    if (!reading.answer.sound() || !reading.needsRepair)
         return reading;
     const WagonNameLine stays = nameThatStays(reading.wagonNames, shapeLine);
     materiel.EngineName = stays.text;

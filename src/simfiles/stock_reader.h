@@ -4,9 +4,7 @@
 #include "simfiles/materiel.h"
 #include "simfiles/sim_file.h"
 
-#include <optional>
 #include <string_view>
-#include <utility>
 #include <vector>
 
 namespace zandor {
@@ -20,15 +18,15 @@ struct WagonNameLine {
 enum class NameRepair { Allowed, Never };
 
 struct StockReading {
-    std::optional<SimError> error; // 10001: a wagon key is missing; or what the gate raised
+    ReadAnswer answer; // with the first wagon key that is missing
     std::vector<WagonNameLine> wagonNames;
     bool needsRepair = false; // a .wag with several Name keys
     bool repaired = false;
 };
 
-// Fills the fields of `materiel`; a file whose signature doesn't fit leaves it as it was. With Allowed, a
-// .wag with several Name keys, each alone on its line, is rewritten on the spot with the one that stays; its
-// attributes are kept.
+// Fills the fields of `materiel`; a file that isn't accepted leaves it as it was. With Allowed, a .wag with
+// several Name keys, each alone on its line, is rewritten on the spot with the one that stays: in UTF-16, all
+// other lines to the last character as they were. Its attributes are kept.
 StockReading ReadStockFile(SimReader& reader, std::string_view path, Materiel& materiel,
                            NameRepair repair = NameRepair::Allowed);
 

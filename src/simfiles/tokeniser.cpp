@@ -33,7 +33,7 @@ std::string_view withoutDefault(std::string_view key, std::string_view value) {
     constexpr std::string_view marker = "defaut";
     if (!nameIs(value.substr(0, marker.size()), marker) || isVehicleKey(key))
         return value;
-    return value.size() > marker.size() + 2 ? trim(value.substr(marker.size() + 2)) : std::string_view();
+    return trim(value.substr(std::min(value.size(), marker.size() + 2)));
 }
 
 bool isVehicleData(std::string_view line) {
@@ -47,6 +47,19 @@ bool isBlockName(std::string_view text) {
            std::string_view("0123456789+-.#").find(text.front()) == std::string_view::npos;
 }
 
+bool isBlank(const SimKey& key) {
+    return key.Line == 0 && key.Path.empty() && key.Key.empty() && key.Value.empty();
+}
+
+// Beyond the end of `whole` when `part` doesn't stand in there.
+std::size_t offsetIn(std::string_view whole, std::string_view part) {
+    return reinterpret_cast<std::uintptr_t>(part.data()) - reinterpret_cast<std::uintptr_t>(whole.data());
+}
+
+TextSpan spanAt(std::size_t begin, std::string_view part) {
+    return {static_cast<std::uint32_t>(begin), static_cast<std::uint32_t>(begin + part.size())};
+}
+
 // Position behind the first run of two blanks in `text`, or npos.
 std::size_t behindTwoBlanks(std::string_view text) {
     const std::size_t run = text.find("  ");
@@ -58,8 +71,19 @@ std::size_t behindTwoBlanks(std::string_view text) {
 Tokeniser::Tokeniser(std::vector<SimKey>& keys, std::vector<SimHit>& hits, TextArena& arena)
     : keys_(keys), hits_(hits), arena_(arena) {}
 
-Tokeniser::Outcome Tokeniser::run(const std::vector<SimLine>& lines, const SearchRequest& request,
-                                  bool isConsist) {
+Tokeniser::Outcome Tokeniser::run(std::string_view text, const std::vector<SimLine>& lines,
+                                  const ReadRequest& request, bool isConsist) {
+    keys_.assign(1, {});
+    hits_.clear();
+    const Outcome outcome = walk(text, lines, request, isConsist);
+    if (isBlank(keys_.front()))
+        keys_.clear();
+    return outcome;
+}
+
+Tokeniser::Outcome Tokeniser::walk(std::string_view text, const std::vector<SimLine>& lines,
+                                   const ReadRequest& request, bool isConsist) {
+    text_ = text;
     lines_ = &lines;
     request_ = request;
     searching_ = request.stockMode || !request.section.empty() || !request.key.empty();
@@ -69,6 +93,8 @@ Tokeniser::Outcome Tokeniser::run(const std::vector<SimLine>& lines, const Searc
     openBlocks_.clear();
     quotedIn_ = -1;
     joining_ = false;
+    valueOpen_ = false;
+    parts_ = {};
     skipLine_ = 0;
     stockSeen_ = 0;
     isConsist_ = isConsist;
@@ -103,7 +129,7 @@ Tokeniser::Outcome Tokeniser::run(const std::vector<SimLine>& lines, const Searc
     if (searching_ && !request.stockMode && request.count != 1)
         outcome.found = finalPass();
     else if (request.stockMode)
-        outcome.found = hits_[0].Found;
+        outcome.found = !hits_.empty();
     return outcome;
 }
 
@@ -148,6 +174,43 @@ bool Tokeniser::workLine(std::string_view line) {
 void Tokeniser::takeInHand(std::string_view text) {
     inHand_ = text;
     closingKnown_ = false;
+}
+
+std::string_view Tokeniser::putTogether(std::string_view line, std::string_view below) {
+    const TextSpan ofLine = placeOf(line), ofBelow = placeOf(below);
+    const std::string_view whole = arena_.join(line, " ", below);
+    parts_ = {Part{whole.substr(0, line.size()), ofLine}, Part{whole.substr(line.size() + 1), ofBelow}};
+    takeInHand(whole);
+    return whole;
+}
+
+// Where a part of the line in hand stands in the file.
+inline TextSpan Tokeniser::placeOf(std::string_view part) const {
+    const std::size_t begin = offsetIn(text_, part);
+    return begin <= text_.size() ? spanAt(begin, part) : placeOfPart(part);
+}
+
+TextSpan Tokeniser::placeOfPart(std::string_view part) const {
+    for (const Part& known : parts_) {
+        const std::size_t offset = offsetIn(known.text, part);
+        if (!known.place.nowhere() && offset <= known.text.size() &&
+            offset + part.size() <= known.text.size())
+            return spanAt(known.place.begin + offset, part);
+    }
+    return {};
+}
+
+// More value of the last record.
+void Tokeniser::extendPlace(std::string_view piece) {
+    TextSpan& place = keys_.back().place;
+    const TextSpan more = placeOf(piece);
+    if (place.nowhere() || more.nowhere()) {
+        place = {};
+        return;
+    }
+    if (place.size() == 0)
+        place.begin = more.begin;
+    place.end = more.end;
 }
 
 // One piece of a line; leaves what stands behind it.
@@ -277,7 +340,9 @@ bool Tokeniser::openWithRest(std::string_view& line, const Brackets& at) {
     std::string_view value;
     std::size_t nextName = at.open + 1;
     const std::size_t textStart = between.find_first_not_of(' ');
+    std::optional<TextSpan> place;
     if (nameIs(name, "comment")) {
+        place = TextSpan(); // the brackets in it are taken for keys
         value = upToClosing(line.substr(at.open + 1));
     } else if (textStart != npos && between[textStart] == '"' && between.find('"', textStart + 1) != npos) {
         const std::size_t end = between.find('"', textStart + 1) + 1;
@@ -290,45 +355,52 @@ bool Tokeniser::openWithRest(std::string_view& line, const Brackets& at) {
             nextName += textStart + next;
         }
     }
-    const bool stop = openBlock(name, value, whole);
+    const bool stop = openBlock(name, value, whole, place);
     line = whole.substr(nextName);
     return stop;
 }
 
-bool Tokeniser::openBlock(std::string_view name, std::string_view value, std::string_view tail) {
+// `place`: the value's, when it isn't where `value` stands.
+bool Tokeniser::openBlock(std::string_view name, std::string_view value, std::string_view tail,
+                          std::optional<TextSpan> place) {
     if (name.empty())
         return false;
-    const std::string_view parent = textOf(currentPath());
-    if (parent.size() + name.size() > MaxPathLength) {
+    const bool tooDeep = textOf(currentPath()).size() + name.size() > MaxPathLength;
+    if (tooDeep)
         ++deepBlocks_;
-        addRecord(currentPath(), {}, value, tail);
-        return matchLast();
-    }
-    path_.assign(parent);
-    if (!parent.empty())
+    else
+        openBlocks_.push_back(pathOfNewBlock(name));
+    SimKey& record = addRecord(currentPath(), {}, value, tail);
+    if (place)
+        record.place = *place;
+    valueOpen_ = !tooDeep;
+    return matchLast();
+}
+
+int Tokeniser::pathOfNewBlock(std::string_view name) {
+    path_.assign(textOf(currentPath()));
+    if (!path_.empty())
         path_ += '\\';
     path_ += name;
-    int path = internPath(path_);
-    if (paths_[static_cast<std::size_t>(path)].records > 0) {
-        char digits[16];
-        const auto end = std::to_chars(digits, digits + sizeof digits, keys_.size() - 1).ptr;
-        const std::string_view number(digits, static_cast<std::size_t>(end - digits));
-        path_ += OccurrenceMarker;
-        path_ += number;
-        path = internPath(path_);
-    }
-    openBlocks_.push_back(path);
-    addRecord(path, {}, value, tail);
-    return matchLast();
+    const int path = internPath(path_);
+    if (paths_[static_cast<std::size_t>(path)].records == 0)
+        return path;
+    char digits[16];
+    const auto end = std::to_chars(digits, digits + sizeof digits, keys_.size() - 1).ptr;
+    path_ += OccurrenceMarker;
+    path_.append(digits, static_cast<std::size_t>(end - digits));
+    return internPath(path_);
 }
 
 bool Tokeniser::close(std::string_view& line, std::size_t at) {
     const bool stop = matchLast();
+    const std::string_view before = trim(line.substr(0, at));
+    if (!before.empty() && valueOpen_)
+        extendPlace(before);
     if (quotedIn_ >= 0 && currentPath() == quotedIn_)
         quotedIn_ = -1; // the bracket of a quoted value, whose block was left when the value began
     else
         popPath();
-    const std::string_view before = trim(line.substr(0, at));
     if (!before.empty())
         appendToValue(before);
     std::string_view rest = line.substr(at + 1);
@@ -382,16 +454,19 @@ bool Tokeniser::continueQuoted(std::string_view line) {
     last.Key = hasMarker(name) ? arena_.keep(StripOccurrence(name)) : name;
     setPath(last, currentPath());
     quotedIn_ = currentPath();
+    valueOpen_ = false;
     if (endsInPlus(last.Value))
         return appendQuoted(line);
     last.Tail = line;
     last.Line = static_cast<int>(lineNumber_);
-    if (line.back() != ')') {
-        last.Value = withoutDefault(last.Key, line);
+    const bool closes = line.back() == ')';
+    if (closes)
+        line = trim(line.substr(0, line.size() - 1));
+    last.place = placeOf(line);
+    last.Value = withoutDefault(last.Key, closes ? StripQuotes(line) : line);
+    if (!closes)
         return false;
-    }
     quotedIn_ = -1;
-    last.Value = withoutDefault(last.Key, StripQuotes(trim(line.substr(0, line.size() - 1))));
     return matchLast();
 }
 
@@ -410,11 +485,13 @@ bool Tokeniser::appendQuoted(std::string_view line) {
             joined_.pop_back();
     }
     const bool goesOn = endsInPlus(line);
+    const std::string_view whole = line;
     if (goesOn)
         line = trim(line.substr(0, line.size() - 1));
     const bool closes = !line.empty() && line.back() == ')';
     if (closes)
         line = trim(line.substr(0, line.size() - 1));
+    extendPlace(closes ? line : whole);
     joined_ += StripQuotes(line);
     if (goesOn)
         joined_ += '+';
@@ -440,6 +517,7 @@ void Tokeniser::takeAsOwnValue(std::string_view text) {
     last.Value = text;
     last.Tail = text;
     last.Line = static_cast<int>(lineNumber_);
+    last.place = placeOf(text);
 }
 
 // A line of neither brackets nor quote: what comes below it tells what it is.
@@ -451,9 +529,8 @@ bool Tokeniser::bareWord(std::string_view& rest) {
     if (below.open == 0) {
         skipLine_ = below.line;
         if (below.text.size() == 1)
-            return openBlock(line, line, line);
-        rest = arena_.join(line, " ", below.text);
-        takeInHand(rest);
+            return openBlock(line, line, line, placeOf(below.text.substr(1)));
+        rest = putTogether(line, below.text);
         return false;
     }
     SimKey& last = keys_.back();
@@ -463,6 +540,8 @@ bool Tokeniser::bareWord(std::string_view& rest) {
             last.Tail = line;
             last.Line = static_cast<int>(lineNumber_);
         }
+        if (valueOpen_)
+            extendPlace(line);
         appendToValue(line);
     } else if (last.Key.empty()) { // the name of a block, below its bracket; behind a key it is a remark
         takeAsOwnValue(line);
@@ -486,6 +565,8 @@ SimKey& Tokeniser::addRecord(int path, std::string_view key, std::string_view va
     record.Value = key.empty() ? value : withoutDefault(key, value);
     record.Tail = tail;
     record.Line = static_cast<int>(lineNumber_);
+    record.place = placeOf(record.Value);
+    valueOpen_ = false;
     return record;
 }
 
@@ -562,18 +643,18 @@ bool Tokeniser::finalPass() {
         if (hits_.size() >= limit)
             break;
     }
-    return hits_[0].Found;
+    return !hits_.empty();
 }
 
 void Tokeniser::addHit(const SimKey& key, std::string_view section, std::string_view name) {
-    if (hits_.back().Found)
-        hits_.emplace_back();
-    SimHit& hit = hits_.back();
+    SimHit& hit = hits_.emplace_back();
     hit.Path = section;
     hit.Key = name;
     hit.Tail = key.Tail;
     hit.Value = commentRuleApplies(section, name) ? cutComment(key.Value) : key.Value;
-    hit.Found = true;
+    hit.place = key.place;
+    if (hit.place.size() == key.Value.size()) // otherwise several pieces make the value
+        hit.place.end = hit.place.begin + static_cast<std::uint32_t>(hit.Value.size());
     hit.FirstLine = key.Line;
     if (name != "Description")
         return;
@@ -583,6 +664,7 @@ void Tokeniser::addHit(const SimKey& key, std::string_view section, std::string_
 }
 
 void Tokeniser::popPath() {
+    valueOpen_ = false;
     if (deepBlocks_ > 0)
         --deepBlocks_;
     else if (!openBlocks_.empty())

@@ -2,23 +2,19 @@
 // stack.
 #pragma once
 
+#include "simfiles/read_request.h"
 #include "simfiles/remarks.h"
 #include "simfiles/sim_keys.h"
 #include "simfiles/sim_lines.h"
 #include "simfiles/text_arena.h"
 
+#include <array>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace zandor {
-
-struct SearchRequest {
-    std::string_view section;
-    std::string_view key;
-    int count = 1;
-    bool stockMode = false;
-};
 
 class Tokeniser {
   public:
@@ -29,9 +25,14 @@ class Tokeniser {
         int badLine = 0;    // a consist's vehicle line whose brackets don't fit, from 1; 0: none
         bool closeMissing = false;
     };
-    Outcome run(const std::vector<SimLine>& lines, const SearchRequest& request, bool isConsist);
+    // `lines` stand in `text`. Both arrays are filled anew.
+    Outcome run(std::string_view text, const std::vector<SimLine>& lines, const ReadRequest& request,
+                bool isConsist);
 
   private:
+    Outcome walk(std::string_view text, const std::vector<SimLine>& lines, const ReadRequest& request,
+                 bool isConsist);
+
     // A path text met in this read.
     struct PathEntry {
         std::string_view text;
@@ -51,6 +52,11 @@ class Tokeniser {
         std::string_view text;   // from where it counts; empty: the file ends
         std::size_t open = npos; // the first "(" of text
     };
+    // A part of a line that was put together from two, and where it stands in the file.
+    struct Part {
+        std::string_view text;
+        TextSpan place; // nowhere when it was put together itself
+    };
 
     Brackets findBrackets(std::string_view line) const;
     bool plainLine(const SimLine& line);
@@ -63,8 +69,14 @@ class Tokeniser {
     bool keysFollow();
     std::size_t owedClosings() const;
     void takeInHand(std::string_view text);
+    std::string_view putTogether(std::string_view line, std::string_view below);
+    TextSpan placeOf(std::string_view part) const;
+    TextSpan placeOfPart(std::string_view part) const;
+    void extendPlace(std::string_view piece);
     bool simpleKey(std::string_view& line, const Brackets& at);
-    bool openBlock(std::string_view name, std::string_view value, std::string_view tail);
+    bool openBlock(std::string_view name, std::string_view value, std::string_view tail,
+                   std::optional<TextSpan> place = std::nullopt);
+    int pathOfNewBlock(std::string_view name);
     std::string_view upToClosing(std::string_view text);
     bool openWithRest(std::string_view& line, const Brackets& at);
     bool close(std::string_view& line, std::size_t at);
@@ -98,7 +110,8 @@ class Tokeniser {
     std::vector<PathEntry> paths_;
     std::vector<int> table_; // open addressing over paths_, -1 free
     const std::vector<SimLine>* lines_ = nullptr;
-    SearchRequest request_;
+    std::string_view text_;
+    ReadRequest request_;
     bool searching_ = false;
     bool isConsist_ = false;
     bool badVehicle_ = false; // the line in hand holds a vehicle whose bracket doesn't close
@@ -114,6 +127,8 @@ class Tokeniser {
     std::size_t lineNumber_ = 0;
     std::size_t skipLine_ = 0;          // already worked on together with the line above
     std::string_view inHand_;           // the line in hand, or that and the one below it put together
+    std::array<Part, 2> parts_;         // of the last line that was put together
+    bool valueOpen_ = false;            // what comes next may be more value of the last record's block
     const char* nextClosing_ = nullptr; // see upToClosing()
     bool closingKnown_ = false;
     unsigned stockSeen_ = 0;

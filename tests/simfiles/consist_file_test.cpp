@@ -8,19 +8,20 @@ struct ConsistFixture : SimFixture {
     Rame rame;
     std::vector<RameItem> items;
 
-    std::optional<SimError> read(std::string_view config) {
+    ReadAnswer read(std::string_view config) {
         files.put("\\c\\Test.con", utf16(signed_("Train (\r\n" + std::string(config) + ")\r\n")));
         return ReadConsistFile(reader, rame, items, "\\c\\Test.con");
     }
 };
 
 TEST_F(ConsistFixture, AFullFileIsUnderstood) {
-    EXPECT_FALSE(
+    EXPECT_TRUE(
         read("TrainCfg ( \"Two Words\"\nName ( \"Full name\" )\nSerial ( 7 )\nDefault ( )\n"
              "MaxVelocity ( 30.0 0.5 )\nNextWagonUID ( 2 )\nDurability ( 0.50000 )\nUnknown ( 1 )\n"
              "Engine (\nFlip ( )\nUiD ( 4 )\nEngineData ( Loco_A Park_A )\nEngineVariables( 1 2 )\n)\n"
              "Engine (\nUiD ( 5 )\nEngineVariables ( )\nEngineData ( \"L B\" \"P B\" )\n)\n"
-             "Wagon (\nWagonData ( Car Park )\nUiD ( 6 )\nEngineVariables ( 9 )\n)\n)\n"));
+             "Wagon (\nWagonData ( Car Park )\nUiD ( 6 )\nEngineVariables ( 9 )\n)\n)\n")
+            .sound());
     EXPECT_EQ(rame.CfgName, "Two Words");
     EXPECT_EQ(rame.Name, "Full name");
     EXPECT_EQ(rame.Serial, 7);
@@ -56,7 +57,25 @@ TEST_F(ConsistFixture, VehicleDataIsSplitIntoNameAndFolder) {
     }
 }
 
-TEST_F(ConsistFixture, AVehicleWithoutNameLeavesItsSlotClean) {
+TEST_F(ConsistFixture, AVehicleWithoutNameIsLeftOutAndTold) {
+    struct Row {
+        const char *vehicle, *line;
+        int number;
+    };
+    for (const Row& row : {Row{"Engine (\nEngineData ( Lost )\n)\n", "EngineData ( Lost )", 9},
+                           Row{"Wagon (\nWagonData ( )\n)\n", "WagonData ( )", 9},
+                           Row{"Wagon (\nUiD ( 1 )\n)\n", "Wagon (", 8}})
+        for (const std::string behind : {"", "Wagon (\nWagonData ( W2 Park )\n)\n"}) {
+            const ReadAnswer answer = read("TrainCfg ( A\nWagon (\nWagonData ( W1 Park )\nUiD ( 1 )\n)\n" +
+                                           std::string(row.vehicle) + behind + ")\n");
+            EXPECT_EQ(items.size(), behind.empty() ? 1u : 2u);
+            EXPECT_EQ(answer.flaw, Flaw::VehicleNameless);
+            EXPECT_EQ(answer.text, row.line);
+            EXPECT_EQ(answer.line, row.number);
+        }
+}
+
+TEST_F(ConsistFixture, AVehicleWithoutNameLeavesNothingToTheNext) {
     read("TrainCfg ( A\nEngine (\nFlip ( )\nUiD ( 3 )\nEngineData ( Lost )\n)\nWagon (\nWagonData ( Car Park "
          ")\n)\n)\n");
     ASSERT_EQ(items.size(), 1u);
@@ -69,36 +88,37 @@ TEST_F(ConsistFixture, AVehicleWithoutNameLeavesItsSlotClean) {
 TEST_F(ConsistFixture, AnUnreadableFileLeavesTheDefaults) {
     files.put("\\bad.con", "something else");
     for (const char* path : {"\\none.con", "\\bad.con"}) {
-        ReadConsistFile(reader, rame, items, path, 0.25);
-        EXPECT_EQ(items.size(), 1u);
+        EXPECT_FALSE(ReadConsistFile(reader, rame, items, path, 0.25).accepted());
+        EXPECT_TRUE(items.empty());
         EXPECT_EQ(rame.Durability, "0.25000");
         EXPECT_EQ(rame.MaxVelocity, EngineMaxVelocity);
     }
 }
 
 TEST_F(ConsistFixture, AMalformedVehicleKeepsThoseBeforeIt) {
-    const auto error =
+    const ReadAnswer answer =
         read("TrainCfg ( A\nWagon (\nWagonData ( Car Park )\n)\nWagon (\nWagonData Car2 Park )\n)\n)\n");
-    ASSERT_TRUE(error);
-    EXPECT_EQ(error->number, MalformedConsist);
-    ASSERT_FALSE(items.empty());
+    EXPECT_EQ(errorNumber(answer), MalformedConsist);
+    ASSERT_EQ(items.size(), 1u);
     EXPECT_EQ(items[0].Name, "Car");
 }
 
 TEST_F(ConsistFixture, ASecondConsistOfTheFileJoinsTheFirst) {
-    EXPECT_FALSE(read("TrainCfg ( A\nWagon (\nWagonData ( W1 Park )\n)\n)\n"
-                      "TrainCfg ( B\nWagon (\nWagonData ( W2 Park )\n)\n)\n"));
+    EXPECT_TRUE(read("TrainCfg ( A\nWagon (\nWagonData ( W1 Park )\n)\n)\n"
+                     "TrainCfg ( B\nWagon (\nWagonData ( W2 Park )\n)\n)\n")
+                    .sound());
     EXPECT_EQ(rame.CfgName, "B");
     ASSERT_EQ(items.size(), 2u);
     EXPECT_EQ(items[0].Name + items[1].Name, "W1W2");
 }
 
 TEST_F(ConsistFixture, VehiclesAreFoundAmongBracketsRemarksAndNamesBelow) {
-    EXPECT_FALSE(read("TrainCfg (\n\"Two Words\"\nName ( \"Full\" )\n"
-                      "Wagon (\nWagonData ( Fell_Van Coach (old) )\nUiD ( 3 )\n)\n"
-                      "(* Wagon (\nWagonData ( Gone Park )\n) *)\n"
-                      "Engine ( EngineData ( Defaut_Loco (a) ) Flip ( ) )\n"
-                      "Wagon (\n(* old\nWagonData Gone Park\n*)\nWagonData ( \"Wag (1)\" Park )\n)\n)\n"));
+    EXPECT_TRUE(read("TrainCfg (\n\"Two Words\"\nName ( \"Full\" )\n"
+                     "Wagon (\nWagonData ( Fell_Van Coach (old) )\nUiD ( 3 )\n)\n"
+                     "(* Wagon (\nWagonData ( Gone Park )\n) *)\n"
+                     "Engine ( EngineData ( Defaut_Loco (a) ) Flip ( ) )\n"
+                     "Wagon (\n(* old\nWagonData Gone Park\n*)\nWagonData ( \"Wag (1)\" Park )\n)\n)\n")
+                    .sound());
     EXPECT_EQ(rame.CfgName + "|" + rame.Name, "Two Words|Full");
     std::string all;
     for (const RameItem& item : items)

@@ -27,7 +27,7 @@ TEST_F(SimFixture, BothReadersFillAnEngine) {
     quick.BasePath = "\\R\\";
     quick.Folder = "F";
     quick.FileName = "a.eng";
-    EXPECT_FALSE(ReadStockFile(reader, "\\r\\f\\A.ENG", full).error);
+    EXPECT_TRUE(ReadStockFile(reader, "\\r\\f\\A.ENG", full).answer.sound());
     QuickStockReader(files).QuickReadStock(quick);
     for (const Materiel* read : {&full, &quick}) {
         EXPECT_EQ(read->Type, "Engine");
@@ -85,7 +85,7 @@ TEST_F(SimFixture, RemarksHideNoName) {
         quick.BasePath = "\\R\\";
         quick.Folder = "F";
         quick.FileName = "a.eng";
-        EXPECT_FALSE(ReadStockFile(reader, "\\R\\F\\a.eng", full).error) << body;
+        EXPECT_TRUE(ReadStockFile(reader, "\\R\\F\\a.eng", full).answer.sound()) << body;
         QuickStockReader(files).QuickReadStock(quick);
         for (const Materiel* read : {&full, &quick})
             EXPECT_EQ(read->EngineName + read->EngineType + read->MaxPower + read->Type + read->Mass,
@@ -104,9 +104,6 @@ TEST_F(SimFixture, TheQuickReaderDropsAWholeCharacterWhereABracketIsMissing) {
 }
 
 TEST_F(SimFixture, TheFirstMissingWagonKeyIsNamed) {
-    state.Language = "L";
-    state.LanguagePath = "\\l.lng";
-    files.put("\\l.lng", "[L]\n326=|2");
     struct Row {
         const char *body, *key;
     };
@@ -116,10 +113,9 @@ TEST_F(SimFixture, TheFirstMissingWagonKeyIsNamed) {
           Row{"Wagon ( W\nCoupling (\nType ( Bar )\n)\nMass ( 1 )\nSize ( 1 )\n)", "Wagon\\Type"}}) {
         files.put("\\a.wag", utf16(signed_(row.body)));
         Materiel materiel;
-        const StockReading reading = ReadStockFile(reader, "\\a.wag", materiel);
-        ASSERT_TRUE(reading.error);
-        EXPECT_EQ(reading.error->number, MissingStockKeyError);
-        EXPECT_EQ(reading.error->text, row.key);
+        const ReadAnswer answer = ReadStockFile(reader, "\\a.wag", materiel).answer;
+        EXPECT_EQ(errorNumber(answer), MissingStockKeyError);
+        EXPECT_EQ(answer.text, row.key);
         EXPECT_EQ(materiel.WagonName, "W");
     }
 }
@@ -128,7 +124,7 @@ TEST_F(SimFixture, AWrongSignatureLeavesTheEntryAsItWas) {
     files.put("\\a.wag", "not a stock file\nWagon ( W\n)");
     Materiel materiel;
     materiel.WagonName = "before";
-    EXPECT_FALSE(ReadStockFile(reader, "\\a.wag", materiel).error);
+    EXPECT_EQ(ReadStockFile(reader, "\\a.wag", materiel).answer.outcome, ReadOutcome::OtherKind);
     EXPECT_EQ(materiel.WagonName, "before");
 }
 
@@ -157,6 +153,21 @@ TEST_F(SimFixture, SeveralNamesAreRepairedInAWagonFileOnly) {
     }
 }
 
+TEST_F(SimFixture, ARepairLeavesTheOtherLinesAsTheyAreToTheLastCharacter) {
+    const std::string before = "x SIMISA@@@@@@@@@@jinx0D0t______ \n\tWagon ( W\xE9 \r\n\n Name\t( one )\n";
+    const std::string surplus = "\tName ( \"two\" ) \r", behind =
+                                                             "Type ( Freight )  \rSize ( 1 )\nMass ( 2t )\r\n"
+                                                             "Coupling (\nType ( Bar )\n)\n Name(3)\n)";
+    files.put("\\a.wag", before + surplus + behind);
+    Materiel materiel;
+    EXPECT_TRUE(ReadStockFile(reader, "\\a.wag", materiel).repaired);
+    std::string text;
+    decodeSimulatorText(files.get("\\a.wag").value(), text);
+    const std::string kept = behind.substr(0, behind.size() - 10) + ")";
+    EXPECT_EQ(text, std::string(ConsistSignature) + "\n\tWagon ( W\xC3\xA9 \r\n\n Name\t( one )\n" + kept);
+    EXPECT_EQ(files.get("\\a.wag"), utf16(text));
+}
+
 TEST_F(SimFixture, NamesThatShareTheirLinesAreLeftAlone) {
     for (const char* names :
          {"Name ( one )\nName ( two ) NumWheels ( 4 )\n", "Name ( one )\nName (\n\"two\" )\n",
@@ -176,12 +187,12 @@ TEST_F(SimFixture, ARepairThatFailsLosesNothing) {
     for (int call = 1; call < 40; ++call) {
         MemoryFileSystem disk;
         disk.put("\\a.wag", before);
-        SimReader failing(disk, language);
+        SimReader failing(disk);
         disk.failAt(call, true);
         const bool repaired = ReadStockFile(failing, "\\a.wag", materiel).repaired;
         disk.failAt(0);
         EXPECT_TRUE(repaired || disk.get("\\a.wag") == before) << call;
-        EXPECT_FALSE(ReadStockFile(failing, "\\a.wag", materiel, NameRepair::Never).error) << call;
+        EXPECT_TRUE(ReadStockFile(failing, "\\a.wag", materiel, NameRepair::Never).answer.sound()) << call;
     }
 }
 

@@ -153,25 +153,24 @@ TEST_F(SimFixture, SearchStopsCountsAndCutsComments) {
                         {"Wagon", "Absent", 0, {}}};
     for (const Row& row : rows) {
         SCOPED_TRACE(row.key);
-        EXPECT_EQ(reader.readBytes("x.wag", bytes, row.section, row.key, row.count, true, false),
+        EXPECT_EQ(reader.readBytes("x.wag", bytes, {row.section, row.key, row.count}).found,
                   !row.values.empty());
         std::vector<std::string> values;
         for (const SimHit& hit : reader.SimHits)
-            if (hit.Found)
-                values.push_back(hit.Value);
+            values.push_back(hit.Value);
         EXPECT_EQ(values, row.values);
     }
-    ASSERT_TRUE(reader.readBytes("x.wag", bytes, "Wagon", "Description", 1, true, false));
+    ASSERT_TRUE(reader.readBytes("x.wag", bytes, {"Wagon", "Description"}).found);
     EXPECT_EQ(reader.SimHits[0].FirstLine, 12);
     EXPECT_EQ(reader.SimHits[0].LastLine, 13);
-    ASSERT_TRUE(reader.readBytes("x.wag", bytes, "Wagon", "Mass", 1, true, false));
+    ASSERT_TRUE(reader.readBytes("x.wag", bytes, {"Wagon", "Mass"}).found);
     EXPECT_EQ(reader.SimHits[0].FirstLine, 4);
     EXPECT_EQ(reader.SimKeys.back().Value, "30t #note");
 }
 
 TEST_F(SimFixture, AnEngineIsLookedForBehindItsWagonBlock) {
     const std::string bytes = utf16(signed_("Wagon ( A\nType ( Engine )\n)\nEngine ( A\nType ( Diesel )\n)"));
-    ASSERT_TRUE(reader.readBytes("x.eng", bytes, "Engine", "Type", 1, true, false));
+    ASSERT_TRUE(reader.readBytes("x.eng", bytes, {"Engine", "Type"}).found);
     EXPECT_EQ(reader.SimHits[0].Value, "Diesel");
 }
 
@@ -179,7 +178,7 @@ TEST_F(SimFixture, StockModeHitsEachKeyOnceButEveryCoupling) {
     const std::string bytes =
         utf16(signed_("Wagon ( A\nMass ( 1t )\nMass ( 2t )\nCoupling (\nType ( Chain )\n)\n"
                       "Coupling (\nType ( Chain )\n)\nSound ( a )\nSkip ( b )\n)"));
-    ASSERT_TRUE(reader.readBytes("x.wag", bytes, "", "", 0, true, true));
+    ASSERT_TRUE(reader.readBytes("x.wag", bytes, {.stockMode = true}).found);
     std::vector<std::string> hits;
     for (const SimHit& hit : reader.SimHits)
         hits.push_back(hit.Path + "|" + hit.Key + "|" + hit.Value);
@@ -192,29 +191,32 @@ TEST_F(SimFixture, KindsAreHeldToTheirSignatures) {
         const char *name, *firstLine;
         bool accepted;
     };
+    using enum ReadOutcome;
     const Row rows[] = {{"a.CON", "simisa@@@@@@@@@@jinx0d0T______", true},
                         {"a.sd", "SIMISA@@@@@@@@@@JINX0t1t______", true},
                         {"a.sd", "SIMISA@@@@@@@@@@JINX0s1t______", false},
                         {"a.S", "xx SIMISA@@@@@@@@@@JINX0s1t______ yy", true},
                         {"a.wag", "SIMISA@F\x01\x02", false},
-                        {"a.wag", "", false}};
+                        {"a.wag", "", false},
+                        {"a.txt", "SIMISA@@@@@@@@@@JINX0D0t______", false}};
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);
-        EXPECT_EQ(
-            reader.readBytes(row.name, std::string(row.firstLine) + "\nA ( 1 )", "", "", 1, false, false),
-            row.accepted);
-        EXPECT_EQ(reader.SimKeys.size(), 1u);
+        EXPECT_EQ(reader.readBytes(row.name, std::string(row.firstLine) + "\nA ( 1 )").outcome,
+                  row.accepted ? Read : OtherKind);
+        EXPECT_EQ(reader.SimKeys.size(), row.accepted ? 1u : 0u);
+        EXPECT_TRUE(reader.SimHits.empty());
     }
-    EXPECT_FALSE(reader.readBytes("a.wag", "", "", "", 1, false, false));
-    ASSERT_TRUE(reader.error);
-    EXPECT_EQ(reader.error->number, EmptyFile);
-    EXPECT_FALSE(reader.ReadSimFile("\\none.wag", "", "", 1, false, false));
-    EXPECT_FALSE(reader.error);
+    EXPECT_EQ(reader.readBytes("a.wag", "").outcome, Empty);
+    EXPECT_EQ(reader.ReadSimFile("\\none.wag").outcome, NoFile);
+    EXPECT_EQ(reader.readBytes("a.wag", signed_("")).outcome, Read);
+    EXPECT_TRUE(reader.SimKeys.empty());
 }
 
-TEST_F(SimFixture, ShapesKeepOnlyTheirImageLinesWithRightNumbers) {
-    const Rows rows = keysOf("shape (\npoints ( 1 )\nimages ( 1\nImage ( \"a.ace\" )\n)\n)", "x.s");
+TEST_F(SimFixture, AFilterOfLinesKeepsTheirNumbersRight) {
+    const std::string body = "shape (\npoints ( 1 )\nimages ( 1\nImage ( \"a.ace\" )\n)\n)";
+    const Rows rows = keysOf(body, "x.s", {.keepLines = textureLines(FileKind::Shape)});
     EXPECT_EQ(rows, (Rows{"images||1|4", "images|Image|\"a.ace\"|5"}));
+    EXPECT_EQ(keysOf(body, "x.s").size(), 4u) << "all lines, unless less was asked for";
 }
 
 TEST_F(SimFixture, AVehicleLineOfAConsistNeedsItsBrackets) {
@@ -226,11 +228,11 @@ TEST_F(SimFixture, AVehicleLineOfAConsistNeedsItsBrackets) {
          {Row{"EngineData Loco Park )", 321}, Row{"WagonData ( Car Park", 321},
           Row{"WagonData ( Car Park (old )", 321}, Row{"Wagon ( WagonData ( Car (1 Park )", 321},
           Row{"Wagon ( WagonData ( Car (1) Park ) )", 0}, Row{"WagonData ( Car Park )", 0}}) {
-        const bool result = reader.readBytes(
-            "x.con", utf16(signed_(std::string("Train (\nTrainCfg ( A\n") + row.line + "\n)\n)")), "", "", 1,
-            false, false);
-        EXPECT_EQ(result, row.number == 0);
-        EXPECT_EQ(reader.error ? reader.error->number : 0, row.number) << row.line;
+        const ReadAnswer answer = reader.readBytes(
+            "x.con", utf16(signed_(std::string("Train (\nTrainCfg ( A\n") + row.line + "\n)\n)")));
+        EXPECT_EQ(errorNumber(answer), row.number) << row.line;
+        EXPECT_EQ(answer.text, row.number == 0 ? "" : row.line);
+        EXPECT_EQ(answer.line, row.number == 0 ? 0 : 4);
         EXPECT_GE(reader.SimKeys.size(), 2u) << "what was read before stands";
     }
 }
@@ -253,7 +255,7 @@ TEST_F(SimFixture, GarbageEndsQuickly) {
          {deep, nested, joins, comments, comments + ")", "W (\n" + joined, words, remarks, stars,
           stars + "*)", std::string(3000000, '('), std::string(3000000, '"'), std::string(3000000, ')'),
           std::string("\0\0(\0)\n", 6)})
-        reader.readBytes("x.wag", signed_(body), "", "", 1, false, false);
+        reader.readBytes("x.wag", signed_(body));
     EXPECT_EQ(keysOf("W (\nX ( 1 )\n)"), (Rows{"W|||2", "W|X|1|3"})) << "the reader is as new afterwards";
 }
 
