@@ -76,8 +76,10 @@ bool Application::handedOver() {
 void Application::takeFile(const QString& path) {
     given_.append(path);
     window_->setWindowState(window_->windowState() & ~Qt::WindowMinimized);
-    window_->raise();
-    window_->activateWindow();
+    QWidget* const message = QApplication::activeModalWidget(); // keeps the keyboard
+    QWidget& top = message ? *message : *window_;
+    top.raise();
+    top.activateWindow();
     openNextGiven();
 }
 

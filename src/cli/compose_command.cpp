@@ -101,7 +101,7 @@ class ComposeCommand final : public Command {
     int compose(Session& session, Editor& editor, const std::string& shortName,
                 const std::vector<WantedVehicle>& wanted) const {
         const std::string path = consistsPath(session.state.roots.RootPrimary()) + shortName + ".con";
-        const bool exists = FileExists(session.frame.files, path);
+        const bool exists = isThere(session.frame.files, path);
         initialiseDocument(editor);
         if (exists && overwrite_ && !session.tell(openConsist(editor, path)))
             return exitcode::Faults;

@@ -12,13 +12,13 @@ namespace {
 std::optional<std::string> findConsist(Session& session, const std::string& given) {
     FileSystem& files = session.frame.files;
     const std::string path = ExpandLongPath(given);
-    if (FileExists(files, path))
+    if (isThere(files, path))
         return path;
     if (given.find_first_of("\\/") != std::string::npos)
         return std::nullopt;
     const std::string listed = consistsPath(session.state.roots.RootPrimary()) + given;
     for (const std::string& name : {listed, listed + ".con"})
-        if (FileExists(files, name))
+        if (isThere(files, name))
             return name;
     return std::nullopt;
 }

@@ -48,8 +48,8 @@ bool StockPresence::isIn(std::string_view root, std::string_view folder, std::st
 }
 
 SummaryReader::SummaryReader(Frame& frame, const Catalogue& catalogue)
-    : folder_(consistsPath(frame.state.roots.RootPrimary())), reader_(frame.files), stock_(frame.files, frame.state),
-      services_(catalogue), compositions_(frame) {}
+    : folder_(consistsPath(frame.state.roots.RootPrimary())), reader_(frame.files),
+      stock_(frame.files, frame.state), services_(catalogue), compositions_(frame) {}
 
 void SummaryReader::takeItem(const RameItem& item, ConsistSummary& summary) {
     ++(item.IsEngine ? summary.Engines : summary.Wagons);

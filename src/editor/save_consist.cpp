@@ -53,13 +53,9 @@ bool showsDoubleName(const ConsistDocument& document) {
 // Where the consist under edit is saved; that of a new one is the folder of the root in use.
 std::string targetFolder(const Editor& editor) {
     const ConsistDocument& document = editor.document;
-    return document.HasFile && !document.ConsistFolder.empty() ? document.ConsistFolder
-                                                               : consistsPath(editor.frame.state.roots.RootPrimary());
-}
-
-// Also one that can't be opened.
-bool isThere(FileSystem& files, const std::string& path) {
-    return FileExists(files, path) || files.stamp(path).has_value();
+    return document.HasFile && !document.ConsistFolder.empty()
+               ? document.ConsistFolder
+               : consistsPath(editor.frame.state.roots.RootPrimary());
 }
 
 SaveNames enteredNames(const EditorControls& controls) {
@@ -205,9 +201,8 @@ struct Backup {
 Backup keepBackup(Editor& editor, const std::string& folder, const std::string& file) {
     Frame& frame = editor.frame;
     const AppState& state = frame.state;
-    const bool wanted =
-        !editor.document.noBackup &&
-        (editor.document.faultyFile || readFlag(frame.profiles, "BakFile", state.IniPath));
+    const bool wanted = !editor.document.noBackup &&
+                        (editor.document.faultyFile || readFlag(frame.profiles, "BakFile", state.IniPath));
     if (!editor.document.HasFile || !wanted || !isThere(frame.files, folder + file))
         return {};
     const std::string keptIn = AddBackslash(state.BackupDir) + std::string(BackupFolder);

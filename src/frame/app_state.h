@@ -25,7 +25,7 @@ struct AppState {
     std::string LastAnswer;    // as a decimal text
     std::string ProgramFolder; // without a trailing separator; the settings file stands here
     Roots roots;
-    std::string BackupDir;                                        // with a trailing "\"
+    std::string BackupDir; // with a trailing "\"
     std::string ProgramFilesDir;
     std::string IniPath;
     std::string Language;

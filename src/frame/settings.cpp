@@ -251,6 +251,18 @@ bool ProfileFiles::WriteIniValue(std::string_view section, std::string_view key,
     return WriteIniValues({{std::string(section), std::string(key), std::string(value)}}, file);
 }
 
+namespace {
+
+// The last line of a file whose writing was cut off behind a "=": with more behind it, it would be a value.
+void dropCutLine(std::string& bytes) {
+    if (!bytes.ends_with('='))
+        return;
+    const std::size_t end = bytes.find_last_of("\r\n");
+    bytes.resize(end == std::string::npos ? 0 : end + 1);
+}
+
+} // namespace
+
 bool ProfileFiles::WriteIniValues(const std::vector<IniValue>& values, std::string_view file) {
     if (!std::ranges::all_of(values, isWritable))
         return false;
@@ -260,6 +272,7 @@ bool ProfileFiles::WriteIniValues(const std::vector<IniValue>& values, std::stri
     const bool isMissing = result == ReadResult::Missing && !files_.stamp(file) && !files_.fileExists(file);
     if (result != ReadResult::Done && !isMissing)
         return false;
+    dropCutLine(bytes);
     const auto changes = std::ranges::count_if(values, [&](const IniValue& v) { return putValue(bytes, v); });
     if (changes == 0)
         return true;
@@ -286,8 +299,7 @@ void appendLine(std::string& text, std::initializer_list<std::string_view> parts
 
 } // namespace
 
-void WriteDefaultIni(FileSystem& files, std::string_view path, std::string_view title,
-                     std::string_view programFolder) {
+std::string defaultIni(FileSystem& files, std::string_view title, std::string_view programFolder) {
     std::string text;
     appendLine(text, {";Informations de configuration de ", title,
                       " un éditeur de rames pour Microsoft Train Simulator"});
@@ -298,7 +310,12 @@ void WriteDefaultIni(FileSystem& files, std::string_view path, std::string_view 
         appendLine(text, {row.key, "=", row.key == "Backup" ? std::string_view(backup) : row.fallback});
     appendLine(text, {});
     const TextEncoding encoding = fitsWindows1252(text) ? TextEncoding::Windows1252 : TextEncoding::Utf8;
-    replaceFile(files, path, encodeText(text, encoding));
+    return encodeText(text, encoding);
+}
+
+void WriteDefaultIni(FileSystem& files, std::string_view path, std::string_view title,
+                     std::string_view programFolder) {
+    replaceFile(files, path, defaultIni(files, title, programFolder));
 }
 
 std::string readSetting(ProfileFiles& profiles, std::string_view key, std::string_view file) {

@@ -111,6 +111,7 @@ inline constexpr Setting GeneralSettings[] = {
 };
 
 // A new settings file with the default of every key. `title` goes into its first line.
+std::string defaultIni(FileSystem& files, std::string_view title, std::string_view programFolder);
 void WriteDefaultIni(FileSystem& files, std::string_view path, std::string_view title,
                      std::string_view programFolder);
 

@@ -85,7 +85,12 @@ bool hasLineBeginning(std::string_view text, std::string_view beginning) {
 void provideSettings(Frame& frame) {
     const std::string& path = frame.state.IniPath;
     std::string bytes, text;
-    if (frame.files.read(path, bytes, LargestProfile) == ReadResult::Done) {
+    const bool isRead = frame.files.read(path, bytes, LargestProfile) == ReadResult::Done;
+    const std::string whole = defaultIni(frame.files, frame.state.Title, frame.state.ProgramFolder);
+    if (isRead && bytes.size() < whole.size() && whole.starts_with(bytes)) {
+        WriteDefaultIni(frame.files, path, frame.state.Title,
+                        frame.state.ProgramFolder); // its writing was cut off
+    } else if (isRead) {
         decodeSettingsText(bytes, text);
         if (!hasLineBeginning(text, "ControlThumbnails"))
             frame.profiles.WriteIniValues({generalValue("ControlThumbnails", "1")}, path);
@@ -127,7 +132,7 @@ std::string askForSimulator(Frame& frame) {
 }
 
 bool isConsistFile(Frame& frame, std::string_view path) {
-    return endsWithIgnoringCase(path, ".con") && FileExists(frame.files, path);
+    return endsWithIgnoringCase(path, ".con") && isThere(frame.files, path);
 }
 
 } // namespace

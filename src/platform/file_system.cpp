@@ -37,6 +37,10 @@ bool FileExists(FileSystem& files, std::string_view path) {
     return files.fileExists(path);
 }
 
+bool isThere(FileSystem& files, std::string_view path) {
+    return FileExists(files, path) || files.stamp(path).has_value();
+}
+
 bool FolderExists(FileSystem& files, std::string_view path) {
     return !path.empty() && files.folderExists(AddBackslash(path));
 }

@@ -82,6 +82,7 @@ std::string megabytesOf(FileSystem& files, std::string_view path);
 std::string megabytesOf(std::uint64_t bytes);
 
 bool FileExists(FileSystem& files, std::string_view path);   // one trailing "\" is dropped first
+bool isThere(FileSystem& files, std::string_view path);      // also a file that can't be opened
 bool FolderExists(FileSystem& files, std::string_view path); // false for an empty text
 
 std::string AddBackslash(std::string_view path); // trims blanks, then ends the path in "\"

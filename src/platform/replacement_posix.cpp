@@ -4,6 +4,9 @@
 
 #include <errno.h>
 #include <stdio.h>
+#include <time.h>
+
+#include <dirent.h>
 
 #include <sys/random.h>
 
@@ -60,12 +63,39 @@ bool takeOver(int file, const struct stat& old) {
     return ::fchmod(file, mode) == 0 || (mode & S_IWUSR) != 0;
 }
 
+constexpr std::string_view kSiblingBeginning = ".zandor-";
+constexpr std::size_t kSiblingLength = kSiblingBeginning.size() + 32;
+constexpr time_t kAbandonedAfter = 60; // seconds
+
+bool isAbandoned(int folder, const char* name) {
+    struct stat info;
+    return std::string_view(name).starts_with(kSiblingBeginning) &&
+           std::string_view(name).size() == kSiblingLength &&
+           ::fstatat(folder, name, &info, AT_SYMLINK_NOFOLLOW) == 0 && S_ISREG(info.st_mode) &&
+           info.st_uid == geteuid() && ::time(nullptr) - info.st_ctime > kAbandonedAfter;
+}
+
+// What a program that was killed between the naming and the renaming has left in this folder.
+void removeAbandoned(int folder) {
+    const int again = openAt(folder, ".", O_RDONLY | O_DIRECTORY);
+    DIR* const names = again < 0 ? nullptr : ::fdopendir(again);
+    if (!names) {
+        if (again >= 0)
+            ::close(again);
+        return;
+    }
+    while (const dirent* entry = ::readdir(names))
+        if (isAbandoned(folder, entry->d_name))
+            ::unlinkat(folder, entry->d_name, 0);
+    ::closedir(names);
+}
+
 // A name that nobody can foresee, or nothing. It ends in nothing that a pattern of simulator files matches.
 std::string freshName() {
     unsigned char random[16];
     if (::getrandom(random, sizeof random, 0) != ssize_t(sizeof random))
         return {};
-    std::string name = ".zandor-";
+    std::string name(kSiblingBeginning);
     for (const unsigned char byte : random) {
         constexpr char digits[] = "0123456789abcdef";
         name += digits[byte >> 4];
@@ -95,8 +125,10 @@ class Replacement {
             outcome = putNameless(bytes);
         if (outcome == Outcome::Unknown)
             outcome = putNamed(bytes);
-        if (outcome == Outcome::Done)
+        if (outcome == Outcome::Done) {
             ::fsync(folder_.get()); // some disks can't, and the new contents stand all the same
+            removeAbandoned(folder_.get());
+        }
         return outcome == Outcome::Done;
     }
 

@@ -46,7 +46,7 @@ TEST_F(StockListTest, HoldsTheClassInCatalogueOrder) {
     ASSERT_EQ(rows.size(), 2u);
     EXPECT_EQ(std::to_string(rows[0].index) + rows[0].text, "0Zed");
     EXPECT_EQ(rows[0].icon, NoCabIcon);
-    EXPECT_EQ(std::to_string(rows[1].index) + rows[1].text, "4Shell");
+    EXPECT_EQ(std::to_string(rows[1].index) + rows[1].text, "3Shell");
     EXPECT_EQ(rows[1].icon, CabIcon);
     EXPECT_EQ(FillStockList(state, catalogue, 1, true)[0].text, "z.eng");
     EXPECT_TRUE(FillStockList(state, catalogue, 0, false).empty());

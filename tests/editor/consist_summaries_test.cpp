@@ -35,11 +35,7 @@ class SummariesTest : public EditorTest {
         putConsist(file + ".con", body + ")\r\n)\r\n");
         list(file + ".con");
     }
-    void list(const std::string& file) {
-        if (catalogue.here().ConsistFiles.back().empty())
-            catalogue.here().ConsistFiles.pop_back();
-        catalogue.here().ConsistFiles.push_back(file);
-    }
+    void list(const std::string& file) { catalogue.here().ConsistFiles.push_back(file); }
     ConsistSummary only() {
         BuildConsistSummaries(frame, catalogue, progress);
         return catalogue.here().ConsistSummaries.at(0);
@@ -113,15 +109,13 @@ TEST_F(SummariesTest, EachStockFileIsLookedForOnce) {
     EXPECT_EQ(looked("gone.wag"), 2) << "once in either root";
 }
 
-TEST_F(SummariesTest, CompleteConsistsStandFirstAndFreeSlotsAreLeftOut) {
+TEST_F(SummariesTest, CompleteConsistsStandFirst) {
     putTrain("b", {"gone.wag"});
     putTrain("c", {"E"});
     putTrain("a", {"gone.eng"});
     putTrain("d", {});
     BuildConsistSummaries(frame, catalogue, progress);
     EXPECT_EQ(listed(), (Shown{"c.con", "d.con", "b.con", "a.con"}));
-    catalogue.here().ConsistSummaries[1] = {};
-    EXPECT_EQ(listed(), (Shown{"d.con", "b.con", "a.con"}));
 }
 
 TEST_F(SummariesTest, AConsistThatAServiceNamesIsMarked) {

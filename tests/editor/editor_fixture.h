@@ -88,8 +88,6 @@ class EditorTest : public ::testing::Test, protected TestFrame {
         materiel.Coupling = coupling;
         materiel.Type = "Freight";
         files.put(materiel.BasePath + materiel.Folder + "\\" + materiel.FileName, "stock");
-        if (catalogue.here().Materiels.back().FileName.empty())
-            catalogue.here().Materiels.pop_back();
         catalogue.here().Materiels.push_back(std::move(materiel));
         return static_cast<int>(catalogue.here().Materiels.size()) - 1;
     }

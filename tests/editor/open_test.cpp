@@ -175,7 +175,7 @@ TEST_F(OpenTest, VehiclesThatAreLeftOutAreToldAndNotLostUnasked) {
         settings("0", "0");
         ASSERT_TRUE(open("bad.con"));
         EXPECT_EQ(order(), kept) << stray;
-        EXPECT_EQ(dialogs.shown.size(), 1u) << stray;
+        EXPECT_EQ(told.size(), 1u) << stray;
 
         dialogs.answers = {answer::No};
         save();

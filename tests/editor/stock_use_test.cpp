@@ -42,7 +42,7 @@ TEST_F(StockUseTest, CountsFollowTheDifferenceOfTheLists) {
 }
 
 TEST_F(StockUseTest, TheIndexHoldsOneEntryAFile) {
-    catalogue.ConsistIndex[0] = {"A.CON", "Old", "c:\\msts\\trains\\consists\\", {b}, false};
+    catalogue.ConsistIndex.push_back({"A.CON", "Old", "c:\\msts\\trains\\consists\\", {b}, false});
     catalogue.ConsistIndex.push_back({"a.con", "Other root", "C:\\Store\\TRAINS\\CONSISTS\\", {b}, false});
     use({}, {a}, false);
     ASSERT_EQ(catalogue.ConsistIndex.size(), 2u);
@@ -55,7 +55,7 @@ TEST_F(StockUseTest, NothingIsCountedWithoutTheGreenMark) {
     state.PrintGreen = false;
     use({}, {a}, false);
     EXPECT_EQ(counts(), "");
-    EXPECT_EQ(catalogue.ConsistIndex[0].FileName, "");
+    EXPECT_TRUE(catalogue.ConsistIndex.empty());
 }
 
 TEST_F(StockUseTest, SavesCountEachVehicleOfAFileOnce) {

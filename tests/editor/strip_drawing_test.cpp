@@ -210,6 +210,7 @@ TEST_F(StripDrawingTest, MarksTellTheFrontOfTheRightVehicle) {
 }
 
 TEST_F(StripDrawingTest, StockOfTheSimulatorIsLookedUpInItsOwnArray) {
+    catalogue.current = Root::Store;
     add("A", "w121", "", "chain");
     Vehicule& other = add("B", "w121", "ecp", "chain");
     other.FromSimulator = true;

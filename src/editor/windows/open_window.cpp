@@ -49,7 +49,7 @@ frmOpen::frmOpen(Frame& frame, Catalogue& catalogue, Open open, QWidget* parent)
     layOut();
     connectAll();
     applySettings();
-    resize(DefaultSize.boundedTo(screen()->availableGeometry().size()));
+    resize(DefaultSize.boundedTo(screen()->availableSize() * 0.9)); // its frame has room too
 }
 
 void frmOpen::buildList() {
@@ -179,7 +179,8 @@ void frmOpen::showCounts() {
 
 const ConsistSummary* frmOpen::selected() const {
     const QModelIndex row = lsvCONSISTS_->currentIndex();
-    return row.isValid() ? &catalogue_.here().ConsistSummaries[row.data(OpenModel::NumberRole).toUInt()] : nullptr;
+    return row.isValid() ? &catalogue_.here().ConsistSummaries[row.data(OpenModel::NumberRole).toUInt()]
+                         : nullptr;
 }
 
 void frmOpen::showSelected() {

@@ -5,6 +5,7 @@
 #include <QScreen>
 #include <QWidget>
 
+#include <algorithm>
 #include <cmath>
 
 namespace zandor {
@@ -62,7 +63,11 @@ PlaceKeeper::PlaceKeeper(QWidget& window, const Frame& frame, const char* sectio
                          const QSize& defaultSize)
     : QObject(&window), window_(window), section_(section), prefix_(prefix) {
     const auto kept = readWindowPlace(frame, section, prefix);
-    place_ = placeOnScreen(kept.value_or(inTheMiddle(defaultSize)), screensNow(), framesOf(window));
+    WindowPlace wanted = kept.value_or(inTheMiddle(defaultSize));
+    const QSize least = window.minimumSizeHint(); // it may have grown since
+    wanted.width = std::max(wanted.width, least.width());
+    wanted.height = std::max(wanted.height, least.height());
+    place_ = placeOnScreen(wanted, screensNow(), framesOf(window));
     give(place_);
     if (place_.maximised)
         window.setWindowState(window.windowState() | Qt::WindowMaximized);
