@@ -262,14 +262,14 @@ void frmPrincipal::applyListColours() {
 // ---- commands
 
 void frmPrincipal::newPressed() {
-    showOutcome(editor_.frame, newConsist(editor_));
+    tell(newConsist(editor_));
     updateUnusedStock(); // the question may have led to a save
     refresh();
 }
 
 void frmPrincipal::openPressed() {
     Frame& frame = editor_.frame;
-    const bool goOn = showOutcome(frame, offerToSave(editor_));
+    const bool goOn = tell(offerToSave(editor_));
     updateUnusedStock();
     refresh();
     if (!goOn)
@@ -285,7 +285,7 @@ bool frmPrincipal::openFile(const std::string& path) {
                              parentOfDialogs());
     const std::size_t known = editor_.catalogue.here().Materiels.size();
     const Outcome outcome = openConsist(editor_, path);
-    showFindings(editor_.frame, outcome.told);
+    tell(outcome);
     if (outcome.done) {
         selectVehicule(editor_.document, 0);
         controls_.PicRAME->showSelected();
@@ -303,7 +303,7 @@ bool frmPrincipal::openFile(const std::string& path) {
 
 void frmPrincipal::savePressed() {
     const BusyPointer busy;
-    showOutcome(editor_.frame, SaveFileRame(editor_));
+    tell(SaveFileRame(editor_));
     updateUnusedStock();
     refresh();
 }
@@ -339,7 +339,7 @@ void frmPrincipal::dropEvent(QDropEvent* event) {
 }
 
 void frmPrincipal::offerFile(const std::string& path) {
-    if (showOutcome(editor_.frame, offerToSave(editor_)))
+    if (tell(offerToSave(editor_)))
         openFile(path);
     updateUnusedStock();
     refresh();
@@ -360,7 +360,7 @@ void frmPrincipal::actionTriggered(int id) {
         break;
     case StripActions::MoveLeft:
     case StripActions::MoveRight:
-        showOutcome(editor_.frame, moveSelected(editor_, id == StripActions::MoveLeft ? -1 : 1));
+        tell(moveSelected(editor_, id == StripActions::MoveLeft ? -1 : 1));
         controls_.PicRAME->showSelected();
         break;
     case StripActions::Flip:
@@ -387,9 +387,15 @@ void frmPrincipal::finishInsertion(const Outcome& outcome, bool endWasHidden) {
     Findings told = outcome.told;
     if (outcome.done && !endWasHidden && endIsHidden(editor_.document, strip.scroll()))
         told.push_back(endHidden(editor_.document, strip.scroll()));
-    showFindings(editor_.frame, told);
     if (outcome.done)
         strip.showInserted();
+    tell({outcome.done, std::move(told)});
+}
+
+// Behind the message everything shows what it speaks of.
+bool frmPrincipal::tell(const Outcome& outcome) {
+    refresh();
+    return showOutcome(editor_.frame, outcome);
 }
 
 // ---- the stock list

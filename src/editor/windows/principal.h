@@ -73,6 +73,7 @@ class frmPrincipal final : public QWidget {
     void lookUp(int materielIndex);
     void sayNotInList();
     void finishInsertion(const Outcome& outcome, bool endWasHidden);
+    bool tell(const Outcome& outcome); // whether it was done
     void refreshNames();
     void refreshScrollBar();
     QString describeStock(int stock, int column) const;

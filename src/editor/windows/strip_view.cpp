@@ -204,9 +204,9 @@ void StripView::mouseReleaseEvent(QMouseEvent* event) {
         return;
     }
     const Release release = releaseStrip(editor_, atRest ? ReleaseZone::Strip : zoneAt(mapToGlobal(point)));
-    showFindings(editor_.frame, release.told);
     emit changed();
     update();
+    showFindings(editor_.frame, release.told);
     if (release.lookedUp)
         emit lookedUp(*release.lookedUp);
 }
