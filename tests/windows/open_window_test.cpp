@@ -112,21 +112,21 @@ TEST_F(OpenWindowTest, TheListTellsEverythingOfEachConsist) {
     show();
     EXPECT_EQ(window->objectName(), "frmOpen");
     EXPECT_EQ(window->windowTitle().toStdString(), frame.text(Message::OpenTitle, {{"|1", state.Title}}));
-    EXPECT_EQ(listed(), (Names{"Le Mistral", "Zéphyr", "aquilon", "Ancien train"}));
-    EXPECT_EQ(text(2, 1), "2 motrices");
-    EXPECT_EQ(text(2, 2), "aquilon.con");
+    EXPECT_EQ(listed(), (Names{"aquilon", "Le Mistral", "Zéphyr", "Ancien train"}));
+    EXPECT_EQ(text(0, 1), "2 motrices");
+    EXPECT_EQ(text(0, 2), "aquilon.con");
     const Names columns{"C_NAME", "C_COMPO", "C_FILE"};
     for (int column = 0; column < 3; ++column)
         EXPECT_EQ(list().model()->headerData(column, Qt::Horizontal, Qt::UserRole).toString().toStdString(),
                   columns[static_cast<std::size_t>(column)]);
-    EXPECT_EQ(selected(), "Le Mistral");
-    EXPECT_NE(label().find("Le Mistral (mistral.con)"), std::string::npos) << label();
+    EXPECT_EQ(selected(), "aquilon");
+    EXPECT_NE(label().find("aquilon (aquilon.con)"), std::string::npos) << label();
     EXPECT_NE(get<QLabel>("lblCOUNT").text().indexOf("4"), -1);
     const auto tip = [this](int row) {
         return list().model()->index(row, 0).data(Qt::ToolTipRole).toString().toStdString();
     };
-    EXPECT_NE(tip(0).find(frame.text(Message::TipUsedByService)), std::string::npos);
-    EXPECT_NE(tip(1).find(frame.text(Message::TipUsedByNoService)), std::string::npos);
+    EXPECT_NE(tip(1).find(frame.text(Message::TipUsedByService)), std::string::npos);
+    EXPECT_NE(tip(0).find(frame.text(Message::TipUsedByNoService)), std::string::npos);
     EXPECT_NE(tip(3).find(frame.text(Message::TipIncomplete)), std::string::npos);
 }
 
@@ -147,13 +147,14 @@ TEST_F(OpenWindowTest, ColoursAreThoseOfTheSettingsAndIncompleteConsistsBoldRed)
 TEST_F(OpenWindowTest, EveryWayOfOpeningOpensTheSelectedConsist) {
     const std::function<void()> ways[] = {
         [this] {
-            const QPoint at = list().visualRect(list().model()->index(1, 2)).center();
+            const QPoint at = list().visualRect(list().model()->index(2, 2)).center();
             QTest::mouseClick(list().viewport(), Qt::LeftButton, {}, at);
             QTest::mouseDClick(list().viewport(), Qt::LeftButton, {}, at);
         },
         [this] {
             QTest::keyClick(&list(), Qt::Key_End);
             QTest::keyClick(&list(), Qt::Key_Home);
+            QTest::keyClick(&list(), Qt::Key_Down);
             QTest::keyClick(&list(), Qt::Key_Down);
             QTest::keyClick(&list(), Qt::Key_Enter);
         },
@@ -176,13 +177,13 @@ TEST_F(OpenWindowTest, EveryWayOfOpeningOpensTheSelectedConsist) {
 }
 
 TEST_F(OpenWindowTest, AConsistThatVanishedLeavesTheDialogAndTheStripAsTheyWere) {
-    ASSERT_TRUE(openConsist(editor, pathOf("aquilon.con")).done);
+    ASSERT_TRUE(openConsist(editor, pathOf("mistral.con")).done);
     show();
-    files.deleteFile(pathOf("mistral.con"));
+    files.deleteFile(pathOf("aquilon.con"));
     QTest::keyClick(&list(), Qt::Key_Return);
     EXPECT_EQ(dialogs.shown.size(), 1u);
     EXPECT_TRUE(window->isVisible());
-    EXPECT_EQ(document.rame.Name, "aquilon");
+    EXPECT_EQ(document.rame.Name, "Le Mistral");
     EXPECT_TRUE(document.HasFile);
 }
 

@@ -11,6 +11,7 @@
 #include "frame/windows/window_parts.h"
 
 #include <QBoxLayout>
+#include <QCollator>
 #include <QHeaderView>
 #include <QProgressBar>
 #include <QPushButton>
@@ -18,6 +19,7 @@
 #include <QTimer>
 
 #include <algorithm>
+#include <utility>
 
 namespace zandor {
 
@@ -140,10 +142,28 @@ void frmOpen::done(int result) {
     QDialog::done(result);
 }
 
+// The complete consists first, as they are listed; among those alike by name.
+std::vector<int> frmOpen::rowsByName() const {
+    const std::vector<ConsistSummary>& consists = catalogue_.here().ConsistSummaries;
+    const QCollator order = nameOrder(toQt(frame_.state.Language));
+    std::vector<std::pair<QCollatorSortKey, int>> rows;
+    for (const int row : FillConsistList(catalogue_))
+        rows.emplace_back(order.sortKey(toQt(consists[static_cast<std::size_t>(row)].FullName)), row);
+    std::ranges::stable_sort(rows, [&consists](const auto& a, const auto& b) {
+        const bool first = consists[static_cast<std::size_t>(a.second)].Complete,
+                   second = consists[static_cast<std::size_t>(b.second)].Complete;
+        return first != second ? first : a.first < b.first;
+    });
+    std::vector<int> sorted;
+    for (const auto& [key, row] : rows)
+        sorted.push_back(row);
+    return sorted;
+}
+
 void frmOpen::showList() {
     if (ended_)
         return;
-    model_->setRows(catalogue_.here().ConsistSummaries, FillConsistList(catalogue_));
+    model_->setRows(catalogue_.here().ConsistSummaries, rowsByName());
     ProgressBar1_->hide();
     sizeColumns();
     showCounts();

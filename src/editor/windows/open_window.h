@@ -7,6 +7,7 @@
 #include <QDialog>
 
 #include <functional>
+#include <vector>
 
 class QLabel;
 class QProgressBar;
@@ -46,6 +47,7 @@ class frmOpen final : public QDialog, public ProgressView {
     void connectAll();
     void applySettings();
     void start();
+    std::vector<int> rowsByName() const;
     void showList();
     void sizeColumns();
     void showCounts();
