@@ -251,18 +251,6 @@ bool ProfileFiles::WriteIniValue(std::string_view section, std::string_view key,
     return WriteIniValues({{std::string(section), std::string(key), std::string(value)}}, file);
 }
 
-namespace {
-
-// The last line of a file whose writing was cut off behind a "=": with more behind it, it would be a value.
-void dropCutLine(std::string& bytes) {
-    if (!bytes.ends_with('='))
-        return;
-    const std::size_t end = bytes.find_last_of("\r\n");
-    bytes.resize(end == std::string::npos ? 0 : end + 1);
-}
-
-} // namespace
-
 bool ProfileFiles::WriteIniValues(const std::vector<IniValue>& values, std::string_view file) {
     if (!std::ranges::all_of(values, isWritable))
         return false;
@@ -272,7 +260,6 @@ bool ProfileFiles::WriteIniValues(const std::vector<IniValue>& values, std::stri
     const bool isMissing = result == ReadResult::Missing && !files_.stamp(file) && !files_.fileExists(file);
     if (result != ReadResult::Done && !isMissing)
         return false;
-    dropCutLine(bytes);
     const auto changes = std::ranges::count_if(values, [&](const IniValue& v) { return putValue(bytes, v); });
     if (changes == 0)
         return true;

@@ -220,9 +220,6 @@ TEST_F(Settings, AKeyThatIsMissingHasItsDefault) {
                 EXPECT_EQ(readFlag(profiles, row.key, Path), row.fallback == "1") << row.key << size;
             }
     }
-    files.put(Path, "[General]\r\nInst=0\r\nBakFile=");
-    profiles.WriteIniValues({{std::string(GeneralSection), "Inst", "1"}}, Path);
-    EXPECT_TRUE(readFlag(profiles, "BakFile", Path)) << "a write makes no value of what was cut off";
     files.deleteFile(Path);
     EXPECT_EQ(readSetting(profiles, "color7", Path), "16777151");
     EXPECT_EQ(readSetting(profiles, "Langage", Path), "Français");
