@@ -1,8 +1,10 @@
 #include "app/application.h"
 
+#include "app/messages.h"
 #include "app/quiet_dialogs.h"
 #include "app/single_instance.h"
 #include "editor/windows/principal.h"
+#include "frame/messages.h"
 #include "frame/windows/qt_dialogs.h"
 #include "frame/windows/qt_text.h"
 #include "frame/windows/splash.h"
@@ -114,7 +116,7 @@ void Application::reportMissingLanguages() {
 }
 
 void Application::showSplash() {
-    const std::string legal = frame_.text(Message::SplashText, {{"|1", LegalLine}});
+    const std::string legal = frame_.text(message::SplashText, {{"|1", LegalLine}});
     splash_ = std::make_unique<frmSplash>(toQt(state_.Title), toQt(legal.empty() ? LegalLine : legal));
     splash_->show();
     progress_.setView(splash_.get());
@@ -166,7 +168,7 @@ bool Application::chooseRoots() {
     state_.roots = {pathFromQt(QDir(options_.root).absolutePath()), {}, Root::Simulator};
     if (!FolderExists(*files_, state_.roots.RootPrimary())) {
         frame_.show(
-            frame_.text(Message::SimulatorNotFound, {{"|1", "Microsoft Train Simulator"}, {"|2", "\n"}}),
+            frame_.text(message::SimulatorNotFound, {{"|1", "Microsoft Train Simulator"}, {"|2", "\n"}}),
             style::Exclamation);
         return false;
     }

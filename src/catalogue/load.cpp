@@ -1,4 +1,5 @@
 #include "catalogue/catalogue.h"
+#include "catalogue/messages.h"
 #include "catalogue/passed_over.h"
 #include "catalogue/thumbnails.h"
 
@@ -41,7 +42,7 @@ bool wantsThumbnailControl(Frame& frame, const Catalogue& catalogue) {
 }
 
 bool loadSteps(Frame& frame, Catalogue& catalogue, LoadOptions options) {
-    const std::string stepDone = frame.text(Message::StepDone);
+    const std::string stepDone = frame.text(message::StepDone);
     const auto markStep = [&] { frame.progress.ShowProgress(0, 255, 0, stepDone); };
     ReadBitmapList(frame, catalogue);
     markStep();
@@ -98,7 +99,7 @@ bool LoadCatalogue(Frame& frame, Catalogue& catalogue, LoadOptions options) {
 bool readAllStock(Frame& frame, Catalogue& catalogue, LoadOptions options) {
     SimReader reader(frame.files);
     QuickStockReader quick(frame.files);
-    ReadingTexts texts(frame.text(Message::ReadingStock));
+    ReadingTexts texts(frame.text(message::ReadingStock));
     std::vector<Materiel>& materiels = catalogue.here().Materiels;
     const int last = static_cast<int>(materiels.size()) - 1;
     int index = 0;
@@ -128,7 +129,7 @@ bool reloadCatalogue(Frame& frame, Catalogue& catalogue) {
     catalogue.of(frame.state.roots.first).RamesEnService.clear();
     if (!LoadCatalogue(frame, catalogue))
         return false;
-    frame.progress.ShowProgress(0, 255, 0, frame.text(Message::StepDone));
+    frame.progress.ShowProgress(0, 255, 0, frame.text(message::StepDone));
     return true;
 }
 

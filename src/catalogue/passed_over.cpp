@@ -1,4 +1,5 @@
 #include "catalogue/passed_over.h"
+#include "catalogue/messages.h"
 
 #include <algorithm>
 
@@ -28,13 +29,13 @@ void tellPassedOver(Frame& frame, const Catalogue& catalogue) {
     for (std::size_t i = 0; i < named; ++i) {
         const std::string native = frame.files.nativePath(paths[i]),
                           size = megabytesOf(frame.files, paths[i]);
-        list.append(LineBreak).append(frame.text(Message::FileAndSize, {{"|1", native}, {"|2", size}}));
+        list.append(LineBreak).append(frame.text(message::FileAndSize, {{"|1", native}, {"|2", size}}));
     }
     const std::string others = std::to_string(paths.size() - named);
     if (others != "0")
-        list.append(LineBreak).append(frame.text(Message::AndMoreFiles, {{"|1", others}}));
+        list.append(LineBreak).append(frame.text(message::AndMoreFiles, {{"|1", others}}));
     if (!list.empty())
-        frame.show(frame.text(Message::FilesPassedOver, {{"|1", list}}), style::Exclamation);
+        frame.show(frame.text(message::FilesPassedOver, {{"|1", list}}), style::Exclamation);
 }
 
 } // namespace zandor

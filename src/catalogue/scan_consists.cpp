@@ -1,4 +1,5 @@
 #include "catalogue/catalogue.h"
+#include "catalogue/messages.h"
 #include "catalogue/passed_over.h"
 
 #include <utility>
@@ -78,7 +79,7 @@ bool ScanConsists(Frame& frame, Catalogue& catalogue) {
     copyConsistFiles(catalogue);
     indexConsists(frame, catalogue, frame.state.roots.RootSecondary());
     ConsistScratch scratch{SimReader(frame.files), {}, {}, {}};
-    const std::string shown = frame.text(Message::ReadingConsists);
+    const std::string shown = frame.text(message::ReadingConsists);
     const int last = static_cast<int>(catalogue.ConsistIndex.size()) - 1;
     for (int index = 0; index <= last; ++index) {
         if (!frame.progress.yield())

@@ -1,4 +1,5 @@
 #include "catalogue/catalogue.h"
+#include "catalogue/messages.h"
 #include "catalogue/stock_files.h"
 
 #include <algorithm>
@@ -10,7 +11,7 @@ namespace {
 void showLimit(Frame& frame, std::string_view path) {
     const std::string shownPath = frame.files.nativePath(path);
     const std::string limit = std::to_string(MaxEntries);
-    frame.show(frame.text(Message::TooManyFiles, {{"|1", shownPath}, {"|2", limit}}), style::Exclamation);
+    frame.show(frame.text(message::TooManyFiles, {{"|1", shownPath}, {"|2", limit}}), style::Exclamation);
 }
 
 void addMateriel(std::vector<Materiel>& materiels, const std::string& basePath, const std::string& folder,

@@ -1,7 +1,7 @@
 // The stock files of a folder, as every walk through TRAINSET sees them.
 #pragma once
 
-#include "frame/messages.h"
+#include "catalogue/messages.h"
 #include "platform/file_system.h"
 
 #include <string>
@@ -15,8 +15,8 @@ struct StockPass {
     std::string_view extension;
     Message listing;
 };
-inline constexpr StockPass StockPasses[] = {{".eng", Message::ListingEngines},
-                                            {".wag", Message::ListingWagons}};
+inline constexpr StockPass StockPasses[] = {{".eng", message::ListingEngines},
+                                            {".wag", message::ListingWagons}};
 
 inline constexpr std::string_view UncataloguedWagon =
     "default.wag"; // in this case alone; Default.wag is a wagon like any

@@ -1,5 +1,6 @@
 #include "catalogue/stock_list.h"
 
+#include "catalogue/messages.h"
 #include "catalogue/stock_files.h"
 
 #include <algorithm>
@@ -19,9 +20,9 @@ constexpr StockClassRule StockClassRules[] = {
     {4, "freight", ""},        {5, "tender", ""},       {5, "draisine", ""},
 };
 
-constexpr Message StockClassMessages[StockClassCount] = {Message::ClassElectric, Message::ClassDiesel,
-                                                         Message::ClassSteam,    Message::ClassCarriage,
-                                                         Message::ClassFreight,  Message::ClassTender};
+constexpr Message StockClassMessages[StockClassCount] = {message::ClassElectric, message::ClassDiesel,
+                                                         message::ClassSteam,    message::ClassCarriage,
+                                                         message::ClassFreight,  message::ClassTender};
 
 struct IconRow {
     std::string_view text;

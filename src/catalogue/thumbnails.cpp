@@ -1,6 +1,7 @@
 #include "catalogue/thumbnails.h"
 
 #include "catalogue/catalogue.h"
+#include "catalogue/messages.h"
 #include "catalogue/stock_files.h"
 
 #include <algorithm>
@@ -102,7 +103,7 @@ bool collectNames(Frame& frame, std::string_view root, std::string_view program,
                   std::vector<std::string>& names) {
     if (root.empty())
         return true;
-    frame.progress.ShowProgress(0, 255, 0, frame.text(Message::ThumbnailsOf) + std::string(program));
+    frame.progress.ShowProgress(0, 255, 0, frame.text(message::ThumbnailsOf) + std::string(program));
     const std::string basePath = trainsetPath(root);
     const std::vector<std::string> folders = ListStockFolders(frame, basePath, false);
     return std::ranges::all_of(StockPasses, [&](const StockPass& pass) {
@@ -159,7 +160,7 @@ class ThumbnailSearch {
 };
 
 std::string checkingText(const Frame& frame) {
-    return frame.text(Message::CheckingThumbnails, {{"|1", frame.state.Title}});
+    return frame.text(message::CheckingThumbnails, {{"|1", frame.state.Title}});
 }
 
 bool lookAtAll(Frame& frame, ThumbnailSearch& search, const std::vector<std::string>& names) {
@@ -186,9 +187,9 @@ std::string countText(const Frame& frame, int count, Message one, Message many) 
 }
 
 void report(Frame& frame, int moved, int restored, const std::string& failedFolder) {
-    std::string text = countText(frame, moved, Message::OneThumbnailMoved, Message::ManyThumbnailsMoved);
+    std::string text = countText(frame, moved, message::OneThumbnailMoved, message::ManyThumbnailsMoved);
     const std::string back =
-        countText(frame, restored, Message::OneThumbnailRestored, Message::ManyThumbnailsRestored);
+        countText(frame, restored, message::OneThumbnailRestored, message::ManyThumbnailsRestored);
     if (!text.empty() && !back.empty())
         text.append(LineBreak).append(LineBreak);
     text += back;
@@ -197,7 +198,7 @@ void report(Frame& frame, int moved, int restored, const std::string& failedFold
     if (failedFolder.empty())
         return;
     const std::string native = frame.files.nativePath(failedFolder);
-    frame.show(frame.text(Message::ThumbnailFolderFailed, {{"|1", native}, {"|2", LineBreak}}),
+    frame.show(frame.text(message::ThumbnailFolderFailed, {{"|1", native}, {"|2", LineBreak}}),
                style::Exclamation);
 }
 

@@ -1,6 +1,8 @@
 #include "editor/consist_summaries.h"
 
+#include "catalogue/messages.h"
 #include "catalogue/name_key.h"
+#include "editor/messages.h"
 
 namespace zandor {
 
@@ -12,10 +14,10 @@ const std::string& CompositionTexts::of(int engines, int wagons) {
         const std::string figure = std::to_string(count);
         return count == 0 ? std::string() : frame_.text(count == 1 ? one : many, {{"|1", figure}});
     };
-    place->second = part(engines, Message::OneEngine, Message::ManyEngines);
+    place->second = part(engines, message::OneEngine, message::ManyEngines);
     if (engines > 0 && wagons > 0)
-        place->second += frame_.text(Message::CompositionJoint);
-    place->second += part(wagons, Message::OneWagon, Message::ManyWagons);
+        place->second += frame_.text(message::CompositionJoint);
+    place->second += part(wagons, message::OneWagon, message::ManyWagons);
     return place->second;
 }
 
@@ -71,7 +73,7 @@ void SummaryReader::ReadConsistSummary(const std::string& fileName, std::vector<
 bool BuildConsistSummaries(Frame& frame, Catalogue& catalogue, Progress& progress) {
     forgetSummaries(catalogue.here());
     const std::vector<std::string> names = catalogue.here().ConsistFiles; // events are served while this runs
-    const std::string head = frame.text(Message::ReadingStock) + "   ";
+    const std::string head = frame.text(message::ReadingStock) + "   ";
     const int last = static_cast<int>(names.size()) - 1;
     SummaryReader reader(frame, catalogue);
     std::vector<ConsistSummary> summaries;

@@ -1,6 +1,7 @@
 #include "editor/coupling.h"
 
 #include "editor/editor_parts.h"
+#include "editor/messages.h"
 
 #include <array>
 #include <utility>
@@ -114,7 +115,7 @@ bool reactToBadCoupling(Editor& editor, Findings& told) {
         clearDrag(editor.document);
         updateStrip(editor);
     }
-    told.push_back({.message = Message::CouplingsDoNotFit});
+    told.push_back({.message = message::CouplingsDoNotFit});
     return !refused;
 }
 

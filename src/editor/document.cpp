@@ -1,6 +1,7 @@
 #include "catalogue/catalogue.h"
 #include "editor/consist_io.h"
 #include "editor/editor_parts.h"
+#include "editor/messages.h"
 #include "frame/startup.h"
 
 #include <algorithm>
@@ -70,8 +71,8 @@ bool AskSaveChanges(Editor& editor) {
     if (!document.Modified)
         return false;
     const std::string question = document.HasFile
-                                     ? frame.text(Message::AskSaveExisting, {{"|1", document.rame.Name}})
-                                     : frame.text(Message::AskSaveNew);
+                                     ? frame.text(message::AskSaveExisting, {{"|1", document.rame.Name}})
+                                     : frame.text(message::AskSaveNew);
     const int given = frame.show(question, style::YesNo + style::Question);
     frame.state.LastAnswer = std::to_string(given);
     return given == answer::Yes;

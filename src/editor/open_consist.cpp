@@ -1,5 +1,6 @@
 #include "editor/consist_io.h"
 #include "editor/editor_parts.h"
+#include "editor/messages.h"
 #include "simfiles/consist_file.h"
 #include "simfiles/fault_text.h"
 #include "simfiles/stock_reader.h"
@@ -176,14 +177,14 @@ Finding notOpened(Frame& frame, std::string_view path, const ReadAnswer& answer)
     const bool unread = answer.outcome == ReadOutcome::TooLarge || answer.outcome == ReadOutcome::NoMemory ||
                         answer.outcome == ReadOutcome::Unreadable;
     if (unread)
-        return aboutFile(frame.files, path, Message::ConsistUnread, faultText(frame.language, answer));
+        return aboutFile(frame.files, path, message::ConsistUnread, faultText(frame.language, answer));
     return aboutFile(frame.files, path,
-                     frame.files.fileExists(path) ? Message::NotAConsist : Message::OpenFailed);
+                     frame.files.fileExists(path) ? message::NotAConsist : message::OpenFailed);
 }
 
 Finding openedFaulty(Frame& frame, std::string_view path, const ReadAnswer& answer) {
     const Message message =
-        answer.flaw == Flaw::VehicleNameless ? Message::OpenedWithoutVehicle : Message::OpenedFaulty;
+        answer.flaw == Flaw::VehicleNameless ? message::OpenedWithoutVehicle : message::OpenedFaulty;
     return aboutFile(frame.files, path, message, faultText(frame.language, answer));
 }
 

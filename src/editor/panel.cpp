@@ -1,6 +1,7 @@
 #include "editor/coupling.h"
 
 #include "editor/editor_parts.h"
+#include "editor/messages.h"
 
 #include <array>
 #include <optional>
@@ -17,14 +18,14 @@ struct BrakeRow {
 };
 
 constexpr std::array<BrakeRow, 8> Brakes{{
-    {"air_single_pipe", Message::BrakeAirSinglePipe, ""},
-    {"air_twin_pipe", Message::BrakeAirTwinPipe, ""},
-    {"vacuum_single_pipe", Message::BrakeVacuumSinglePipe, ""},
-    {"vacuum_twin_pipe", Message::BrakeVacuumTwinPipe, ""},
+    {"air_single_pipe", message::BrakeAirSinglePipe, ""},
+    {"air_twin_pipe", message::BrakeAirTwinPipe, ""},
+    {"vacuum_single_pipe", message::BrakeVacuumSinglePipe, ""},
+    {"vacuum_twin_pipe", message::BrakeVacuumTwinPipe, ""},
     {"ep", std::nullopt, "EP"},
     {"ecp", std::nullopt, "ECP"},
-    {"air_piped", Message::BrakeAirPiped, ""},
-    {"vacuum_piped", Message::BrakeVacuumPiped, ""},
+    {"air_piped", message::BrakeAirPiped, ""},
+    {"vacuum_piped", message::BrakeVacuumPiped, ""},
 }};
 
 struct CouplingRow {
@@ -33,16 +34,16 @@ struct CouplingRow {
 };
 
 constexpr std::array<CouplingRow, 4> Couplings{{
-    {"automatic", Message::CouplingAutomatic},
-    {"bar", Message::CouplingBar},
-    {"chain", Message::CouplingChain},
-    {"hydraulic", Message::CouplingHydraulic},
+    {"automatic", message::CouplingAutomatic},
+    {"bar", message::CouplingBar},
+    {"chain", message::CouplingChain},
+    {"hydraulic", message::CouplingHydraulic},
 }};
 
 std::string brakesText(const Frame& frame, std::string_view system) {
     for (const BrakeRow& row : Brakes)
         if (equalIgnoringCase(row.system, system))
-            return frame.text(Message::BrakeSystem) + " " +
+            return frame.text(message::BrakeSystem) + " " +
                    (row.message ? frame.text(*row.message) : std::string(row.text));
     return {};
 }
@@ -78,7 +79,7 @@ std::string couplingText(const Frame& frame, const Materiel& materiel) {
     if (isPair && CouplingImageName(materiel.Coupling).empty())
         return {};
     const std::string names = couplingNames(frame, materiel);
-    return names.empty() ? names : frame.text(Message::Coupling) + " " + names;
+    return names.empty() ? names : frame.text(message::Coupling) + " " + names;
 }
 
 std::string figureLine(const Frame& frame, Message message, std::string_view value) {
@@ -106,9 +107,9 @@ MaterielInfo ShowMaterielInfo(const Frame& frame, const Materiel& materiel) {
     info.brakes = brakesText(frame, materiel.BrakeSystem);
     info.coupling = couplingText(frame, materiel);
     if (!materiel.Size.empty())
-        info.length = figureLine(frame, Message::Length, lastToken(materiel.Size));
+        info.length = figureLine(frame, message::Length, lastToken(materiel.Size));
     if (!materiel.Mass.empty())
-        info.mass = figureLine(frame, Message::Mass, materiel.Mass);
+        info.mass = figureLine(frame, message::Mass, materiel.Mass);
     return info;
 }
 

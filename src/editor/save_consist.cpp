@@ -1,6 +1,7 @@
 #include "editor/consist_io.h"
 #include "editor/consist_summaries.h"
 #include "editor/editor_parts.h"
+#include "editor/messages.h"
 #include "simfiles/consist_file.h"
 
 #include <algorithm>
@@ -34,7 +35,7 @@ struct NameCheck {
 };
 
 NameCheck nameTaken(const std::string& file) {
-    return {std::nullopt, {{.message = Message::NameTaken, .params = {{"|1", file}}}}};
+    return {std::nullopt, {{.message = message::NameTaken, .params = {{"|1", file}}}}};
 }
 
 bool isListed(const Catalogue& catalogue, std::string_view file) {
@@ -87,9 +88,9 @@ NameCheck namesOfNew(const Editor& editor) {
 NameCheck checkNames(const Editor& editor) {
     const EditorControls& controls = editor.document.controls;
     if (trim(controls.shortName).empty())
-        return {std::nullopt, {{.message = Message::ShortNameEmpty}}};
+        return {std::nullopt, {{.message = message::ShortNameEmpty}}};
     if (trim(controls.fullName).empty())
-        return {std::nullopt, {{.message = Message::FullNameEmpty}}};
+        return {std::nullopt, {{.message = message::FullNameEmpty}}};
     return editor.document.HasFile ? namesWithFile(editor) : namesOfNew(editor);
 }
 
@@ -177,7 +178,7 @@ bool mayReplaceFaulty(Editor& editor, const std::string& file) {
     if (!document.faultyFile || !equalIgnoringCase(file, document.rame.FileName))
         return true;
     const std::string question =
-        frame.text(Message::AskSaveFaulty, {{"|1", document.rame.Name}, {"|2", LineBreak}});
+        frame.text(message::AskSaveFaulty, {{"|1", document.rame.Name}, {"|2", LineBreak}});
     return frame.show(question, style::YesNo + style::Exclamation) == answer::Yes;
 }
 
@@ -219,7 +220,7 @@ bool mayReplaceUnkept(Editor& editor, const Backup& backup) {
     Frame& frame = editor.frame;
     const std::string folder = frame.files.nativePath(backup.folder);
     const std::string question = frame.text(
-        Message::AskNoBackup, {{"|1", editor.document.rame.Name}, {"|2", folder}, {"|3", LineBreak}});
+        message::AskNoBackup, {{"|1", editor.document.rame.Name}, {"|2", folder}, {"|3", LineBreak}});
     return frame.show(question, style::YesNo + style::Exclamation + style::SecondButton) == answer::Yes;
 }
 
@@ -240,7 +241,7 @@ Findings unwritableStock(Editor& editor, const Rame& rame, const VehicleList& li
         return {};
     const StockPair& stock = list.stock[*lost];
     const std::string name = stock.Folder + "\\" + stock.FileName;
-    return {{.message = Message::StockUnwritable, .params = {{"|1", name}, {"|2", std::string(LineBreak)}}}};
+    return {{.message = message::StockUnwritable, .params = {{"|1", name}, {"|2", std::string(LineBreak)}}}};
 }
 
 ConsistSummary summaryOf(const Editor& editor, const Rame& rame, const VehicleList& list) {
@@ -275,18 +276,18 @@ void listSavedFile(Catalogue& catalogue, ConsistSummary saved) {
 }
 
 Finding savedReport(FileSystem& files, const std::string& path, const Backup& backup, bool missingStock) {
-    Finding report{.message = Message::ConsistSaved, .style = style::Information, .file = path};
+    Finding report{.message = message::ConsistSaved, .style = style::Information, .file = path};
     if (!backup.path.empty())
         report.additions.push_back(
-            {.message = Message::BackupKept,
+            {.message = message::BackupKept,
              .params = {{"|1", std::string(LineBreak)}, {"|2", files.nativePath(backup.path)}}});
     if (missingStock)
-        report.additions.push_back({.message = Message::StockMissing, .before = std::string(LineBreak)});
+        report.additions.push_back({.message = message::StockMissing, .before = std::string(LineBreak)});
     return report;
 }
 
 Finding failureReport(FileSystem& files, const std::string& path) {
-    return {.message = Message::SaveFailed,
+    return {.message = message::SaveFailed,
             .params = {{"|1", files.nativePath(path)}, {"|2", std::string(LineBreak)}},
             .file = path};
 }

@@ -2,6 +2,7 @@
 
 #include "editor/coupling.h"
 #include "editor/editor_parts.h"
+#include "editor/messages.h"
 #include "editor/strip_scroll.h"
 
 #include <algorithm>
@@ -132,7 +133,7 @@ class StripDrawing {
     void printTexts(const Vehicule& vehicule, const StripRect& area) {
         const int half = texts_.height() / 2;
         if (vehicule.Missing)
-            print(editor_.frame.text(Message::VehicleMissing), vehicule, area.left, area.height / 4 - half,
+            print(editor_.frame.text(message::VehicleMissing), vehicule, area.left, area.height / 4 - half,
                   Red);
         print(std::to_string(vehicule.Number), vehicule, area.left, 0, Red);
         if (!editor_.frame.state.PrintName)

@@ -1,4 +1,5 @@
 #include "editor/editor_parts.h"
+#include "editor/messages.h"
 
 #include <algorithm>
 
@@ -76,9 +77,9 @@ std::string totalsText(const Editor& editor, std::string_view mark) {
     const auto figure = [mark](double value) { return withDecimalMark(cutFigure(value), mark); };
     std::string text;
     if (length > 0)
-        text = editor.frame.text(Message::TotalLength, {{"|1", figure(length)}});
+        text = editor.frame.text(message::TotalLength, {{"|1", figure(length)}});
     if (mass > 0)
-        text = editor.frame.text(Message::TotalMass, {{"|1", text}, {"|2", figure(mass)}});
+        text = editor.frame.text(message::TotalMass, {{"|1", text}, {"|2", figure(mass)}});
     return text;
 }
 
@@ -90,7 +91,7 @@ void updateResistance(Editor& editor) {
     EditorControls& controls = editor.document.controls;
     const double value = controls.durability / 1000.0 * 29.4;
     const std::string figure = withDecimalMark(figureText(value), decimalMark(editor.frame.language));
-    controls.resistance = editor.frame.text(Message::Resistance, {{"|1", figure}});
+    controls.resistance = editor.frame.text(message::Resistance, {{"|1", figure}});
 }
 
 } // namespace zandor

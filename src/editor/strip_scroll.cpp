@@ -1,6 +1,7 @@
 #include "editor/strip_scroll.h"
 
 #include "editor/editor_parts.h"
+#include "editor/messages.h"
 
 #include <algorithm>
 
@@ -39,7 +40,7 @@ bool endIsHidden(const ConsistDocument& document, const StripScroll& scroll) {
 
 Finding endHidden(const ConsistDocument& document, const StripScroll& scroll) {
     const int seen = stripPictureWidth(document, scroll.viewWidth);
-    return {.message = Message::StripTooLong,
+    return {.message = message::StripTooLong,
             .style = style::Information,
             .params = {{"|1", std::to_string(seen)}}};
 }

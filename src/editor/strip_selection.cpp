@@ -1,6 +1,7 @@
 #include "editor/strip_selection.h"
 
 #include "editor/editor_parts.h"
+#include "editor/messages.h"
 
 #include <algorithm>
 
@@ -10,8 +11,8 @@ namespace {
 
 Message statusOf(const Vehicule& vehicule) {
     if (vehicule.Missing)
-        return Message::StatusVehicleMissing;
-    return vehicule.Flipped ? Message::StatusVehicleFlipped : Message::StatusVehicle;
+        return message::StatusVehicleMissing;
+    return vehicule.Flipped ? message::StatusVehicleFlipped : message::StatusVehicle;
 }
 
 } // namespace
@@ -73,7 +74,7 @@ std::optional<int> lookUpSelected(const ConsistDocument& document) {
 std::string describeSelected(const Editor& editor) {
     const ConsistDocument& document = editor.document;
     if (!hasSelection(document))
-        return editor.frame.text(Message::StatusNoVehicle);
+        return editor.frame.text(message::StatusNoVehicle);
     const Vehicule& vehicule = document.Vehicules[static_cast<std::size_t>(document.selected)];
     return editor.frame.text(statusOf(vehicule), {{"|1", std::to_string(document.selected + 1)},
                                                   {"|2", std::to_string(vehicleCount(document))},

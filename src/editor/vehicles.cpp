@@ -1,3 +1,4 @@
+#include "catalogue/messages.h"
 #include "editor/coupling.h"
 #include "editor/editor_parts.h"
 
@@ -193,7 +194,7 @@ void flipVehiculeAt(Editor& editor, int position) {
 Finding stripFull(const ConsistDocument& document) {
     const std::string& name =
         document.rame.FileName.empty() ? document.controls.shortName : document.rame.FileName;
-    return {.message = Message::TooManyFiles, .params = {{"|1", name}, {"|2", std::to_string(MaxEntries)}}};
+    return {.message = message::TooManyFiles, .params = {{"|1", name}, {"|2", std::to_string(MaxEntries)}}};
 }
 
 } // namespace zandor

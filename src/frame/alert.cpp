@@ -1,6 +1,7 @@
 #include "frame/alert.h"
 
 #include "frame/dialogs.h"
+#include "frame/messages.h"
 
 #include <algorithm>
 #include <iterator>
@@ -38,13 +39,13 @@ struct CaptionRow {
     const char* fixed;
 };
 constexpr CaptionRow Captions[] = {
-    {answer::Ok, Message::ButtonOk, "&OK"},
-    {answer::Cancel, Message::Cancel, "Annuler"},
-    {answer::Abort, Message::ButtonAbort, "&Abandonner"},
-    {answer::Retry, Message::ButtonRetry, "&Répéter"},
-    {answer::Ignore, Message::ButtonIgnore, "&Ignorer"},
-    {answer::Yes, Message::Yes, "Oui"},
-    {answer::No, Message::No, "Non"},
+    {answer::Ok, message::ButtonOk, "&OK"},
+    {answer::Cancel, message::Cancel, "Annuler"},
+    {answer::Abort, message::ButtonAbort, "&Abandonner"},
+    {answer::Retry, message::ButtonRetry, "&Répéter"},
+    {answer::Ignore, message::ButtonIgnore, "&Ignorer"},
+    {answer::Yes, message::Yes, "Oui"},
+    {answer::No, message::No, "Non"},
 };
 
 // Takes the first of the values that the rest holds off it; 0 when it holds none.
@@ -123,7 +124,7 @@ AlertCaptions alertCaptions(const Language& language, const Alert& alert) {
     for (std::string& text : captions.buttons)
         all.push_back(&text);
     if (alert.help) {
-        captions.help = textOr(language, Message::HelpButton, "Aide");
+        captions.help = textOr(language, message::HelpButton, "Aide");
         all.push_back(&captions.help);
     }
     makeMnemonicsUnique(all);

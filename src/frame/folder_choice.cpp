@@ -1,5 +1,6 @@
 #include "frame/folder_choice.h"
 
+#include "frame/messages.h"
 #include "frame/startup.h"
 #include "platform/sim_path.h"
 #include "text/text.h"
@@ -67,7 +68,7 @@ FolderChoice chooseRootFolder(Frame& frame) {
     AppState& state = frame.state;
     const std::string& current = editedRoot(state);
     const bool none = current.empty();
-    return {state.EditingMstsPath ? Message::FindSimulator : Message::FindTrainStore,
+    return {state.EditingMstsPath ? message::FindSimulator : message::FindTrainStore,
             existingOr(frame, none ? state.ProgramFilesDir : current, state.ProgramFolder), none};
 }
 
@@ -78,7 +79,7 @@ FolderChoice chooseBackupFolder(Frame& frame) {
         folder = state.ProgramFolder + "\\Backup";
         frame.files.createFolder(folder);
     }
-    return {Message::ChooseBackupFolder, existingOr(frame, folder, state.ProgramFolder), false};
+    return {message::ChooseBackupFolder, existingOr(frame, folder, state.ProgramFolder), false};
 }
 
 void acceptRootFolder(AppState& state, std::string_view path) {

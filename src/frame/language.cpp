@@ -1,5 +1,6 @@
 #include "frame/language.h"
 
+#include "frame/messages.h"
 #include "text/text.h"
 
 namespace zandor {
@@ -21,7 +22,7 @@ std::string Language::GetLangText(Message id, std::span<const TextParam> params)
     if (state_.Language.empty() || state_.LanguagePath.empty())
         return {};
     std::string text =
-        profiles_.ReadIniValue(state_.Language, std::to_string(static_cast<int>(id)), state_.LanguagePath);
+        profiles_.ReadIniValue(state_.Language, std::to_string(id.number), state_.LanguagePath);
     for (const TextParam& param : params)
         substitute(text, param);
     return text;
@@ -42,7 +43,7 @@ std::vector<LanguageChoice> Language::ListLanguages() const {
 }
 
 std::string decimalMark(const Language& language) {
-    const std::string mark = language.GetLangText(Message::DecimalMark);
+    const std::string mark = language.GetLangText(message::DecimalMark);
     return mark.empty() ? "." : mark;
 }
 

@@ -1,8 +1,8 @@
-// Every text that the user sees comes by number from Langues.lng. See messages.h for the numbers.
+// Every text that the user sees comes by number from Langues.lng. See message.h for the numbers.
 #pragma once
 
 #include "frame/app_state.h"
-#include "frame/messages.h"
+#include "frame/message.h"
 #include "frame/settings.h"
 
 #include <initializer_list>

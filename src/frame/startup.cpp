@@ -1,5 +1,6 @@
 #include "frame/startup.h"
 
+#include "frame/messages.h"
 #include "frame/version.h"
 #include "text/decode.h"
 #include "text/lines.h"
@@ -123,7 +124,7 @@ std::string folderSetting(const Frame& frame, std::string_view key) {
 // The folder of the train.exe that the user shows; empty when the user cancelled.
 std::string askForSimulator(Frame& frame) {
     const auto chosen = frame.dialogs.askOpenFile(
-        frame.text(Message::FindSimulator), frame.text(Message::ExecutableFilter, {{"|1", "(*.exe)|*.exe"}}),
+        frame.text(message::FindSimulator), frame.text(message::ExecutableFilter, {{"|1", "(*.exe)|*.exe"}}),
         frame.state.ProgramFilesDir, "train.exe");
     if (!chosen)
         return {};
@@ -184,7 +185,7 @@ void tellSettingsTooLarge(Frame& frame) {
     if (!isProfileTooLarge(frame.files, path))
         return;
     const std::string native = frame.files.nativePath(path), size = megabytesOf(frame.files, path);
-    frame.show(frame.text(Message::SettingsTooLarge, {{"|1", native}, {"|2", "\n"}, {"|3", size}}),
+    frame.show(frame.text(message::SettingsTooLarge, {{"|1", native}, {"|2", "\n"}, {"|3", size}}),
                style::Exclamation);
 }
 
@@ -210,7 +211,7 @@ void offerKnownLanguage(Frame& frame) {
         return;
     const std::string gone = std::exchange(frame.state.Language, *instead);
     const std::string question =
-        frame.text(Message::LanguageGone, {{"|1", gone}, {"|2", "\n"}, {"|3", *instead}});
+        frame.text(message::LanguageGone, {{"|1", gone}, {"|2", "\n"}, {"|3", *instead}});
     if (frame.show(question, style::YesNo + style::Question) != answer::Yes)
         frame.state.Language = gone;
 }
@@ -251,7 +252,7 @@ bool findRoots(Frame& frame) {
     if (state.roots.RootMSTS.empty())
         state.roots.RootMSTS = askForSimulator(frame);
     if (state.roots.RootMSTS.empty()) {
-        frame.show(frame.text(Message::SimulatorNotFound, {{"|1", SimulatorName}, {"|2", "\n"}}),
+        frame.show(frame.text(message::SimulatorNotFound, {{"|1", SimulatorName}, {"|2", "\n"}}),
                    style::Exclamation);
         return false;
     }

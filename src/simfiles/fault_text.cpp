@@ -1,5 +1,6 @@
 #include "simfiles/fault_text.h"
 
+#include "simfiles/messages.h"
 #include "simfiles/sim_file.h"
 
 namespace zandor {
@@ -15,17 +16,17 @@ std::string flawText(const Language& language, const ReadAnswer& answer) {
     case Flaw::None:
         return {};
     case Flaw::BracketOpenMissing:
-        return ofLine(Message::BracketOpenMissing);
+        return ofLine(message::BracketOpenMissing);
     case Flaw::BracketCloseMissing:
-        return ofLine(Message::BracketCloseMissing);
+        return ofLine(message::BracketCloseMissing);
     case Flaw::VehicleMisplaced:
-        return ofLine(Message::VehicleMisplaced);
+        return ofLine(message::VehicleMisplaced);
     case Flaw::VehicleNameless:
-        return ofLine(Message::VehicleNameless);
+        return ofLine(message::VehicleNameless);
     case Flaw::StockKeyMissing:
         break;
     }
-    return language.GetLangText(Message::MissingStockKey,
+    return language.GetLangText(message::MissingStockKey,
                                 {{"|1", "\r\n"}, {"|2", answer.text}, {"|3", "\r\n"}});
 }
 
@@ -34,12 +35,12 @@ std::string flawText(const Language& language, const ReadAnswer& answer) {
 std::string faultText(const Language& language, const ReadAnswer& answer) {
     switch (answer.outcome) {
     case ReadOutcome::Unreadable:
-        return language.GetLangText(Message::FileUnreadable);
+        return language.GetLangText(message::FileUnreadable);
     case ReadOutcome::NoMemory:
-        return language.GetLangText(Message::NoMemoryForFile);
+        return language.GetLangText(message::NoMemoryForFile);
     case ReadOutcome::TooLarge: {
         const std::string size = megabytesOf(answer.size), most = megabytesOf(LargestSimFile);
-        return language.GetLangText(Message::FileTooLarge, {{"|1", size}, {"|2", most}});
+        return language.GetLangText(message::FileTooLarge, {{"|1", size}, {"|2", most}});
     }
     default:
         return flawText(language, answer);

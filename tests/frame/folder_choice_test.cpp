@@ -1,5 +1,6 @@
 // What the folder windows offer and keep.
 #include "frame/folder_choice.h"
+#include "frame/messages.h"
 #include "support/fakes.h"
 
 #include <gtest/gtest.h>
@@ -38,7 +39,7 @@ TEST(FolderChoice, BeginsAtTheFolderInUseOrTheNearestSensibleOne) {
         const FolderChoice choice = chooseRootFolder(test.frame);
         EXPECT_EQ(choice.start, c.start);
         EXPECT_EQ(choice.mayAcceptAtOnce, c.acceptable) << c.root;
-        EXPECT_EQ(choice.title, c.simulator ? Message::FindSimulator : Message::FindTrainStore);
+        EXPECT_EQ(choice.title, c.simulator ? message::FindSimulator : message::FindTrainStore);
     }
 }
 

@@ -1,6 +1,8 @@
 // The language file that ships, held against the constants and against the places that use them.
 #include "frame/language.h"
 
+#include "editor/messages.h"
+#include "frame/messages.h"
 #include "support/fakes.h"
 #include "text/lines.h"
 #include "text/text.h"
@@ -9,7 +11,9 @@
 
 #include <algorithm>
 #include <cctype>
+#include <filesystem>
 #include <map>
+#include <regex>
 #include <set>
 #include <vector>
 
@@ -26,16 +30,15 @@ struct LanguageFile : ::testing::Test, TestFrame {
     }
 };
 
-// The rows "Name = number," of the header.
+// The rows "inline constexpr Message Name{number};" of every room.
 std::multimap<std::string, int> constants() {
+    const std::regex row("constexpr Message\\s+(\\w+)\\{\\s*(\\d+)\\}");
     std::multimap<std::string, int> rows;
-    const std::string source = readSourceFile("src/frame/messages.h");
-    forEachLine(source, [&](std::string_view line) {
-        line = trim(line.substr(0, line.find("//")));
-        const std::size_t sign = line.find(" = ");
-        if (sign != std::string_view::npos && line.ends_with(','))
-            rows.emplace(line.substr(0, sign), numericInt16(line.substr(sign + 3)));
-    });
+    for (const auto& room : std::filesystem::directory_iterator(ZANDOR_SOURCE_DIR "/src")) {
+        const std::string source = readSourceFile("src/" + room.path().filename().string() + "/messages.h");
+        for (std::sregex_iterator at(source.begin(), source.end(), row), end; at != end; ++at)
+            rows.emplace((*at)[1], numericInt16((*at)[2].str()));
+    }
     return rows;
 }
 
@@ -125,14 +128,14 @@ TEST_F(LanguageFile, EveryTextIsReadAsItStands) {
 TEST_F(LanguageFile, TheWordBetweenEnginesAndWagonsKeepsItsBlanks) {
     const std::string blank = "\u00A0";
     for (const LanguageChoice& language : frame.language.ListLanguages()) {
-        const std::string joint = textIn(language.name, Message::CompositionJoint);
+        const std::string joint = textIn(language.name, message::CompositionJoint);
         EXPECT_TRUE(joint.starts_with(blank) && joint.ends_with(blank)) << language.name;
     }
 }
 
 // ---- the letters that reach a button
 
-constexpr Message MarkedByTheWindow = Message::Cancel;
+constexpr Message MarkedByTheWindow = message::Cancel;
 
 // Empty when the text has no letter that reaches it.
 std::string letterOf(const std::string& text, Message id) {
@@ -149,14 +152,14 @@ struct Window {
 
 const Window Windows[] = {
     {"main window",
-     {Message::CaptionNew, Message::CaptionOpen, Message::CaptionSave, Message::CaptionDelete,
-      Message::CaptionOptions, Message::CaptionHelp, Message::CaptionAbout, Message::CaptionQuit,
-      Message::CaptionNumber, Message::CaptionShortName, Message::CaptionFullName, Message::CaptionDurability,
-      Message::CaptionStockClass, Message::CaptionVehicle}},
-    {"open a consist", {Message::OpenVerb, Message::Cancel}},
+     {message::CaptionNew, message::CaptionOpen, message::CaptionSave, message::CaptionDelete,
+      message::CaptionOptions, message::CaptionHelp, message::CaptionAbout, message::CaptionQuit,
+      message::CaptionNumber, message::CaptionShortName, message::CaptionFullName, message::CaptionDurability,
+      message::CaptionStockClass, message::CaptionVehicle}},
+    {"open a consist", {message::OpenVerb, message::Cancel}},
     {"menu of the strip",
-     {Message::MenuInsertEnd, Message::MenuInsertBefore, Message::MenuMoveLeft, Message::MenuMoveRight,
-      Message::MenuFlip, Message::MenuRemove, Message::MenuFindInList, Message::MenuRenumber}},
+     {message::MenuInsertEnd, message::MenuInsertBefore, message::MenuMoveLeft, message::MenuMoveRight,
+      message::MenuFlip, message::MenuRemove, message::MenuFindInList, message::MenuRenumber}},
 };
 
 TEST_F(LanguageFile, NoLetterReachesTwoThingsOfAWindow) {

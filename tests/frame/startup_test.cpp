@@ -1,5 +1,6 @@
 #include "frame/startup.h"
 
+#include "frame/messages.h"
 #include "support/fakes.h"
 #include "text/decode.h"
 
@@ -262,7 +263,7 @@ TEST_F(StartUp, TheUserShowsTheSimulator) {
         EXPECT_EQ(state.roots.RootMSTS, root);
     }
     const FakeDialogs::Asked& asked = dialogs.asked.front();
-    EXPECT_EQ(asked.title, frame.text(Message::FindSimulator));
+    EXPECT_EQ(asked.title, frame.text(message::FindSimulator));
     EXPECT_TRUE(asked.filter.ends_with("(*.exe)|*.exe")) << asked.filter;
     EXPECT_EQ(asked.folder, "C:\\Program Files");
     EXPECT_EQ(asked.proposedName, "train.exe");

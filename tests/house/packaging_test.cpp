@@ -1,5 +1,6 @@
 // What is installed with the programs says the same as they do.
 #include "cli/command_line.h"
+#include "frame/messages.h"
 #include "support/fakes.h"
 
 #include <gtest/gtest.h>
@@ -22,7 +23,7 @@ TEST(Packaging, TheKindOfFileIsNamedInEveryLanguage) {
     const std::string file = packagingFile("mime-names.txt");
     for (const LanguageChoice& choice : test.frame.language.ListLanguages()) {
         test.state.Language = choice.name;
-        const std::string name = test.frame.text(Message::FileTypeName);
+        const std::string name = test.frame.text(message::FileTypeName);
         EXPECT_NE(file.find(">" + name + "</comment>"), std::string::npos) << choice.name << ": " << name;
     }
 }

@@ -1,4 +1,5 @@
 // The main window by the keyboard alone, its menus, and what comes from outside.
+#include "catalogue/messages.h"
 #include "windows/window_fixture.h"
 
 #include <QAction>
@@ -148,7 +149,7 @@ TEST_F(KeyboardTest, AnotherLanguageIsShownAtOnceAndKept) {
     const QString before = get<QPushButton>("cmdNEW").text();
     window->chooseLanguage("English");
     EXPECT_NE(get<QPushButton>("cmdNEW").text(), before);
-    EXPECT_EQ(get<QComboBox>("cmbMATERIEL").itemText(1).toStdString(), test.frame.text(Message::ClassDiesel));
+    EXPECT_EQ(get<QComboBox>("cmbMATERIEL").itemText(1).toStdString(), test.frame.text(message::ClassDiesel));
     EXPECT_EQ(vehicles().size(), 1u);
     const auto entries = window->findChild<QMenu*>("mnuLANGUAGE")->actions();
     ASSERT_EQ(entries.size(), 6);

@@ -1,6 +1,7 @@
 #include "editor/windows/open_window.h"
 
 #include "editor/consist_io.h"
+#include "editor/messages.h"
 #include "support/fakes.h"
 #include "text/decode.h"
 
@@ -111,7 +112,7 @@ class OpenWindowTest : public ::testing::Test, protected TestFrame {
 TEST_F(OpenWindowTest, TheListTellsEverythingOfEachConsist) {
     show();
     EXPECT_EQ(window->objectName(), "frmOpen");
-    EXPECT_EQ(window->windowTitle().toStdString(), frame.text(Message::OpenTitle, {{"|1", state.Title}}));
+    EXPECT_EQ(window->windowTitle().toStdString(), frame.text(message::OpenTitle, {{"|1", state.Title}}));
     EXPECT_EQ(listed(), (Names{"aquilon", "Le Mistral", "Zéphyr", "Ancien train"}));
     EXPECT_EQ(text(0, 1), "2 motrices");
     EXPECT_EQ(text(0, 2), "aquilon.con");
@@ -125,9 +126,9 @@ TEST_F(OpenWindowTest, TheListTellsEverythingOfEachConsist) {
     const auto tip = [this](int row) {
         return list().model()->index(row, 0).data(Qt::ToolTipRole).toString().toStdString();
     };
-    EXPECT_NE(tip(1).find(frame.text(Message::TipUsedByService)), std::string::npos);
-    EXPECT_NE(tip(0).find(frame.text(Message::TipUsedByNoService)), std::string::npos);
-    EXPECT_NE(tip(3).find(frame.text(Message::TipIncomplete)), std::string::npos);
+    EXPECT_NE(tip(1).find(frame.text(message::TipUsedByService)), std::string::npos);
+    EXPECT_NE(tip(0).find(frame.text(message::TipUsedByNoService)), std::string::npos);
+    EXPECT_NE(tip(3).find(frame.text(message::TipIncomplete)), std::string::npos);
 }
 
 TEST_F(OpenWindowTest, ColoursAreThoseOfTheSettingsAndIncompleteConsistsBoldRed) {
@@ -190,7 +191,7 @@ TEST_F(OpenWindowTest, AConsistThatVanishedLeavesTheDialogAndTheStripAsTheyWere)
 TEST_F(OpenWindowTest, WithoutConsistsThereIsNothingToOpen) {
     catalogue.here().ConsistFiles.clear();
     show();
-    EXPECT_EQ(label(), frame.text(Message::OpenNone));
+    EXPECT_EQ(label(), frame.text(message::OpenNone));
     QTest::mouseClick(&get<QPushButton>("cmdOPEN"), Qt::LeftButton);
     QTest::keyClick(&list(), Qt::Key_Return);
     clickColumn(1);

@@ -1,6 +1,9 @@
 // zandor_shots FOLDER: opens every window on the demonstration tree and saves a picture of each, in French
 // and in English, to be looked at. The names end in the scale that QT_SCALE_FACTOR gives.
+#include "app/messages.h"
+#include "catalogue/messages.h"
 #include "editor/consist_io.h"
+#include "editor/messages.h"
 #include "editor/windows/open_window.h"
 #include "editor/windows/principal.h"
 #include "frame/alert.h"
@@ -98,12 +101,12 @@ class Shots {
     void takeFrameWindows() {
         const Frame& frame = test_.frame;
         frmSplash splash(toQt(test_.state.Title),
-                         toQt(frame.text(Message::SplashText,
+                         toQt(frame.text(message::SplashText,
                                          {{"|1", "Copyright © Zandor - Microsoft Train Simulator"}})));
-        splash.showStep(0, 100, 60, toQt(frame.text(Message::ReadingConsists)));
+        splash.showStep(0, 100, 60, toQt(frame.text(message::ReadingConsists)));
         save(splash, "frmSplash");
         frmProgress progress(test_.frame);
-        progress.showStep(0, 100, 60, toQt(frame.text(Message::ListingEngines)));
+        progress.showStep(0, 100, 60, toQt(frame.text(message::ListingEngines)));
         save(progress, "frmProgress");
         frmAbout about(test_.frame);
         save(about, "frmAbout");
@@ -112,7 +115,7 @@ class Shots {
         save(question, "frmQuestion");
         frmConfirmation confirmation(test_.frame, "Orme_First.bmp");
         save(confirmation, "frmConfirmation");
-        frmLoading loading(toQt(frame.text(Message::OpeningConsist, {{"|1", "fell_mail.con"}})));
+        frmLoading loading(toQt(frame.text(message::OpeningConsist, {{"|1", "fell_mail.con"}})));
         save(loading, "frmLoading");
         frmHelp help(test_.state, frame.language);
         help.showPage(1001);
@@ -129,11 +132,11 @@ class Shots {
             std::string text;
         };
         const Case cases[] = {
-            {"frmAlert-yesno", style::YesNo + style::Question, frame.text(Message::AskSaveNew)},
-            {"frmAlert-misfit", style::Exclamation, frame.text(Message::CouplingsDoNotFit)},
+            {"frmAlert-yesno", style::YesNo + style::Question, frame.text(message::AskSaveNew)},
+            {"frmAlert-misfit", style::Exclamation, frame.text(message::CouplingsDoNotFit)},
             {"frmAlert-failed", style::Exclamation + 16384,
-             frame.text(Message::SaveFailed, {{"|1", path}, {"|2", "\n"}})},
-            {"frmAlert-three", style::AbortRetryIgnore + style::Stop, frame.text(Message::ShortNameEmpty)},
+             frame.text(message::SaveFailed, {{"|1", path}, {"|2", "\n"}})},
+            {"frmAlert-three", style::AbortRetryIgnore + style::Stop, frame.text(message::ShortNameEmpty)},
         };
         for (const Case& c : cases) {
             const Alert alert = decodeAlertStyle(c.style);

@@ -1,5 +1,6 @@
 #include "editor/windows/open_model.h"
 
+#include "editor/messages.h"
 #include "frame/windows/art.h"
 #include "frame/windows/qt_text.h"
 
@@ -13,17 +14,17 @@ namespace {
 constexpr QColor IncompleteColour{255, 0, 0};
 
 constexpr std::pair<const char*, Message> Columns[OpenModel::ColumnCount] = {
-    {"C_NAME", Message::ColumnFullName},
-    {"C_COMPO", Message::ColumnComposition},
-    {"C_FILE", Message::ColumnFile},
+    {"C_NAME", message::ColumnFullName},
+    {"C_COMPO", message::ColumnComposition},
+    {"C_FILE", message::ColumnFile},
 };
 
 } // namespace
 
 OpenModel::OpenModel(const Frame& frame, QObject* parent)
-    : RowModel(ColumnCount, parent), inServiceTip_(toQt(frame.text(Message::TipUsedByService))),
-      notInServiceTip_(toQt(frame.text(Message::TipUsedByNoService))),
-      incompleteTip_(toQt(frame.text(Message::TipIncomplete))), inServiceIcon_(artIcon(RouteMarkYes.data())),
+    : RowModel(ColumnCount, parent), inServiceTip_(toQt(frame.text(message::TipUsedByService))),
+      notInServiceTip_(toQt(frame.text(message::TipUsedByNoService))),
+      incompleteTip_(toQt(frame.text(message::TipIncomplete))), inServiceIcon_(artIcon(RouteMarkYes.data())),
       notInServiceIcon_(artIcon(RouteMarkNo.data())) {
     QStringList titles;
     for (const auto& [key, message] : Columns)

@@ -1,7 +1,10 @@
 #include "editor/windows/open_window.h"
 
+#include "catalogue/messages.h"
+#include "editor/messages.h"
 #include "editor/windows/open_model.h"
 #include "editor/windows/row_view.h"
+#include "frame/messages.h"
 #include "frame/windows/cursors.h"
 #include "frame/windows/elided_label.h"
 #include "frame/windows/help.h"
@@ -59,7 +62,7 @@ void frmOpen::buildList() {
     lsvCONSISTS_->setModel(sorted_);
     lsvCONSISTS_->setIconSize({16, 16});
     lsvCONSISTS_->setMinimumHeight(90);
-    lsvCONSISTS_->setAccessibleName(toQt(frame_.text(Message::ConsistFilter)));
+    lsvCONSISTS_->setAccessibleName(toQt(frame_.text(message::ConsistFilter)));
 }
 
 void frmOpen::layOut() {
@@ -98,10 +101,10 @@ void frmOpen::connectAll() {
 }
 
 void frmOpen::applySettings() {
-    setWindowTitle(toQt(frame_.text(Message::OpenTitle, {{"|1", frame_.state.Title}})));
-    cmdOPEN_->setText(textOr(frame_, Message::OpenVerb, "&Ouvrir"));
-    cmdCANCEL_->setText(textOr(frame_, Message::Cancel, "Annuler"));
-    Label1_->setText(toQt(frame_.text(Message::ReadingStock)));
+    setWindowTitle(toQt(frame_.text(message::OpenTitle, {{"|1", frame_.state.Title}})));
+    cmdOPEN_->setText(textOr(frame_, message::OpenVerb, "&Ouvrir"));
+    cmdCANCEL_->setText(textOr(frame_, message::Cancel, "Annuler"));
+    Label1_->setText(toQt(frame_.text(message::ReadingStock)));
     ProgressBar1_->setAccessibleName(Label1_->text());
 
     const QColor background = readColour(frame_, "Color1"), text = readColour(frame_, "Color2");
@@ -172,7 +175,7 @@ void frmOpen::showList() {
     if (any)
         lsvCONSISTS_->setCurrentIndex(sorted_->index(0, 0));
     else
-        Label1_->setText(toQt(frame_.text(Message::OpenNone)));
+        Label1_->setText(toQt(frame_.text(message::OpenNone)));
 }
 
 // The names get what is left; as soon as the user has sized a column, all stay.
@@ -193,7 +196,7 @@ void frmOpen::sizeColumns() {
 void frmOpen::showCounts() {
     const std::string all = std::to_string(model_->rowCount());
     const std::string incomplete = std::to_string(model_->incompleteCount());
-    const Message message = incomplete == "0" ? Message::OpenCount : Message::OpenCountIncomplete;
+    const Message message = incomplete == "0" ? message::OpenCount : message::OpenCountIncomplete;
     lblCOUNT_->setText(toQt(frame_.text(message, {{"|1", all}, {"|2", incomplete}})));
 }
 
@@ -206,7 +209,7 @@ const ConsistSummary* frmOpen::selected() const {
 void frmOpen::showSelected() {
     if (const ConsistSummary* consist = selected())
         Label1_->setText(toQt(
-            frame_.text(Message::ConsistSelected, {{"|1", consist->FullName}, {"|2", consist->FileName}})));
+            frame_.text(message::ConsistSelected, {{"|1", consist->FullName}, {"|2", consist->FileName}})));
 }
 
 void frmOpen::sortBy(int column) {

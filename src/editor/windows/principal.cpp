@@ -3,6 +3,7 @@
 #include "catalogue/stock_list.h"
 #include "editor/consist_io.h"
 #include "editor/coupling.h"
+#include "editor/messages.h"
 #include "editor/strip_selection.h"
 #include "editor/windows/open_window.h"
 #include "editor/windows/picture_store.h"
@@ -281,7 +282,7 @@ void frmPrincipal::openPressed() {
 
 bool frmPrincipal::openFile(const std::string& path) {
     const BusyPointer busy;
-    const frmLoading loading(toQt(editor_.frame.text(Message::OpeningConsist, {{"|1", GetFileName(path)}})),
+    const frmLoading loading(toQt(editor_.frame.text(message::OpeningConsist, {{"|1", GetFileName(path)}})),
                              parentOfDialogs());
     const std::size_t known = editor_.catalogue.here().Materiels.size();
     const Outcome outcome = openConsist(editor_, path);
@@ -419,9 +420,9 @@ QString frmPrincipal::describeStock(int stock, int column) const {
         return toQt(column == StockModel::BrakeColumn ? info.brakes : info.coupling);
     }
     QStringList lines{toQt(shownName(*materiel)),
-                      toQt(frame.text(materiel->CabView.empty() ? Message::TipNoCab : Message::TipCab))};
+                      toQt(frame.text(materiel->CabView.empty() ? message::TipNoCab : message::TipCab))};
     if (isShownUnused(frame.state, editor_.catalogue, materiel->Folder, materiel->FileName))
-        lines.append(toQt(frame.text(Message::TipUnusedStock)));
+        lines.append(toQt(frame.text(message::TipUnusedStock)));
     return lines.join(u'\n');
 }
 
@@ -465,7 +466,7 @@ void frmPrincipal::showInfo(const MaterielInfo& info) {
         info.unreadablePicture.empty()
             ? QString()
             : toQt(editor_.frame.text(
-                  Message::PictureUnreadable,
+                  message::PictureUnreadable,
                   {{"|1", editor_.frame.files.nativePath(info.unreadablePicture)}, {"|2", "\n"}})));
 }
 
@@ -493,7 +494,7 @@ void frmPrincipal::sayNotInList() {
     if (!hasSelection(document))
         return;
     const std::string& name = document.Vehicules[static_cast<std::size_t>(document.selected)].Name;
-    controls_.lblSTATUS->setText(toQt(editor_.frame.text(Message::VehicleNotInList, {{"|1", name}})));
+    controls_.lblSTATUS->setText(toQt(editor_.frame.text(message::VehicleNotInList, {{"|1", name}})));
 }
 
 // ---- what the document shows

@@ -1,6 +1,7 @@
 #include "editor/windows/principal_controls.h"
 
 #include "catalogue/stock_list.h"
+#include "editor/messages.h"
 #include "editor/windows/preview_view.h"
 #include "editor/windows/stock_view.h"
 #include "editor/windows/strip_view.h"
@@ -75,20 +76,20 @@ struct ButtonRow {
 };
 constexpr Message NoTip{0};
 constexpr ButtonRow Buttons[] = {
-    {&PrincipalControls::cmdNEW, "cmdNEW", Message::CaptionNew, "&Nouveau", Message::TipNew, "document-new"},
-    {&PrincipalControls::cmdOPEN, "cmdOPEN", Message::CaptionOpen, "&Ouvrir", Message::TipOpen,
+    {&PrincipalControls::cmdNEW, "cmdNEW", message::CaptionNew, "&Nouveau", message::TipNew, "document-new"},
+    {&PrincipalControls::cmdOPEN, "cmdOPEN", message::CaptionOpen, "&Ouvrir", message::TipOpen,
      "document-open"},
-    {&PrincipalControls::cmdSAVE, "cmdSAVE", Message::CaptionSave, "&Enregistrer", Message::TipSave,
+    {&PrincipalControls::cmdSAVE, "cmdSAVE", message::CaptionSave, "&Enregistrer", message::TipSave,
      "document-save"},
-    {&PrincipalControls::cmdDELETE, "cmdDELETE", Message::CaptionDelete, "&Supprimer", Message::TipDelete,
+    {&PrincipalControls::cmdDELETE, "cmdDELETE", message::CaptionDelete, "&Supprimer", message::TipDelete,
      "edit-delete"},
-    {&PrincipalControls::cmdNUMEROTATION, "cmdNUMEROTATION", Message::CaptionNumber, "N&uméroter",
-     Message::TipNumber, "view-sort-ascending"},
-    {&PrincipalControls::cmdOptions, "cmdOptions", Message::CaptionOptions, "Opt&ions", NoTip,
+    {&PrincipalControls::cmdNUMEROTATION, "cmdNUMEROTATION", message::CaptionNumber, "N&uméroter",
+     message::TipNumber, "view-sort-ascending"},
+    {&PrincipalControls::cmdOptions, "cmdOptions", message::CaptionOptions, "Opt&ions", NoTip,
      "preferences-system"},
-    {&PrincipalControls::cmdHELP, "cmdHELP", Message::CaptionHelp, "&Aide", NoTip, "help-contents"},
-    {&PrincipalControls::cmdPROPOS, "cmdPROPOS", Message::CaptionAbout, "A &propos", NoTip, "help-about"},
-    {&PrincipalControls::cmdCANCEL, "cmdCANCEL", Message::CaptionQuit, "&Quitter", NoTip, "application-exit"},
+    {&PrincipalControls::cmdHELP, "cmdHELP", message::CaptionHelp, "&Aide", NoTip, "help-contents"},
+    {&PrincipalControls::cmdPROPOS, "cmdPROPOS", message::CaptionAbout, "A &propos", NoTip, "help-about"},
+    {&PrincipalControls::cmdCANCEL, "cmdCANCEL", message::CaptionQuit, "&Quitter", NoTip, "application-exit"},
 };
 
 QLayout* buildButtons(QWidget& window, PrincipalControls& c) {
@@ -252,10 +253,10 @@ struct LabelRow {
     const char* french;
 };
 constexpr LabelRow Labels[] = {
-    {&PrincipalControls::lblNAME, Message::CaptionShortName, "Nom &court"},
-    {&PrincipalControls::lblFULL_NAME, Message::CaptionFullName, "Nom co&mplet"},
-    {&PrincipalControls::lblSLIDER, Message::CaptionDurability, "&Résistance de la rame"},
-    {&PrincipalControls::lblCLASS, Message::CaptionStockClass, "&Type de matériel"},
+    {&PrincipalControls::lblNAME, message::CaptionShortName, "Nom &court"},
+    {&PrincipalControls::lblFULL_NAME, message::CaptionFullName, "Nom co&mplet"},
+    {&PrincipalControls::lblSLIDER, message::CaptionDurability, "&Résistance de la rame"},
+    {&PrincipalControls::lblCLASS, message::CaptionStockClass, "&Type de matériel"},
 };
 
 void captionButtons(const PrincipalControls& c, const Frame& frame) {
@@ -301,24 +302,24 @@ void captionPrincipal(const PrincipalControls& c, const Frame& frame) {
     captionClasses(*c.cmbMATERIEL, frame);
     for (const LabelRow& row : Labels)
         (c.*row.label)->setText(textOr(frame, row.message, row.french));
-    c.lstViewMATERIEL->stock()->setTitles({textOr(frame, Message::ColumnName, "Nom"),
-                                           textOr(frame, Message::ColumnBrakes, "Freins"),
-                                           textOr(frame, Message::ColumnCoupling, "Attelage")});
-    c.lstViewMATERIEL->setToolTip(toQt(frame.text(Message::TipStockList)));
-    c.Slider1->setToolTip(toQt(frame.text(Message::TipDurability)));
-    c.PicRAME->setEmptyHint(toQt(frame.text(Message::StripEmpty)));
-    c.PicRAME->setEmptyToolTip(toQt(frame.text(Message::TipStrip)));
+    c.lstViewMATERIEL->stock()->setTitles({textOr(frame, message::ColumnName, "Nom"),
+                                           textOr(frame, message::ColumnBrakes, "Freins"),
+                                           textOr(frame, message::ColumnCoupling, "Attelage")});
+    c.lstViewMATERIEL->setToolTip(toQt(frame.text(message::TipStockList)));
+    c.Slider1->setToolTip(toQt(frame.text(message::TipDurability)));
+    c.PicRAME->setEmptyHint(toQt(frame.text(message::StripEmpty)));
+    c.PicRAME->setEmptyToolTip(toQt(frame.text(message::TipStrip)));
     const auto plain = [](QString text) { return text.remove(u'&'); };
     c.tbNAME->setAccessibleName(plain(c.lblNAME->text()));
     c.tbFULL_NAME->setAccessibleName(plain(c.lblFULL_NAME->text()));
     c.Slider1->setAccessibleName(plain(c.lblSLIDER->text()));
     c.cmbMATERIEL->setAccessibleName(plain(c.lblCLASS->text()));
-    c.lstViewMATERIEL->setAccessibleName(toQt(frame.text(Message::NameOfStockList)));
-    c.lstViewMATERIEL->setEmptyHint(toQt(frame.text(Message::StockListEmpty)));
-    c.PicRAME->setAccessibleName(toQt(frame.text(Message::NameOfStrip)));
-    c.picPREVIEW->setAccessibleName(toQt(frame.text(Message::NameOfPreview)));
-    c.HScrollRAME->setAccessibleName(toQt(frame.text(Message::NameOfStripScroll)));
-    c.cmdVEHICLE->setText(textOr(frame, Message::CaptionVehicle, "&Véhicule"));
+    c.lstViewMATERIEL->setAccessibleName(toQt(frame.text(message::NameOfStockList)));
+    c.lstViewMATERIEL->setEmptyHint(toQt(frame.text(message::StockListEmpty)));
+    c.PicRAME->setAccessibleName(toQt(frame.text(message::NameOfStrip)));
+    c.picPREVIEW->setAccessibleName(toQt(frame.text(message::NameOfPreview)));
+    c.HScrollRAME->setAccessibleName(toQt(frame.text(message::NameOfStripScroll)));
+    c.cmdVEHICLE->setText(textOr(frame, message::CaptionVehicle, "&Véhicule"));
 }
 
 } // namespace zandor

@@ -1,5 +1,6 @@
 #include "editor/windows/strip_actions.h"
 
+#include "editor/messages.h"
 #include "frame/windows/art.h"
 #include "frame/windows/qt_text.h"
 
@@ -21,14 +22,14 @@ struct ActionRow {
 // The keys of the whole window are none that a text box needs on any desktop: Ctrl with A, B, D, E, F, H, K,
 // U or W edits a line there.
 constexpr ActionRow Rows[] = {
-    {StripActions::InsertEnd, "actINSERT_END", Message::MenuInsertEnd, Qt::CTRL | Qt::Key_Enter, false},
-    {StripActions::InsertBefore, "actINSERT_BEFORE", Message::MenuInsertBefore, Qt::CTRL | Qt::Key_I, false},
-    {StripActions::MoveLeft, "actMOVE_LEFT", Message::MenuMoveLeft, Qt::CTRL | Qt::Key_Left, true},
-    {StripActions::MoveRight, "actMOVE_RIGHT", Message::MenuMoveRight, Qt::CTRL | Qt::Key_Right, true},
-    {StripActions::Flip, "actFLIP", Message::MenuFlip, Qt::CTRL | Qt::Key_T, true},
-    {StripActions::Remove, "actREMOVE", Message::MenuRemove, Qt::Key_Delete, true},
-    {StripActions::FindInList, "actFIND", Message::MenuFindInList, Qt::CTRL | Qt::Key_L, false},
-    {StripActions::Renumber, "actRENUMBER", Message::MenuRenumber, Qt::CTRL | Qt::Key_R, false},
+    {StripActions::InsertEnd, "actINSERT_END", message::MenuInsertEnd, Qt::CTRL | Qt::Key_Enter, false},
+    {StripActions::InsertBefore, "actINSERT_BEFORE", message::MenuInsertBefore, Qt::CTRL | Qt::Key_I, false},
+    {StripActions::MoveLeft, "actMOVE_LEFT", message::MenuMoveLeft, Qt::CTRL | Qt::Key_Left, true},
+    {StripActions::MoveRight, "actMOVE_RIGHT", message::MenuMoveRight, Qt::CTRL | Qt::Key_Right, true},
+    {StripActions::Flip, "actFLIP", message::MenuFlip, Qt::CTRL | Qt::Key_T, true},
+    {StripActions::Remove, "actREMOVE", message::MenuRemove, Qt::Key_Delete, true},
+    {StripActions::FindInList, "actFIND", message::MenuFindInList, Qt::CTRL | Qt::Key_L, false},
+    {StripActions::Renumber, "actRENUMBER", message::MenuRenumber, Qt::CTRL | Qt::Key_R, false},
 };
 
 } // namespace

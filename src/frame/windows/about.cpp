@@ -1,5 +1,6 @@
 #include "frame/windows/about.h"
 
+#include "frame/messages.h"
 #include "frame/version.h"
 #include "frame/windows/qt_text.h"
 #include "frame/windows/theme.h"
@@ -21,7 +22,7 @@ QString versionText() {
 
 // What stands behind the title and its blank line.
 QString whatItIs(const Frame& frame) {
-    const std::string text = frame.text(Message::AboutText, {{"|1", ""}, {"|2", "\n"}});
+    const std::string text = frame.text(message::AboutText, {{"|1", ""}, {"|2", "\n"}});
     return toQt(text).trimmed();
 }
 
@@ -29,7 +30,7 @@ QString whatItIs(const Frame& frame) {
 
 frmAbout::frmAbout(Frame& frame, QWidget* parent, const QString& licence) : QDialog(parent) {
     setObjectName("frmAbout");
-    setWindowTitle(toQt(frame.text(Message::AboutTitle, {{"|1", "Zandor"}})));
+    setWindowTitle(toQt(frame.text(message::AboutTitle, {{"|1", "Zandor"}})));
     setModal(true);
     const int space = fontMetrics().height();
     auto* texts = new QVBoxLayout;
@@ -51,11 +52,11 @@ frmAbout::frmAbout(Frame& frame, QWidget* parent, const QString& licence) : QDia
     add("lblWHAT", whatItIs(frame));
     texts->addSpacing(space / 2);
     add("lblVERSION",
-        toQt(frame.text(Message::AboutVersion, {{"|1", fromQt(versionText())}})) + " · Qt " + qVersion());
+        toQt(frame.text(message::AboutVersion, {{"|1", fromQt(versionText())}})) + " · Qt " + qVersion());
     if (!licence.isEmpty())
-        add("lblLICENCE", toQt(frame.text(Message::AboutLicence, {{"|1", fromQt(licence)}})));
+        add("lblLICENCE", toQt(frame.text(message::AboutLicence, {{"|1", fromQt(licence)}})));
     texts->addSpacing(space / 2);
-    theme::showAsHint(*add("lblTRADEMARK", toQt(frame.text(Message::AboutTrademark))));
+    theme::showAsHint(*add("lblTRADEMARK", toQt(frame.text(message::AboutTrademark))));
 
     auto* top = new QHBoxLayout;
     top->setSpacing(space);
@@ -66,7 +67,7 @@ frmAbout::frmAbout(Frame& frame, QWidget* parent, const QString& licence) : QDia
         top->addWidget(image, 0, Qt::AlignTop);
     }
     top->addLayout(texts, 1);
-    auto* close = new QPushButton(toQt(frame.text(Message::Close)), this);
+    auto* close = new QPushButton(toQt(frame.text(message::Close)), this);
     close->setObjectName("cmdCLOSE");
     close->setDefault(true);
     connect(close, &QPushButton::clicked, this, &QDialog::accept);

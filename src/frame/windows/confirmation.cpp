@@ -1,6 +1,7 @@
 #include "frame/windows/confirmation.h"
 
 #include "frame/alert.h"
+#include "frame/messages.h"
 #include "frame/windows/help.h"
 #include "frame/windows/qt_text.h"
 #include "frame/windows/window_parts.h"
@@ -19,17 +20,17 @@ struct OptionRow {
     Replacement answer;
 };
 constexpr OptionRow Options[] = {
-    {"optRENAME", Message::ReplaceThis, Replacement::ReplaceThis},
-    {"optNO_RENAME", Message::KeepThis, Replacement::KeepThis},
-    {"optALL_RENAME", Message::ReplaceAll, Replacement::ReplaceAll},
-    {"optALL_NO_RENAME", Message::KeepAll, Replacement::KeepAll},
+    {"optRENAME", message::ReplaceThis, Replacement::ReplaceThis},
+    {"optNO_RENAME", message::KeepThis, Replacement::KeepThis},
+    {"optALL_RENAME", message::ReplaceAll, Replacement::ReplaceAll},
+    {"optALL_NO_RENAME", message::KeepAll, Replacement::KeepAll},
 };
 
 } // namespace
 
 frmConfirmation::frmConfirmation(Frame& frame, const std::string& file, QWidget* parent) : QDialog(parent) {
     setObjectName("frmConfirmation");
-    setWindowTitle(toQt(frame.text(Message::ReplaceTitle)));
+    setWindowTitle(toQt(frame.text(message::ReplaceTitle)));
     setModal(true);
     setHelpContext(*this, helpContext::Stock);
     auto* layout = new QVBoxLayout(this);
@@ -37,14 +38,14 @@ frmConfirmation::frmConfirmation(Frame& frame, const std::string& file, QWidget*
     layout->setContentsMargins(space, space, space, space * 3 / 4);
     auto* text = new WrappedText(this);
     text->setObjectName("Label1");
-    text->setText(toQt(frame.text(Message::ReplaceText, {{"|1", frame.files.nativePath(file)}})));
+    text->setText(toQt(frame.text(message::ReplaceText, {{"|1", frame.files.nativePath(file)}})));
     layout->addWidget(text);
     layout->addSpacing(space / 2);
 
     std::vector<std::string> captions;
     for (const OptionRow& row : Options)
         captions.push_back(frame.text(row.caption));
-    captions.push_back(frame.text(Message::ButtonOk));
+    captions.push_back(frame.text(message::ButtonOk));
     std::vector<std::string*> all;
     for (std::string& caption : captions)
         all.push_back(&caption);

@@ -1,6 +1,7 @@
 #include "frame/windows/folder_window.h"
 
 #include "frame/alert.h"
+#include "frame/messages.h"
 #include "frame/windows/background.h"
 #include "frame/windows/elided_label.h"
 #include "frame/windows/help.h"
@@ -131,10 +132,10 @@ FolderWindow::FolderWindow(Frame& frame, const FolderChoice& choice, DiskMaker d
 }
 
 void FolderWindow::build(const Frame& frame) {
-    std::string drives = frame.text(Message::FolderDrives), folders = frame.text(Message::FolderFolders),
-                ok = frame.text(Message::ButtonOk), cancel = frame.text(Message::Cancel);
+    std::string drives = frame.text(message::FolderDrives), folders = frame.text(message::FolderFolders),
+                ok = frame.text(message::ButtonOk), cancel = frame.text(message::Cancel);
     makeMnemonicsUnique({&drives, &folders, &ok, &cancel});
-    const QString chosen = toQt(frame.text(Message::FolderChosen));
+    const QString chosen = toQt(frame.text(message::FolderChosen));
     drives_->setObjectName("LstLecteur");
     list_->setObjectName("LstDir");
     path_->setObjectName("lblCHEMIN");

@@ -1,6 +1,7 @@
 #include "frame/windows/help_window.h"
 
 #include "frame/alert.h"
+#include "frame/messages.h"
 #include "frame/windows/qt_text.h"
 
 #include <QFile>
@@ -137,15 +138,15 @@ void frmHelp::build() {
 }
 
 void frmHelp::applyLanguage() {
-    setWindowTitle(toQt(language_.GetLangText(Message::HelpTitle, {{"|1", "Zandor"}})));
+    setWindowTitle(toQt(language_.GetLangText(message::HelpTitle, {{"|1", "Zandor"}})));
     struct Row {
         QPushButton* button;
         Message message;
     };
-    const Row rows[] = {{back_, Message::HelpBack},
-                        {forward_, Message::HelpForward},
-                        {contents_, Message::HelpContents},
-                        {close_, Message::Close}};
+    const Row rows[] = {{back_, message::HelpBack},
+                        {forward_, message::HelpForward},
+                        {contents_, message::HelpContents},
+                        {close_, message::Close}};
     std::vector<std::string> captions;
     for (const Row& row : rows)
         captions.push_back(language_.GetLangText(row.message));
@@ -172,7 +173,7 @@ void frmHelp::showSource(const QString& page) {
 
 void frmHelp::showMissing(const QString& page) {
     missing_->setText(
-        toQt(language_.GetLangText(Message::HelpPageMissing, {{"|1", fromQt(page)}, {"|2", "\n"}})));
+        toQt(language_.GetLangText(message::HelpPageMissing, {{"|1", fromQt(page)}, {"|2", "\n"}})));
     missing_->show();
 }
 

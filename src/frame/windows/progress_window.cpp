@@ -1,5 +1,6 @@
 #include "frame/windows/progress_window.h"
 
+#include "frame/messages.h"
 #include "frame/windows/elided_label.h"
 #include "frame/windows/first_paint.h"
 #include "frame/windows/help.h"
@@ -32,13 +33,13 @@ frmProgress::frmProgress(Frame& frame, QWidget* parent)
       bar_(new ProgressBar(this)) {
     setObjectName("frmProgress");
     setWindowTitle(toQt(frame.text(
-        Message::ProgressTitle,
+        message::ProgressTitle,
         {{"|1", frame.state.Title}, {"|2", frame.files.nativePath(frame.state.roots.RootPrimary())}})));
     setModal(true);
     setHelpContext(*this, helpContext::Stock);
     setCursor(Qt::WaitCursor);
 
-    auto* head = new QLabel(toQt(frame.text(Message::ProgressHead)), this);
+    auto* head = new QLabel(toQt(frame.text(message::ProgressHead)), this);
     head->setObjectName("lblHEAD");
     QFont bold("Arial", HeadSize);
     bold.setBold(true);

@@ -1,6 +1,7 @@
 #include "frame/windows/question.h"
 
 #include "frame/alert.h"
+#include "frame/messages.h"
 #include "frame/windows/help.h"
 #include "frame/windows/qt_text.h"
 #include "frame/windows/window_parts.h"
@@ -15,7 +16,7 @@ namespace zandor {
 namespace {
 
 std::string questionText(const Frame& frame) {
-    return frame.text(Message::AskOtherRoot,
+    return frame.text(message::AskOtherRoot,
                       {{"|1", frame.state.Title},
                        {"|2", frame.files.nativePath(frame.state.roots.RootSecondary())},
                        {"|3", "\n"},
@@ -31,8 +32,8 @@ frmQuestion::frmQuestion(Frame& frame, bool& askOtherRoot, QWidget* parent) : QD
     setModal(true);
     setHelpContext(*this, helpContext::Messages);
     askOtherRoot = true;
-    std::string yes = frame.text(Message::Yes), no = frame.text(Message::No),
-                again = frame.text(Message::DoNotAskAgain);
+    std::string yes = frame.text(message::Yes), no = frame.text(message::No),
+                again = frame.text(message::DoNotAskAgain);
     makeMnemonicsUnique({&yes, &no, &again});
 
     QLabel* image = makeIconLabel(this, style()->standardIcon(QStyle::SP_MessageBoxQuestion, nullptr, this));
