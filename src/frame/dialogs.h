@@ -23,6 +23,11 @@ class Dialogs {
     // Returns one of the answer numbers when the user has closed the message.
     virtual int ShowMessage(const std::string& text, int style, const std::string& title,
                             const std::string& helpFile = {}, int helpContext = 0) = 0;
+    // A message that may be the first of many like it. False: the user wants to see no more of them.
+    virtual bool showRepeated(const std::string& text, int style, const std::string& title) {
+        ShowMessage(text, style, title);
+        return true;
+    }
     // Asks for an existing file; nothing when cancelled. `filter` is "text (*.x)|*.x".
     virtual std::optional<std::string> askOpenFile(const std::string& title, const std::string& filter,
                                                    const std::string& folder,

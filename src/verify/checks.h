@@ -1,0 +1,43 @@
+// The checks of single files. Each adds what it finds to the results, and what is to be looked into later to
+// the queues; none asks anything or stops the pass.
+#pragma once
+
+#include "frame/frame.h"
+#include "simfiles/sim_file.h"
+#include "verify/pass_files.h"
+#include "verify/verify_records.h"
+
+#include <string>
+#include <string_view>
+
+namespace zandor {
+
+// What the checks of one pass share.
+struct VerifWork {
+    Frame& frame;
+    const VerifOptions& options;
+    VerifResults& results;
+    VerifQueues queues{};
+    PassFiles onDisk{frame.files};
+    SimReader reader{frame.files};
+};
+
+// What a check of a consist is for: to list its faults, or only to tell whether there is one.
+enum class Quiet { No, Yes };
+
+// `file`: its name; looked for under both roots. A path in `fullPath` goes before that. Returns whether a
+// fault was found.
+bool CheckConsistFile(VerifWork& work, std::string_view file, Quiet quiet = Quiet::No,
+                      std::string_view fullPath = {});
+// Under TRAINSET of the primary root. Repairs quotes when the options say so. What the user must be told of
+// at once goes through Dialogs::ShowMessage.
+void CheckStockFile(VerifWork& work, std::string_view folder, std::string_view file);
+// A text shape or a cab view: the textures that it names. A shape that isn't text is passed over.
+void CheckShapeFile(VerifWork& work, const CheckTarget& target);
+// A sound set: the waves that it names.
+void CheckSoundFile(VerifWork& work, const CheckTarget& target);
+
+void AddInvalidFile(VerifResults& results, InvalidFile file);
+void AddErrorLine(VerifResults& results, ErrorLine line); // to the last invalid file
+
+} // namespace zandor
