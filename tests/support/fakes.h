@@ -7,6 +7,7 @@
 
 #include <deque>
 #include <fstream>
+#include <functional>
 #include <iterator>
 #include <map>
 #include <optional>
@@ -31,11 +32,14 @@ class FakeDialogs final : public Dialogs {
     std::vector<Asked> asked; // calls of askOpenFile()
     std::deque<int> answers;
     int defaultAnswer = answer::Ok;
+    std::function<void()> whenShown;     // while a message stands there
     std::optional<std::string> openFile; // nothing: the user cancels
 
     int ShowMessage(const std::string& text, int messageStyle, const std::string& title, const std::string&,
                     int) override {
         shown.push_back({text, messageStyle, title});
+        if (whenShown)
+            whenShown();
         if (answers.empty())
             return defaultAnswer;
         const int next = answers.front();

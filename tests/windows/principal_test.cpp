@@ -35,8 +35,11 @@ TEST_F(WindowTest, NothingIsCutOnALowScreenInAnyLanguage) {
             }
             for (const char* name : {"lblNAME", "lblFULL_NAME", "lblSLIDER", "lblCLASS", "lblRESISTANCE"})
                 EXPECT_GE(get<QLabel>(name).width(), get<QLabel>(name).minimumSizeHint().width()) << name;
-            for (const QScrollArea* area : window->findChildren<QScrollArea*>())
+            for (const QScrollArea* area : window->findChildren<QScrollArea*>()) {
                 EXPECT_LE(area->widget()->width(), area->viewport()->width()) << language;
+                const bool scrolls = area->widget()->height() > area->viewport()->height();
+                EXPECT_FALSE(scrolls && size.height() >= 499) << language << " " << size.height();
+            }
         }
     }
 }
@@ -160,6 +163,22 @@ TEST_F(WindowTest, ARefusedCouplingIsToldOnceAndChangesNothing) {
     EXPECT_EQ(test.dialogs.shown.size(), 1u);
     EXPECT_EQ(vehicles(), Names{"BB 9288"});
     EXPECT_FALSE(document.Modified);
+}
+
+TEST_F(WindowTest, BehindAMessageEveryPaneShowsWhatItSpeaksOf) {
+    build({"BB 9288"});
+    state.NoAlertCoupling = false;
+    const QString totals = get<QLabel>("lblLongueurNewRame").text();
+    int messages = 0;
+    test.dialogs.whenShown = [&] {
+        ++messages;
+        EXPECT_TRUE(get<QLabel>("lblSTATUS").text().contains("BB 67400"));
+        EXPECT_NE(get<QLabel>("lblLongueurNewRame").text(), totals);
+        EXPECT_TRUE(get<QPushButton>("cmdSAVE").isEnabled());
+    };
+    emit list().chosen(stockIndex("BB 67400"));
+    EXPECT_EQ(messages, 1);
+    EXPECT_EQ(vehicles(), (Names{"BB 9288", "BB 67400"}));
 }
 
 // ---- the mouse on the strip
@@ -373,6 +392,20 @@ TEST_F(WindowTest, OpenShowsTheConsistAndItsDoubleNameInRed) {
     press("cmdNEW");
     EXPECT_TRUE(shortName.isEnabled());
     EXPECT_NE(shortName.palette().color(QPalette::Text), QColor(255, 0, 0));
+}
+
+TEST_F(WindowTest, StockThatAConsistBringsIsListedAndTheSelectionStays) {
+    const StockSample late = {"BB", "late.eng", "Engine", "Electric", "AA 1", "Chain", "EP"};
+    test.files.put(trainsetPath(state.roots.RootMSTS) + "BB\\late.eng", stockText(late));
+    const std::string path = consistsPath(state.roots.RootMSTS) + "late.con";
+    test.files.put(path, encodeConsist(std::string(ConsistSignature) +
+                                       "\r\nTrain (\r\nTrainCfg ( late\r\nEngine (\r\nUiD ( 0 )\r\n"
+                                       "EngineData ( late BB )\r\n)\r\n)\r\n)\r\n"));
+    list().selectStock(stockIndex("CC 6500"));
+    ASSERT_TRUE(window->openFile(path));
+    EXPECT_EQ(selected(), "AA 1");
+    EXPECT_EQ(listed(), (Names{"AA 1", "BB 9288", "CC 6500"}));
+    EXPECT_EQ(list().currentStock(), stockIndex("CC 6500"));
 }
 
 TEST_F(WindowTest, CloseWaitsForASaveThatDidNotHappen) {

@@ -20,7 +20,7 @@ class PreviewView final : public QWidget {
     void warn(const QString& text);
     bool isEmpty() const { return picture_.isNull(); }
     QSize sizeHint() const override { return {260, 132}; }
-    QSize minimumSizeHint() const override { return {110, 56}; }
+    QSize minimumSizeHint() const override { return {110, 32}; }
 
   protected:
     void paintEvent(QPaintEvent*) override;

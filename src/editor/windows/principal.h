@@ -1,19 +1,20 @@
-// The main window: shows the consist under edit and turns the user's actions into operations on it.
+// The main window: arranges its panes and joins them, and has the commands for the whole consist.
 #pragma once
 
-#include "editor/windows/principal_controls.h"
+#include "editor/windows/document_edits.h"
 
 #include <QWidget>
-
-#include <optional>
 
 class QMenu;
 
 namespace zandor {
 
-struct MaterielInfo;
+class CommandBar;
+class ConsistPane;
 class PlaceKeeper;
+class StockPane;
 class StripActions;
+class StripPane;
 
 class frmPrincipal final : public QWidget {
     Q_OBJECT
@@ -38,53 +39,33 @@ class frmPrincipal final : public QWidget {
     void closeAsked();
 
   protected:
-    void dragEnterEvent(QDragEnterEvent* event) override;
-    void dragMoveEvent(QDragMoveEvent* event) override;
-    void dropEvent(QDropEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void changeEvent(QEvent* event) override;
-    bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
-    void connectButtons();
-    void connectInputs();
-    void connectStock();
-    void connectStrip();
-    void connectActions();
-    void addShortcuts();
+    void arrange();
+    void setTabOrders();
+    void connectPanes();
+    void connectMenus();
     void openContextMenu();
     void captionLanguages();
-    void actionTriggered(int id);
-    void refreshActions();
-    bool filterStrip(QEvent* event);
-    bool filterName(QObject* box, QEvent* event);
-    void orderStockList();
 
-    void newPressed();
+    void actionTriggered(int id);
+    void refreshCommands();
+    void lookUp(int materielIndex);
+
+    void commandTriggered(int command);
     void openPressed();
     void savePressed();
-    void aboutPressed();
 
-    void appendFromList(int stock);
-    void finishStockDrag();
-    QPixmap carriedPicture();
-    void showStockInfo(int stock);
-    void showInfo(const MaterielInfo& info);
-    void lookUp(int materielIndex);
-    void sayNotInList();
-    void finishInsertion(const Outcome& outcome, bool endWasHidden);
-    bool tell(const Outcome& outcome); // whether it was done
-    void refreshNames();
-    void refreshScrollBar();
-    QString describeStock(int stock, int column) const;
-    void updateUnusedStock();
-
-    Editor& editor_;
-    PrincipalControls controls_;
-    StripActions* actions_ = nullptr;
-    QMenu* languages_ = nullptr;
+    DocumentEdits edits_;
+    StripPane* strip_;
+    StockPane* stock_;
+    ConsistPane* consist_;
+    CommandBar* commands_;
+    StripActions* actions_;
+    QMenu* languages_;
     PlaceKeeper* place_ = nullptr;
-    std::optional<int> droppedStock_; // a drop whose drag hasn't ended yet
 };
 
 } // namespace zandor

@@ -17,6 +17,8 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <optional>
+#include <utility>
 
 namespace zandor {
 
@@ -40,8 +42,8 @@ int draggedStock(const QMimeData* data) {
 
 } // namespace
 
-StripView::StripView(Editor& editor, QWidget* parent)
-    : QWidget(parent), editor_(editor), pictures_(editor.frame.files) {
+StripView::StripView(DocumentEdits& edits, QWidget* parent)
+    : QWidget(parent), edits_(edits), editor_(edits.editor()), pictures_(editor_.frame.files) {
     setObjectName("PicRAME");
     setAcceptDrops(true);
     setMouseTracking(true);
@@ -148,14 +150,14 @@ void StripView::resizeEvent(QResizeEvent*) {
 void StripView::mousePressEvent(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton || dragging())
         return;
-    lastPoint_ = event->position().toPoint();
-    pressStrip(editor_, pointAt(lastPoint_));
-    pressed_ = editor_.document.DragActive;
-    pressPoint_ = lastPoint_;
+    pressPoint_ = lastPoint_ = event->position().toPoint();
     moved_ = false;
     inside_ = true;
-    DrawStrip(); // before the pointer moves on: the outline stays on this vehicle
-    emit changed();
+    edits_.change([this](Editor& editor) {
+        pressStrip(editor, pointAt(lastPoint_));
+        pressed_ = editor.document.DragActive;
+        DrawStrip(); // before the pointer moves on: the outline stays on this vehicle
+    });
 }
 
 void StripView::followPress(const QPoint& point) {
@@ -187,10 +189,7 @@ void StripView::mouseReleaseEvent(QMouseEvent* event) {
     const QPoint point = event->position().toPoint();
     if (event->button() == Qt::RightButton) {
         endPress();
-        flipVehicule(editor_, pointAt(point));
-        emit changed();
-        update();
-        return;
+        return edits_.change([&](Editor& editor) { flipVehicule(editor, pointAt(point)); });
     }
     if (event->button() != Qt::LeftButton)
         return;
@@ -203,12 +202,14 @@ void StripView::mouseReleaseEvent(QMouseEvent* event) {
         clearDrag(editor_.document);
         return;
     }
-    const Release release = releaseStrip(editor_, atRest ? ReleaseZone::Strip : zoneAt(mapToGlobal(point)));
-    emit changed();
-    update();
-    showFindings(editor_.frame, release.told);
-    if (release.lookedUp)
-        emit lookedUp(*release.lookedUp);
+    std::optional<int> found;
+    edits_.carryOut([&](Editor& editor) {
+        Release release = releaseStrip(editor, atRest ? ReleaseZone::Strip : zoneAt(mapToGlobal(point)));
+        found = release.lookedUp;
+        return Outcome{true, std::move(release.told)};
+    });
+    if (found)
+        emit lookedUp(*found);
 }
 
 void StripView::endPress() {
@@ -221,9 +222,7 @@ void StripView::cancelPress() {
     if (!pressed_)
         return;
     endPress();
-    clearDrag(editor_.document);
-    emit changed();
-    update();
+    edits_.change([](Editor& editor) { clearDrag(editor.document); });
 }
 
 ReleaseZone StripView::zoneAt(const QPoint& globalPoint) const {
@@ -261,40 +260,40 @@ void StripView::updateToolTip(const QPoint& point) {
 }
 
 void StripView::keyPressEvent(QKeyEvent* event) {
-    ConsistDocument& document = editor_.document;
+    const int last = vehicleCount(editor_.document) - 1, selected = editor_.document.selected;
     if (event->key() == Qt::Key_Escape && pressed_)
         return cancelPress();
     if (pressed_ || event->modifiers() != Qt::NoModifier)
         return QWidget::keyPressEvent(event);
     switch (event->key()) {
     case Qt::Key_Left:
-        selectVehicule(document, document.selected - 1);
-        break;
+        return select(selected - 1);
     case Qt::Key_Right:
-        selectVehicule(document, document.selected + 1);
-        break;
+        return select(selected + 1);
     case Qt::Key_Home:
-        selectVehicule(document, 0);
-        break;
+        return select(0);
     case Qt::Key_End:
-        selectVehicule(document, vehicleCount(document) - 1);
-        break;
+        return select(last);
     default:
-        return QWidget::keyPressEvent(event);
+        QWidget::keyPressEvent(event);
     }
-    showSelected();
-    emit changed();
+}
+
+void StripView::select(int position) {
+    edits_.change([&](Editor& editor) {
+        selectVehicule(editor.document, position);
+        showSelected();
+    });
 }
 
 // The keyboard comes to a vehicle, not to nothing.
 void StripView::focusInEvent(QFocusEvent* event) {
     QWidget::focusInEvent(event);
     const bool byKey = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
-    if (byKey && !hasSelection(editor_.document)) {
-        selectVehicule(editor_.document, 0);
-        showSelected();
-    }
-    emit changed();
+    if (byKey && !hasSelection(editor_.document))
+        select(0);
+    else
+        emit edits_.documentChanged(); // the line above may tell of something else
     update();
 }
 

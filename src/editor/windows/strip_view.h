@@ -1,8 +1,8 @@
 // PicRAME: the visible part of the strip, and everything that the mouse does on it.
 #pragma once
 
-#include "editor/consist_document.h"
 #include "editor/strip_scroll.h"
+#include "editor/windows/document_edits.h"
 #include "editor/windows/picture_store.h"
 #include "editor/windows/strip_painter.h"
 
@@ -19,7 +19,7 @@ class PointerShape;
 class StripView final : public QWidget {
     Q_OBJECT
   public:
-    StripView(Editor& editor, QWidget* parent);
+    StripView(DocumentEdits& edits, QWidget* parent);
     ~StripView() override;
 
     void setPreview(const QWidget* preview) { preview_ = preview; } // where a vehicle is looked up; borrowed
@@ -44,7 +44,6 @@ class StripView final : public QWidget {
     bool dragging() const { return pressed_ || stockOver_; }
 
   signals:
-    void changed(); // the document may hold something new
     void scrolled();
     void stockDropped(int materielIndex); // of a list row, at the drag state's place
     void lookedUp(int materielIndex); // a vehicle was let go over the preview; -1: it isn't in the catalogue
@@ -75,10 +74,12 @@ class StripView final : public QWidget {
     void followStock(const QPoint& point);
     void scrollWhileResting();
     void endPress();
+    void select(int position);
     ReleaseZone zoneAt(const QPoint& globalPoint) const;
     void setShape(Shape shape);
     void updateToolTip(const QPoint& point);
 
+    DocumentEdits& edits_;
     Editor& editor_;
     PictureStore pictures_;
     StripPicture picture_;

@@ -8,7 +8,7 @@
 
 namespace zandor {
 
-class ButtonBar final : public QLayout {
+class ButtonBar : public QLayout {
     Q_OBJECT
   public:
     explicit ButtonBar(int gap) { setSpacing(gap); }
