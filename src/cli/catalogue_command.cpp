@@ -2,8 +2,6 @@
 #include "cli/records.h"
 #include "cli/session.h"
 
-#include <CLI/CLI.hpp>
-
 #include <array>
 
 namespace zandor {
@@ -30,8 +28,8 @@ StockCounts countStock(const Catalogue& catalogue) {
 Json classesOf(const StockCounts& counts) {
     Json classes = Json::object();
     for (std::size_t i = 0; i < counts.classes.size(); ++i)
-        classes[std::to_string(i)] = counts.classes[i];
-    classes["other"] = counts.other;
+        classes.set(std::to_string(i), counts.classes[i]);
+    classes.set("other", counts.other);
     return classes;
 }
 
@@ -58,8 +56,8 @@ class CatalogueCommand final : public Command {
     }
     bool usesRoots() const override { return true; }
 
-    void addArguments(CLI::App& app) override {
-        app.add_flag("--list", list_, "print its arrays too, with who uses what");
+    void addArguments(Arguments& line) override {
+        line.flag("--list", list_, "print its arrays too, with who uses what");
     }
 
     int run(Session& session) override {

@@ -2,13 +2,11 @@
 // file.
 #pragma once
 
+#include "cli/arguments.h"
+
 #include <memory>
 #include <string_view>
 #include <vector>
-
-namespace CLI {
-class App;
-}
 
 namespace zandor {
 
@@ -27,7 +25,7 @@ class Command {
     virtual const char* help() const = 0;
     // True: the command works on a simulator folder, and takes the options that name it.
     virtual bool usesRoots() const { return false; }
-    virtual void addArguments(CLI::App& app) = 0;
+    virtual void addArguments(Arguments& line) = 0;
     // Prints to the session; returns an exit code.
     virtual int run(Session& session) = 0;
 };

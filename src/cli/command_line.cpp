@@ -28,17 +28,15 @@ std::vector<std::unique_ptr<Command>> makeCommands() {
     return commands;
 }
 
-void addCommonOptions(CLI::App& app, const Command& command, CommonOptions& options) {
+void addCommonOptions(Arguments& line, const Command& command, CommonOptions& options) {
     if (command.usesRoots()) {
-        app.add_option("--root", options.root, "the simulator's folder; by default that of the settings")
-            ->type_name("DIR");
-        app.add_option("--tstore", options.tstore, "the Train Store's folder")->type_name("DIR");
-        app.add_option("--primary", options.primary, "which of the two is in use: msts or tstore")
-            ->type_name("NAME")
-            ->check(CLI::IsMember({"msts", "tstore"}, CLI::ignore_case));
+        line.text("--root", options.root, "DIR", "the simulator's folder; by default that of the settings");
+        line.text("--tstore", options.tstore, "DIR", "the Train Store's folder");
+        line.word("--primary", options.primary, {"msts", "tstore"}, "NAME",
+                  "which of the two is in use: msts or tstore");
     }
-    app.add_option("--settings", options.settings, "the settings file to use")->type_name("FILE");
-    app.add_option("--language", options.language, "the language of the messages")->type_name("NAME");
+    line.text("--settings", options.settings, "FILE", "the settings file to use");
+    line.text("--language", options.language, "NAME", "the language of the messages");
 }
 
 // What the parser objects to, as one line.
@@ -58,8 +56,9 @@ class CommandLine {
         app_.footer(ExitCodes);
         for (const auto& command : commands_) {
             CLI::App* sub = app_.add_subcommand(command->name(), command->help());
-            command->addArguments(*sub);
-            addCommonOptions(*sub, *command, options_);
+            Arguments line(*sub);
+            command->addArguments(line);
+            addCommonOptions(line, *command, options_);
         }
     }
 

@@ -2,8 +2,6 @@
 #include "editor/consist_io.h"
 #include "text/control_characters.h"
 
-#include <CLI/CLI.hpp>
-
 namespace zandor {
 
 namespace {
@@ -61,17 +59,14 @@ class ComposeCommand final : public Command {
     const char* help() const override { return "Make a consist of stock of the catalogue and save it"; }
     bool usesRoots() const override { return true; }
 
-    void addArguments(CLI::App& app) override {
-        app.add_option("NAME", name_, "the short name, which the file bears too")->required();
-        app.add_option("FOLDER/FILE", given_,
-                       "the vehicles in their order; \":flip\" behind one turns it round")
-            ->required();
-        full_ = app.add_option("--full", fullName_, "the full name; by default that of the file, or NAME")
-                    ->type_name("TEXT");
-        app.add_flag(
-            "--overwrite", overwrite_,
-            "put the vehicles in the place of those of an existing consist, of which a copy is kept");
-        app.add_flag("--no-backup", noBackup_, "with --overwrite, keep no copy of the old consist");
+    void addArguments(Arguments& line) override {
+        line.one("NAME", name_, "the short name, which the file bears too");
+        line.several("FOLDER/FILE", given_,
+                     "the vehicles in their order; \":flip\" behind one turns it round");
+        full_ = line.text("--full", fullName_, "TEXT", "the full name; by default that of the file, or NAME");
+        line.flag("--overwrite", overwrite_,
+                  "put the vehicles in the place of those of an existing consist, of which a copy is kept");
+        line.flag("--no-backup", noBackup_, "with --overwrite, keep no copy of the old consist");
     }
 
     int run(Session& session) override {
@@ -142,8 +137,8 @@ class ComposeCommand final : public Command {
     // A consist that has a file keeps its short name.
     void putNames(Editor& editor, const std::string& shortName) const {
         const bool isNew = !editor.document.HasFile;
-        if (full_->count() > 0 || isNew)
-            changeFullName(editor, full_->count() > 0 ? fullName_ : shortName);
+        if (full_.given() || isNew)
+            changeFullName(editor, full_.given() ? fullName_ : shortName);
         if (isNew)
             changeShortName(editor, shortName);
     }
@@ -153,7 +148,7 @@ class ComposeCommand final : public Command {
     std::vector<std::string> given_;
     bool overwrite_ = false;
     bool noBackup_ = false;
-    CLI::Option* full_ = nullptr;
+    Argument full_;
 };
 
 } // namespace

@@ -1,8 +1,6 @@
 #include "cli/records.h"
 #include "cli/session.h"
 
-#include <CLI/CLI.hpp>
-
 namespace zandor {
 
 namespace {
@@ -12,9 +10,7 @@ class ConsistCommand final : public Command {
     const char* name() const override { return "consist"; }
     const char* help() const override { return "Print a consist file's record and its vehicles"; }
 
-    void addArguments(CLI::App& app) override {
-        app.add_option("FILE", file_, "the consist file: .con")->required();
-    }
+    void addArguments(Arguments& line) override { line.one("FILE", file_, "the consist file: .con"); }
 
     int run(Session& session) override {
         SimReader reader(session.frame.files);

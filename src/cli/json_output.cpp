@@ -1,5 +1,7 @@
 #include "cli/json_output.h"
 
+#include <nlohmann/json.hpp>
+
 namespace zandor {
 
 namespace {
@@ -30,23 +32,42 @@ std::string withoutHighControls(std::string text) {
 
 } // namespace
 
-std::string jsonText(const Json& value) {
-    return withoutHighControls(value.dump(-1, ' ', false, Json::error_handler_t::replace));
+std::string Json::quoted(std::string_view text) {
+    const nlohmann::json value(text);
+    return withoutHighControls(value.dump(-1, ' ', false, nlohmann::json::error_handler_t::replace));
+}
+
+Json::Json(std::initializer_list<JsonMember> members) : Json(object()) {
+    for (const JsonMember& member : members)
+        set(member.name, member.value);
+}
+
+void Json::append(std::string_view element) {
+    const bool first = text_.size() == 2; // the brackets alone
+    text_.insert(text_.size() - 1, (first ? "" : ",") + std::string(element));
+}
+
+void Json::add(const Json& element) {
+    append(element.text_);
+}
+
+void Json::set(std::string_view name, const Json& value) {
+    append(quoted(name) + ':' + value.text_);
 }
 
 void JsonList::add(const Json& element) {
-    out_ << (empty_ ? "\n" : ",\n") << jsonText(element);
+    out_ << (empty_ ? "\n" : ",\n") << element.text();
     empty_ = false;
 }
 
 void JsonObject::begin(std::string_view name) {
-    out_ << (empty_ ? "\n" : ",\n") << jsonText(Json(name)) << ": ";
+    out_ << (empty_ ? "\n" : ",\n") << Json(name).text() << ": ";
     empty_ = false;
 }
 
 void JsonObject::member(std::string_view name, const Json& value) {
     begin(name);
-    out_ << jsonText(value);
+    out_ << value.text();
 }
 
 JsonList JsonObject::list(std::string_view name) {

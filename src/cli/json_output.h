@@ -4,17 +4,46 @@
 
 #include "cli/result_text.h"
 
-#include <nlohmann/json.hpp>
-
+#include <concepts>
+#include <initializer_list>
 #include <string>
 #include <string_view>
 
 namespace zandor {
 
-using Json = nlohmann::ordered_json;
+struct JsonMember;
 
-// All control characters are escaped, those that a terminal obeys behind the ASCII ones too.
-std::string jsonText(const Json& value);
+// A value, kept as its text. All control characters are escaped, those that a terminal obeys behind the ASCII
+// ones too. An object's members stay in their order.
+class Json {
+  public:
+    Json(bool value) : text_(value ? "true" : "false") {}
+    template <std::integral Number>
+    requires(!std::same_as<Number, bool>) Json(Number value) : text_(std::to_string(value)) {}
+    template <std::convertible_to<std::string_view> Text>
+    Json(const Text& text) : text_(quoted(std::string_view(text))) {}
+    Json(std::initializer_list<JsonMember> members); // an object
+
+    static Json list() { return Json(Raw{}, "[]"); }
+    static Json object() { return Json(Raw{}, "{}"); }
+    void add(const Json& element);                      // to a list
+    void set(std::string_view name, const Json& value); // to an object; a name that it hasn't yet
+
+    const std::string& text() const { return text_; }
+
+  private:
+    struct Raw {};
+    Json(Raw, const char* text) : text_(text) {}
+    static std::string quoted(std::string_view text);
+    void append(std::string_view element);
+
+    std::string text_;
+};
+
+struct JsonMember {
+    std::string_view name;
+    Json value;
+};
 
 // A list, one element a line. close() ends it.
 class JsonList {

@@ -1,8 +1,6 @@
 #include "cli/records.h"
 #include "cli/session.h"
 
-#include <CLI/CLI.hpp>
-
 namespace zandor {
 
 namespace {
@@ -12,24 +10,18 @@ class KeysCommand final : public Command {
     const char* name() const override { return "keys"; }
     const char* help() const override { return "Print the keys of a simulator file, or those asked for"; }
 
-    void addArguments(CLI::App& app) override {
-        app.add_option("FILE", file_, "the file: .con, .eng, .wag, .cvf, .s, .sd, .sms, .act or .srv")
-            ->required();
-        stock_ = app.add_flag("--stock", stockMode_, "find the 22 keys that the check of stock follows");
-        section_ =
-            app.add_option("--section", sought_.section, "find a key of this block, such as Wagon\\Coupling")
-                ->type_name("PATH")
-                ->excludes(stock_);
-        key_ = app.add_option("--key", sought_.key, "find this key; without it the block's own value")
-                   ->type_name("NAME")
-                   ->excludes(stock_);
-        app.add_option("--count", sought_.count, "stop after so many; 0 finds all (default: 1)")
-            ->type_name("N")
-            ->check(CLI::Range(0, 32767))
-            ->excludes(stock_);
-        app.add_flag(
-            "--whole-tails", wholeTails_,
-            "print each \"tail\", the source text of a value, in full, not its first 1,000 characters");
+    void addArguments(Arguments& line) override {
+        line.one("FILE", file_, "the file: .con, .eng, .wag, .cvf, .s, .sd, .sms, .act or .srv");
+        stock_ = line.flag("--stock", stockMode_, "find the 22 keys that the check of stock follows");
+        section_ = line.text("--section", sought_.section, "PATH",
+                             "find a key of this block, such as Wagon\\Coupling")
+                       .excludes(stock_);
+        key_ = line.text("--key", sought_.key, "NAME", "find this key; without it the block's own value")
+                   .excludes(stock_);
+        line.number("--count", sought_.count, 0, 32767, "N", "stop after so many; 0 finds all (default: 1)")
+            .excludes(stock_);
+        line.flag("--whole-tails", wholeTails_,
+                  "print each \"tail\", the source text of a value, in full, not its first 1,000 characters");
     }
 
     int run(Session& session) override {
@@ -39,7 +31,7 @@ class KeysCommand final : public Command {
         const ReadRequest all{.keepLines = textureLines(kindOfFile(path))};
         if (const int refusal = readWholeFile(session, reader, path, all, answer); refusal != exitcode::Done)
             return refusal;
-        if (section_->count() + key_->count() + stock_->count() > 0)
+        if (section_.given() || key_.given() || stock_.given())
             answer = printHits(session, reader, path);
         else
             printKeys(session, reader);
@@ -84,9 +76,9 @@ class KeysCommand final : public Command {
     } sought_;
     bool stockMode_ = false;
     bool wholeTails_ = false;
-    CLI::Option* stock_ = nullptr;
-    CLI::Option* section_ = nullptr;
-    CLI::Option* key_ = nullptr;
+    Argument stock_;
+    Argument section_;
+    Argument key_;
 };
 
 } // namespace

@@ -2,8 +2,6 @@
 #include "cli/session.h"
 #include "editor/consist_io.h"
 
-#include <CLI/CLI.hpp>
-
 namespace zandor {
 
 namespace {
@@ -43,8 +41,8 @@ class OpenCommand final : public Command {
     const char* help() const override { return "Open a consist as the editor does and print its strip"; }
     bool usesRoots() const override { return true; }
 
-    void addArguments(CLI::App& app) override {
-        app.add_option("FILE", file_, "the consist: a path, or a name in the CONSISTS folder")->required();
+    void addArguments(Arguments& line) override {
+        line.one("FILE", file_, "the consist: a path, or a name in the CONSISTS folder");
     }
 
     int run(Session& session) override {

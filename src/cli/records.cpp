@@ -31,9 +31,9 @@ constexpr std::array<TextField, 17> MaterielTexts{{
 }};
 
 Json pairsOf(const std::vector<StockPair>& pairs) {
-    Json list = Json::array();
+    Json list = Json::list();
     for (const StockPair& pair : pairs)
-        list.push_back({{"FileName", pair.FileName}, {"Folder", pair.Folder}});
+        list.add({{"FileName", pair.FileName}, {"Folder", pair.Folder}});
     return list;
 }
 
@@ -49,10 +49,16 @@ Json recordOf(const SimHit& hit) {
             {"firstLine", hit.FirstLine}, {"lastLine", hit.LastLine}};
 }
 
-Json recordOf(const Materiel& materiel) {
-    Json record{{"ImageIsGeneric", materiel.ImageIsGeneric}, {"ImageIsResource", materiel.ImageIsResource}};
+void addRecord(Json& object, const Materiel& materiel) {
+    object.set("ImageIsGeneric", materiel.ImageIsGeneric);
+    object.set("ImageIsResource", materiel.ImageIsResource);
     for (const TextField& text : MaterielTexts)
-        record[text.name] = materiel.*text.field;
+        object.set(text.name, materiel.*text.field);
+}
+
+Json recordOf(const Materiel& materiel) {
+    Json record = Json::object();
+    addRecord(record, materiel);
     return record;
 }
 

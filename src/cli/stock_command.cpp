@@ -1,8 +1,6 @@
 #include "cli/records.h"
 #include "cli/session.h"
 
-#include <CLI/CLI.hpp>
-
 #include <algorithm>
 
 namespace zandor {
@@ -29,10 +27,10 @@ class StockCommand final : public Command {
     const char* name() const override { return "stock"; }
     const char* help() const override { return "Print what engine and wagon files say"; }
 
-    void addArguments(CLI::App& app) override {
-        app.add_option("FILE", files_, "the files: .eng or .wag")->required();
-        CLI::Option* quick = app.add_flag("--quick", quick_, "read by how lines begin, not in full");
-        app.add_flag("--repair", repair_, "rewrite a wagon file that has several Name keys")->excludes(quick);
+    void addArguments(Arguments& line) override {
+        line.several("FILE", files_, "the files: .eng or .wag");
+        const Argument quick = line.flag("--quick", quick_, "read by how lines begin, not in full");
+        line.flag("--repair", repair_, "rewrite a wagon file that has several Name keys").excludes(quick);
     }
 
     int run(Session& session) override {
@@ -45,10 +43,10 @@ class StockCommand final : public Command {
                 exitCode = session.cannotRun("There is no file " + file);
                 continue;
             }
-            const Json record = read(session, reader, file, path);
-            if (record.contains("error"))
+            bool faulty = false;
+            list.add(read(session, reader, file, path, faulty));
+            if (faulty)
                 exitCode = std::max(exitCode, exitcode::Faults);
-            list.add(record);
         }
         list.close();
         session.result << "\n";
@@ -56,7 +54,8 @@ class StockCommand final : public Command {
     }
 
   private:
-    Json read(Session& session, SimReader& reader, const std::string& file, const std::string& path) const {
+    Json read(Session& session, SimReader& reader, const std::string& file, const std::string& path,
+              bool& faulty) const {
         Materiel materiel = materielAt(path);
         StockReading reading;
         std::string fault;
@@ -73,13 +72,14 @@ class StockCommand final : public Command {
         }
 
         Json record{{"file", file}};
-        record.update(recordOf(materiel));
+        addRecord(record, materiel);
         if (reading.needsRepair)
-            record["needsRepair"] = !reading.repaired;
+            record.set("needsRepair", !reading.repaired);
         if (reading.repaired)
-            record["repaired"] = true;
-        if (!fault.empty())
-            record["error"] = {{"number", errorNumber(reading.answer)}, {"text", fault}};
+            record.set("repaired", true);
+        faulty = !fault.empty();
+        if (faulty)
+            record.set("error", {{"number", errorNumber(reading.answer)}, {"text", fault}});
         return record;
     }
 
