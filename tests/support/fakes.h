@@ -26,14 +26,14 @@ class FakeDialogs final : public Dialogs {
         std::string title;
     };
     struct Asked {
-        std::string title, filter, folder, proposedName;
+        std::string title, filter, folder, proposedName, defaultExtension;
     };
     std::vector<Shown> shown;
-    std::vector<Asked> asked; // calls of askOpenFile()
+    std::vector<Asked> asked; // calls of askOpenFile() and askSaveFile()
     std::deque<int> answers;
     int defaultAnswer = answer::Ok;
-    std::function<void()> whenShown;     // while a message stands there
-    std::optional<std::string> openFile; // nothing: the user cancels
+    std::function<void()> whenShown;               // while a message stands there
+    std::optional<std::string> openFile, saveFile; // nothing: the user cancels
 
     int ShowMessage(const std::string& text, int messageStyle, const std::string& title, const std::string&,
                     int) override {
@@ -49,8 +49,14 @@ class FakeDialogs final : public Dialogs {
     std::optional<std::string> askOpenFile(const std::string& title, const std::string& filter,
                                            const std::string& folder,
                                            const std::string& proposedName) override {
-        asked.push_back({title, filter, folder, proposedName});
+        asked.push_back({title, filter, folder, proposedName, {}});
         return openFile;
+    }
+    std::optional<std::string> askSaveFile(const std::string& title, const std::string& filter,
+                                           const std::string& folder, const std::string& proposedName,
+                                           const std::string& defaultExtension) override {
+        asked.push_back({title, filter, folder, proposedName, defaultExtension});
+        return saveFile;
     }
     std::string lastText() const { return shown.empty() ? std::string() : shown.back().text; }
 };
