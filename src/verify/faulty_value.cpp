@@ -278,6 +278,16 @@ std::string written(const ErrorLine& line, const std::string& value, bool quoted
     return quoted || needsQuotes ? '"' + name + '"' : name;
 }
 
+// A value put between brackets that hold none stands apart from them.
+TextEdit editOf(std::string_view text, const OldValue& old, std::string value) {
+    if (old.span.size() == 0) {
+        const auto isBlank = [text](std::size_t at) { return at < text.size() && trim(text.substr(at, 1)).empty(); };
+        value.insert(0, isBlank(old.span.begin - 1) ? "" : " ");
+        value.append(isBlank(old.span.end) ? "" : " ");
+    }
+    return {old.span, std::move(value)};
+}
+
 // ---- descriptions of shapes
 
 constexpr std::string_view ShapeNamingKeys[] = {"wagon\\wagonshape", "wagon\\inside\\passengercabinfile",
@@ -366,7 +376,7 @@ Outcome writeFaultyValue(Frame& frame, const InvalidFile& file, const ErrorLine&
     const auto old = findOld(frame.files, path, text, line);
     if (!old)
         return notChanged(frame, path, line);
-    const TextEdit edit{old->span, written(line, value, old->quoted)};
+    const TextEdit edit = editOf(text.text, *old, written(line, value, old->quoted));
     if (!replaceSpans(text.text, {&edit, 1}))
         return notChanged(frame, path, line);
     switch (writeEdited(frame.files, path, text)) {
