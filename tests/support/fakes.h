@@ -13,6 +13,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace zandor {
@@ -99,18 +100,19 @@ class FakeRegistry final : public Registry {
     std::map<std::string, std::string> values_;
 };
 
-// Records what is started; nothing runs.
+// Records what is started; nothing runs, unless a test says how it ends.
 class FakeProcesses final : public Processes {
   public:
     std::vector<std::vector<std::string>> started; // program and arguments
     std::vector<std::string> opened;
     bool works = true;
+    std::function<std::optional<int>()> exitCode = [] { return 0; }; // of each, each time it is asked for
 
     std::unique_ptr<Process> start(const std::string& program,
                                    const std::vector<std::string>& arguments) override {
         started.push_back({program});
         started.back().insert(started.back().end(), arguments.begin(), arguments.end());
-        return works ? std::make_unique<Ended>() : nullptr;
+        return works ? std::make_unique<Started>(exitCode) : nullptr;
     }
     bool openFile(const std::string& path) override {
         opened.push_back(path);
@@ -118,8 +120,10 @@ class FakeProcesses final : public Processes {
     }
 
   private:
-    struct Ended final : Process {
-        std::optional<int> exitCode() override { return 0; }
+    struct Started final : Process {
+        explicit Started(std::function<std::optional<int>()> code) : code_(std::move(code)) {}
+        std::optional<int> exitCode() override { return code_(); }
+        std::function<std::optional<int>()> code_;
     };
 };
 
