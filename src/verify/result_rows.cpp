@@ -2,9 +2,11 @@
 
 #include "catalogue/catalogue.h"
 #include "catalogue/name_key.h"
+#include "verify/messages.h"
 #include "verify/result_lists.h"
 
 #include <unordered_map>
+#include <utility>
 
 namespace zandor {
 
@@ -99,6 +101,26 @@ std::vector<FileFault> faultsOf(const VerifResults& results, const FaultyFile& f
     for (const int position : file.mandatory)
         faults.push_back({-1, position, {FaultGroup::MandatoryKey, 0}});
     return faults;
+}
+
+std::string summaryOf(const Frame& frame, const VerifResults& results, const FaultyFile& file,
+                      const FileFault& fault) {
+    if (fault.line >= 0)
+        return recordOf(results, file).Lines[static_cast<std::size_t>(fault.line)].Summary;
+    const std::string& key = results.mandatory[static_cast<std::size_t>(fault.mandatory)].key;
+    return frame.text(message::MandatoryKeyName, {{"|1", key}});
+}
+
+std::string detailsOf(const Frame& frame, const VerifResults& results, const FaultyFile& file,
+                      const FileFault& fault) {
+    if (fault.line >= 0)
+        return recordOf(results, file).Lines[static_cast<std::size_t>(fault.line)].Long;
+    const MandatoryFault& lack = results.mandatory[static_cast<std::size_t>(fault.mandatory)];
+    return frame.text(message::MandatoryKeyMissing, {{"|1", " " + lack.file + " – "},
+                                                     {"|2", "'" + lack.key + "'"},
+                                                     {"|3", "'Wagon'"},
+                                                     {"|4", " "},
+                                                     {"|5", frame.state.Title}});
 }
 
 std::optional<FaultRow> seekFault(const VerifResults& results, const std::vector<FaultyFile>& files,

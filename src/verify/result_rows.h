@@ -35,6 +35,12 @@ struct FileFault {
 };
 std::vector<FileFault> faultsOf(const VerifResults& results, const FaultyFile& file);
 
+// What is wrong: in short, and at length in one paragraph.
+std::string summaryOf(const Frame& frame, const VerifResults& results, const FaultyFile& file,
+                      const FileFault& fault);
+std::string detailsOf(const Frame& frame, const VerifResults& results, const FaultyFile& file,
+                      const FileFault& fault);
+
 // A place in the two lists: a row of the files and one of the file's faults.
 struct FaultRow {
     int file = 0, fault = 0;

@@ -207,27 +207,15 @@ void CandidatesPane::enableBoxes() {
         const Box& row = Boxes[i];
         const bool suits = row.forConsists || choices.kind != VerifiedKind::Consists;
         const bool needs = row.option != &VerifOptions::RepairSounds || choices.options.CheckSounds;
-        boxes_[i]->setEnabled(any && suits && needs && !session_.running());
+        boxes_[i]->setEnabled(any && suits && needs);
     }
 }
 
 void CandidatesPane::enableAll() {
-    const bool idle = !session_.running(), any = candidates_.size() > 0;
-    for (QWidget* widget : std::initializer_list<QWidget*>{kinds_[0], kinds_[1], kinds_[2], tbFILTER_,
-                                                           lstFILES_})
-        widget->setEnabled(idle);
-    chkSELECT_->setEnabled(idle && any);
-    chkDESELECT_->setEnabled(idle && any);
+    chkSELECT_->setEnabled(candidates_.size() > 0);
+    chkDESELECT_->setEnabled(candidates_.size() > 0);
     enableBoxes();
     selectionChanged();
-}
-
-void CandidatesPane::runStarted() {
-    enableAll();
-}
-
-void CandidatesPane::runEnded() {
-    enableAll();
 }
 
 void CandidatesPane::passEnded() {
@@ -303,7 +291,7 @@ void CandidatesPane::selectionChanged() {
         toQt(session_.frame().text(message::CandidatesChosen, {{"|1", some}, {"|2", all}})));
     chkSELECT_->setChecked(shown > 0 && chosen == shown);
     chkDESELECT_->setChecked(shown > 0 && chosen == 0);
-    cmdEditeur_->setEnabled(!session_.running() && lstFILES_->currentNumber() >= 0 &&
+    cmdEditeur_->setEnabled(lstFILES_->currentNumber() >= 0 &&
                             !editorPrograms(session_.frame()).empty());
     emit chosenChanged();
 }

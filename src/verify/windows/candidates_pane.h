@@ -31,8 +31,6 @@ class CandidatesPane final : public QWidget {
 
     bool anyChosen() const;
     VerifSelection selection() const;
-    void runStarted();
-    void runEnded();
     void passEnded(); // the boxes as the Editor allows
 
   signals:

@@ -2,6 +2,7 @@
 
 #include "frame/windows/qt_progress.h"
 #include "verify/messages.h"
+#include "verify/recheck.h"
 
 #include <QEventLoop>
 #include <QTimer>
@@ -104,10 +105,22 @@ void VerifySession::close() {
 
 void VerifySession::tellChange() {
     emit resultsChanged();
+    emit catalogueChanged();
 }
 
-void VerifySession::tellCatalogue() {
-    emit catalogueChanged();
+void VerifySession::editFile(const std::string& path, const ErrorLine* line) {
+    const std::optional<ErrorLine> place = line ? std::optional(*line) : std::nullopt; // the recheck ends it
+    const std::string file = path;
+    EditorRun ran;
+    const bool here = waitFor([&](EditorWait& wait) {
+        VerifWork one = work();
+        ran = editAndRecheck(one, editor_.catalogue, file, place ? &*place : nullptr, wait);
+    });
+    if (!here)
+        return;
+    if (ran.changed)
+        tellChange();
+    showFindings(frame(), ran.told);
 }
 
 } // namespace zandor

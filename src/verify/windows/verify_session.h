@@ -41,6 +41,9 @@ class VerifySession final : public QObject {
     const VerifOptions& verifiedOptions() const { return passOptions_; }
 
     void verify(const VerifSelection& selection);
+    // The external editor on a file, at a line of its record or at none, and the recheck behind it.
+    void editFile(const std::string& path, const ErrorLine* line);
+    VerifWork work() { return {frame(), passOptions_, *results_}; } // for one file at a time
     // Runs what may take long with the progress and the cancel of this tab. False: the window was closed
     // meanwhile, and nobody is there to show anything.
     bool carryOut(const std::function<void(Editor&)>& work);
@@ -52,8 +55,7 @@ class VerifySession final : public QObject {
     void cancel() { cancelled_ = true; }
     void close(); // the window goes
 
-    void tellChange();    // of the results
-    void tellCatalogue(); // of files on the disk
+    void tellChange(); // of results and files
 
   signals:
     void runStarted();
