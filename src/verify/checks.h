@@ -9,6 +9,7 @@
 
 #include <string>
 #include <string_view>
+#include <unordered_set>
 
 namespace zandor {
 
@@ -20,6 +21,8 @@ struct VerifWork {
     VerifQueues queues{};
     PassFiles onDisk{frame.files};
     SimReader reader{frame.files};
+    std::unordered_set<std::string> examined{}; // owners of shapes, cab views and sound sets, lower case
+    std::string bytes{}, text{};                // of the file in hand; storage used again
 };
 
 // What a check of a consist is for: to list its faults, or only to tell whether there is one.
