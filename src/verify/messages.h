@@ -138,6 +138,8 @@ inline constexpr Message ReportKeysMissing{573};    // as 370
 inline constexpr Message MissingItemEmptyFile{588}; // |1 the name, |2 a line break
 
 // the verifier's tab
+inline constexpr Message TabFiles{606};
+inline constexpr Message TabResults{607};
 inline constexpr Message KindConsists{610};
 inline constexpr Message KindEngines{611};
 inline constexpr Message KindWagons{612};
@@ -189,6 +191,7 @@ inline constexpr Message FaultsInFiles{918};    // |1 faults, |2 files
 inline constexpr Message MandatoryKeyName{919}; // |1 the key
 inline constexpr Message FilesChosen{920};      // |1 how many
 inline constexpr Message GroupKind{924};
+inline constexpr Message ReportNotSaved{926}; // |1 the file, |2 a line break
 inline constexpr Message VerifyRuns{925};
 
 // the correction of faulty values

@@ -4,8 +4,8 @@
 #include "editor/messages.h"
 #include "frame/windows/cursors.h"
 #include "text/text.h"
+#include "verify/external_editor.h"
 #include "verify/messages.h"
-#include "verify/recheck.h"
 #include "verify/result_rows.h"
 #include "verify/windows/captions.h"
 #include "verify/windows/result_view.h"
@@ -59,8 +59,7 @@ constexpr CandidatesPane::Box CandidatesPane::Boxes[] = {
      false},
 };
 
-CandidatesPane::CandidatesPane(VerifySession& session, QWidget* parent)
-    : QWidget(parent), session_(session) {
+CandidatesPane::CandidatesPane(VerifySession& session, QWidget* parent) : QWidget(parent), session_(session) {
     setObjectName("fmVERIF_FILES");
     build();
     connectControls();
@@ -115,6 +114,7 @@ QWidget* CandidatesPane::buildList() {
     grpFILES_ = named(new QGroupBox(this), "grpFILES");
     tbFILTER_ = named(new QLineEdit(grpFILES_), "tbFILTER");
     tbFILTER_->setClearButtonEnabled(true);
+    clearByEscape(*tbFILTER_);
     constexpr int NoFigures = -1;
     lstFILES_ = new ResultView(*new ResultModel(2, NoFigures, this), "lstFILES", grpFILES_);
     lstFILES_->setSelectionMode(QAbstractItemView::ExtendedSelection);
@@ -262,8 +262,8 @@ void CandidatesPane::showRows() {
     }
     lstFILES_->rows().setRows(std::move(rows));
     lstFILES_->fitColumns({longest.left(40)});
-    lstFILES_->setEmptyHint(toQt(session_.frame().text(
-        candidates_.size() == 0 ? message::NoCandidates : message::NoFileFits)));
+    lstFILES_->setEmptyHint(
+        toQt(session_.frame().text(candidates_.size() == 0 ? message::NoCandidates : message::NoFileFits)));
     lstFILES_->chooseRows([&chosen](int number) { return bool(chosen[static_cast<std::size_t>(number)]); });
     selectionChanged();
 }
@@ -287,12 +287,10 @@ void CandidatesPane::deselectAll() {
 void CandidatesPane::selectionChanged() {
     const int chosen = lstFILES_->chosenCount(), shown = lstFILES_->rows().rowCount();
     const std::string some = std::to_string(chosen), all = std::to_string(shown);
-    lblCOUNT_->setText(
-        toQt(session_.frame().text(message::CandidatesChosen, {{"|1", some}, {"|2", all}})));
+    lblCOUNT_->setText(toQt(session_.frame().text(message::CandidatesChosen, {{"|1", some}, {"|2", all}})));
     chkSELECT_->setChecked(shown > 0 && chosen == shown);
     chkDESELECT_->setChecked(shown > 0 && chosen == 0);
-    cmdEditeur_->setEnabled(lstFILES_->currentNumber() >= 0 &&
-                            !editorPrograms(session_.frame()).empty());
+    cmdEditeur_->setEnabled(lstFILES_->currentNumber() >= 0 && !editorPrograms(session_.frame()).empty());
     emit chosenChanged();
 }
 
@@ -308,8 +306,10 @@ VerifSelection CandidatesPane::selection() const {
 
 void CandidatesPane::editChosen() {
     const int number = lstFILES_->currentNumber();
-    if (number >= 0)
-        session_.editFile(candidatePath(session_.frame(), candidates_, number), nullptr);
+    if (number < 0)
+        return;
+    const std::string path = candidatePath(session_.frame(), candidates_, number);
+    session_.editFile(path, path, nullptr);
 }
 
 } // namespace zandor

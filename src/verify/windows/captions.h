@@ -5,6 +5,8 @@
 #include "frame/windows/qt_text.h"
 #include "frame/windows/window_parts.h"
 
+#include <QLineEdit>
+#include <QShortcut>
 #include <QString>
 
 #include <functional>
@@ -40,5 +42,14 @@ class Captions {
     const Frame& frame_;
     std::vector<std::pair<std::string, Put>> rows_;
 };
+
+// Escape empties a line that holds a text; in an empty one it is the window's.
+inline void clearByEscape(QLineEdit& line) {
+    auto* key = new QShortcut(Qt::Key_Escape, &line, nullptr, nullptr, Qt::WidgetShortcut);
+    key->setEnabled(false);
+    QObject::connect(&line, &QLineEdit::textChanged, key,
+                     [key](const QString& text) { key->setEnabled(!text.isEmpty()); });
+    QObject::connect(key, &QShortcut::activated, &line, &QLineEdit::clear);
+}
 
 } // namespace zandor

@@ -19,7 +19,7 @@ namespace {
 
 // Of a longer file only the lines around the fault are laid out.
 constexpr int MostLines = 4000;
-constexpr int MarginGap = 6; // pixels beside the numbers
+constexpr int MarginGap = 6;                    // pixels beside the numbers
 constexpr int LineShade = 45, ValueShade = 110; // of 255, over the background
 
 QColor shaded(const QPalette& palette, int alpha) {
@@ -126,14 +126,14 @@ void FileView::mark(int line, const QString& value) {
     marked_ = line;
     QTextCursor cursor(block);
     setTextCursor(cursor);
-    ExtraSelection whole;
+    QTextEdit::ExtraSelection whole;
     whole.cursor = cursor;
     whole.format.setBackground(shaded(palette(), LineShade));
     whole.format.setProperty(QTextFormat::FullWidthSelection, true);
-    QList<ExtraSelection> marks{whole};
+    QList<QTextEdit::ExtraSelection> marks{whole};
     const auto at = static_cast<int>(value.isEmpty() ? -1 : block.text().indexOf(value));
     if (at >= 0) {
-        ExtraSelection part;
+        QTextEdit::ExtraSelection part;
         part.cursor = QTextCursor(block);
         part.cursor.setPosition(block.position() + at);
         part.cursor.setPosition(block.position() + at + static_cast<int>(value.size()),

@@ -27,10 +27,10 @@ namespace zandor {
 namespace {
 
 constexpr int FileColumns = 3, CountColumn = 2, FaultColumns = 2, LineColumn = 1;
-constexpr int ButtonGap = 6;       // pixels
-constexpr int LongestFolder = 24;  // letters of its column
-constexpr int LongestWord = 30;    // letters without a place to break
-constexpr int FaultRows = 4;       // of the list of faults, in sight at least
+constexpr int ButtonGap = 6;      // pixels
+constexpr int LongestFolder = 24; // letters of its column
+constexpr int LongestWord = 30;   // letters without a place to break
+constexpr int FaultRows = 4;      // of the list of faults, in sight at least
 
 // A line can be broken behind each "\" of a path, which has no blanks.
 QString breakable(QString text) {
@@ -318,8 +318,13 @@ void InvalidPane::showFault(const FaultyFile& file, const FileFault& fault) {
     const ErrorLine* const line = currentLine();
     if (!line)
         return txtFILE_->showFile(pathOf(session_.frame(), results, file), 0, {});
-    const InvalidFile& record = results.InvalidFiles[static_cast<std::size_t>(file.invalid)];
-    txtFILE_->showFile(faultyPath(session_.frame(), record, *line), line->Line, toQt(line->Value));
+    txtFILE_->showFile(currentPath(), line->Line, toQt(line->Value));
+}
+
+// Of the file that the current line stands in.
+std::string InvalidPane::currentPath() const {
+    const auto record = static_cast<std::size_t>(currentFile()->invalid);
+    return faultyPath(session_.frame(), session_.results().InvalidFiles[record], *currentLine());
 }
 
 void InvalidPane::clearFault() {
@@ -341,8 +346,8 @@ void InvalidPane::enableButtons() {
     cmdDELETE_->setEnabled(gone);
     const int chosen = lstFILES_INVALIDES_->chosenCount();
     const std::string count = std::to_string(chosen);
-    lblINFOS_->setText(
-        chosen > 1 ? toQt(session_.frame().text(message::FilesChosen, {{"|1", count}})) : QString());
+    lblINFOS_->setText(chosen > 1 ? toQt(session_.frame().text(message::FilesChosen, {{"|1", count}}))
+                                  : QString());
 }
 
 void InvalidPane::nextFault() {
@@ -366,8 +371,7 @@ bool InvalidPane::eventFilter(QObject* watched, QEvent* event) {
 void InvalidPane::showHint(bool files) {
     if (files_.empty())
         return;
-    const Message hint =
-        resultHint(session_.verifiedKind(), files ? ResultList::Files : ResultList::Keys);
+    const Message hint = resultHint(session_.verifiedKind(), files ? ResultList::Files : ResultList::Keys);
     lblINFOS_->setText(toQt(session_.frame().text(hint)));
 }
 
@@ -378,7 +382,8 @@ void InvalidPane::editFile(bool atFault) {
     if (!file)
         return;
     const ErrorLine* const line = atFault ? currentLine() : nullptr;
-    session_.editFile(pathOf(session_.frame(), session_.results(), *file), line);
+    const std::string path = pathOf(session_.frame(), session_.results(), *file);
+    session_.editFile(path, line ? currentPath() : path, line);
 }
 
 void InvalidPane::correct() {
@@ -393,8 +398,7 @@ void InvalidPane::carryAway(FilesGone (*operation)(Editor&, VerifResults&, const
         return;
     FilesGone gone;
     VerifResults& results = session_.results();
-    const bool here =
-        session_.carryOut([&](Editor& editor) { gone = operation(editor, results, chosen); });
+    const bool here = session_.carryOut([&](Editor& editor) { gone = operation(editor, results, chosen); });
     if (!here)
         return;
     if (gone.gone > 0)

@@ -1,13 +1,17 @@
 // fmINVALIDE: the files with faults, the faults of the chosen one, and its text at the fault.
 #pragma once
 
+#include "verify/result_lists.h"
 #include "verify/result_rows.h"
 #include "verify/windows/verify_session.h"
+
+#include <QWidget>
 
 #include <optional>
 #include <vector>
 
 class QLabel;
+class QLayout;
 class QPushButton;
 
 namespace zandor {
@@ -42,10 +46,11 @@ class InvalidPane final : public QWidget {
     void connectControls();
     void addKeys();
 
-    const FaultyFile* currentFile() const;   // nullptr: none
-    const FileFault* currentFault() const;   // nullptr: none
-    const ErrorLine* currentLine() const;    // nullptr: none, or the fault is a missing key
-    std::vector<int> chosenRecords() const;  // positions in InvalidFiles
+    const FaultyFile* currentFile() const; // nullptr: none
+    const FileFault* currentFault() const; // nullptr: none
+    const ErrorLine* currentLine() const;  // nullptr: none, or the fault is a missing key
+    std::string currentPath() const;
+    std::vector<int> chosenRecords() const; // positions in InvalidFiles
     void goTo(FaultRow place);
     void showFileErrors();
     void showErrorLine();

@@ -30,7 +30,7 @@ class ResultView final : public RowView {
     ResultModel& rows() const { return model_; }
     void setEmptyHint(const QString& hint);
 
-    int currentNumber() const; // of the record; -1: none
+    int currentNumber() const;              // of the record; -1: none
     std::vector<int> chosenNumbers() const; // ascending by row
     int chosenCount() const;
     void showRow(int row); // current and in sight; none when there is no such row

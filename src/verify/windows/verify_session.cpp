@@ -86,9 +86,8 @@ bool VerifySession::waitFor(const std::function<void(EditorWait&)>& work) {
 void VerifySession::verify(const VerifSelection& selection) {
     auto results = std::make_unique<VerifResults>();
     const VerifOptions options = optionsFor(selection.kind, choices_.options);
-    const bool here = carryOut([&](Editor& editor) {
-        (void)RunVerification(editor.frame, selection, options, *results);
-    });
+    const bool here =
+        carryOut([&](Editor& editor) { (void)RunVerification(editor.frame, selection, options, *results); });
     if (!here)
         return;
     results_ = std::move(results);
@@ -108,13 +107,15 @@ void VerifySession::tellChange() {
     emit catalogueChanged();
 }
 
-void VerifySession::editFile(const std::string& path, const ErrorLine* line) {
-    const std::optional<ErrorLine> place = line ? std::optional(*line) : std::nullopt; // the recheck ends it
-    const std::string file = path;
+void VerifySession::editFile(const std::string& path, const std::string& opened, const ErrorLine* line) {
+    const std::string text = line ? line->Value : std::string();
+    const int number = line ? line->Line : 0;
     EditorRun ran;
     const bool here = waitFor([&](EditorWait& wait) {
+        ran = EditFileExternal(frame(), opened, true, text, number, wait);
         VerifWork one = work();
-        ran = editAndRecheck(one, editor_.catalogue, file, place ? &*place : nullptr, wait);
+        if (ran.changed)
+            RecheckAfterEdit(one, editor_.catalogue, path);
     });
     if (!here)
         return;

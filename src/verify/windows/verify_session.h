@@ -18,10 +18,8 @@ namespace zandor {
 // What stays chosen for the whole run of the program, also while the window is closed.
 struct VerifyChoices {
     VerifiedKind kind = VerifiedKind::Engines;
-    VerifOptions options{.CheckName = true,
-                         .CheckTextures = true,
-                         .CheckSounds = true,
-                         .CheckDuplicates = true};
+    VerifOptions options{
+        .CheckName = true, .CheckTextures = true, .CheckSounds = true, .CheckDuplicates = true};
 };
 
 // While something runs no other operation begins: the tab's controls are off, and the window, when it is
@@ -36,13 +34,14 @@ class VerifySession final : public QObject {
     Frame& frame() const { return editor_.frame; }
     VerifyChoices& choices() const { return choices_; }
     VerifResults& results() const { return *results_; }
-    bool verified() const { return verified_; }                // there has been a pass
-    VerifiedKind verifiedKind() const { return passKind_; }    // of that pass
+    bool verified() const { return verified_; }             // there has been a pass
+    VerifiedKind verifiedKind() const { return passKind_; } // of that pass
     const VerifOptions& verifiedOptions() const { return passOptions_; }
 
     void verify(const VerifSelection& selection);
-    // The external editor on a file, at a line of its record or at none, and the recheck behind it.
-    void editFile(const std::string& path, const ErrorLine* line);
+    // The external editor on `opened`, at a line of its record or at none; then the recheck of `path`:
+    // another file when the fault stands in one that it names.
+    void editFile(const std::string& path, const std::string& opened, const ErrorLine* line);
     VerifWork work() { return {frame(), passOptions_, *results_}; } // for one file at a time
     // Runs what may take long with the progress and the cancel of this tab. False: the window was closed
     // meanwhile, and nobody is there to show anything.
