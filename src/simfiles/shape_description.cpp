@@ -2,23 +2,15 @@
 
 namespace zandor {
 
-namespace {
-
-bool namesShape(const SimKey& key) {
-    const bool closes = key.Path.empty() && nameIs(key.Key, "shape");
-    const bool isBlock = key.Key.empty() && pathIs(key.Path, "shape");
-    return (closes || isBlock) && !key.Value.empty();
-}
-
-} // namespace
-
-std::vector<SimKey> shapesOfDescription(SimReader& reader, std::string_view path) {
-    std::vector<SimKey> shapes;
-    if (reader.ReadSimFile(path).accepted())
-        for (const SimKey& key : reader.SimKeys)
-            if (namesShape(key))
-                shapes.push_back(key);
-    return shapes;
+std::optional<SimHit> shapeOfDescription(SimReader& reader, std::string_view path) {
+    // The closed form is a key outside of any block, which only a search keeps.
+    const ReadAnswer answer = reader.ReadSimFile(path, {"", "Shape"});
+    if (answer.found)
+        return reader.SimHits.front();
+    for (const SimKey& key : reader.SimKeys)
+        if (key.Key.empty() && !key.Value.empty() && pathIs(key.Path, "shape"))
+            return SimHit{key.Line, 0, "", "Shape", std::string(key.Tail), std::string(key.Value), key.place};
+    return std::nullopt;
 }
 
 } // namespace zandor

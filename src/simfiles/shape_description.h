@@ -3,14 +3,14 @@
 
 #include "simfiles/sim_file.h"
 
+#include <optional>
 #include <string_view>
-#include <vector>
 
 namespace zandor {
 
-// The keys that name a shape behind "shape (", whether its bracket closes on that line or behind other keys:
-// Value is the name as the file has it, Tail and Line tell where. Path and Key of the two forms differ. Valid
-// until the reader's next call; empty for a file that can't be read.
-std::vector<SimKey> shapesOfDescription(SimReader& reader, std::string_view path);
+// The key that names the shape behind "shape (", whether its bracket closes on that line or behind other
+// keys. Value is the name as the file has it, quotes kept. Nothing for a file that can't be read or names
+// none.
+std::optional<SimHit> shapeOfDescription(SimReader& reader, std::string_view path);
 
 } // namespace zandor
