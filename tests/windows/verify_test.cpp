@@ -100,6 +100,19 @@ struct VerifyTest : ::testing::Test {
         });
         looking->start(0);
     }
+    // Acts in the next dialog, once it is up.
+    void inDialog(std::function<void(QWidget*)> act) {
+        auto* waiting = new QTimer(window);
+        QObject::connect(waiting, &QTimer::timeout, window, [waiting, act = std::move(act)] {
+            QWidget* const dialog = QApplication::activeModalWidget();
+            if (!dialog)
+                return;
+            waiting->deleteLater();
+            waiting->stop();
+            act(dialog);
+        });
+        waiting->start(10);
+    }
     bool isOn(const char* name) { return get<QWidget>(name).isEnabled(); }
 };
 
@@ -268,9 +281,7 @@ TEST_F(VerifyTest, TheLastFileLeavesEmptyLabelsAndButtonsThatAreOff) {
 TEST_F(VerifyTest, AValueIsCorrectedByTheKeyboardAndTheFileLeavesTheList) {
     openVerified(4);
     test.dialogs.shown.clear();
-    QTimer::singleShot(10, window, [this] {
-        QWidget* const dialog = QApplication::activeModalWidget();
-        ASSERT_TRUE(dialog);
+    inDialog([this](QWidget* dialog) {
         QTimer::singleShot(200, dialog, [dialog] { dialog->close(); }); // if it is still there
         auto& offered = *dialog->findChild<QComboBox*>("cmbREPLACE");
         EXPECT_EQ(dialog->findChild<QLineEdit*>("tbVALUE")->text(), "Fright");

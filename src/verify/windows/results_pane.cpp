@@ -1,6 +1,5 @@
 #include "verify/windows/results_pane.h"
 
-#include "editor/windows/pane_parts.h"
 #include "verify/messages.h"
 #include "verify/windows/captions.h"
 #include "verify/windows/invalid_pane.h"
@@ -65,7 +64,7 @@ void ResultsPane::build() {
     fmINVALIDE_ = new InvalidPane(session_, shown_);
     fmDOUBLONS_ = new ReportPane(session_, ReportPane::Duplicates, shown_);
     fmINTROUVABLES_ = new ReportPane(session_, ReportPane::Missing, shown_);
-    shown_->addWidget(new LowPane(fmINVALIDE_, shown_));
+    shown_->addWidget(fmINVALIDE_);
     shown_->addWidget(fmDOUBLONS_);
     shown_->addWidget(fmINTROUVABLES_);
     auto* column = new QVBoxLayout(this);
