@@ -115,7 +115,8 @@ void ListConsistFiles(Frame& frame, Catalogue& catalogue, std::string_view root)
 // At most as many as positions can number; the user is told when there are more.
 std::vector<std::string> ListStockFolders(Frame& frame, std::string_view trainsetPath, bool stopAtLimit);
 // False: the user ended it.
-bool ScanStockFiles(Frame& frame, Catalogue& catalogue, const std::vector<std::string>& folders);
+bool ScanStockFiles(Frame& frame, Catalogue& catalogue, const std::vector<std::string>& folders,
+                    LoadOptions options = {});
 bool ScanConsists(Frame& frame, Catalogue& catalogue, LoadOptions options = {});
 // The reading of every stock file, the last step of the load. False: the user ended it.
 bool readAllStock(Frame& frame, Catalogue& catalogue, LoadOptions options = {});

@@ -35,7 +35,7 @@ bool loadSteps(Frame& frame, Catalogue& catalogue, LoadOptions options) {
     const std::vector<std::string> folders =
         ListStockFolders(frame, trainsetPath(frame.state.roots.RootPrimary()), true);
     markStep();
-    if (!ScanStockFiles(frame, catalogue, folders))
+    if (!ScanStockFiles(frame, catalogue, folders, options))
         return false;
     markStep();
     if (wantsThumbnailControl(frame, catalogue)) {

@@ -34,9 +34,9 @@ class AheadWork {
 // No file is begun before the one that comes by so many earlier was taken: a ring of as many results will do.
 inline constexpr std::size_t MostAhead = 512;
 
-// Reads `count` files with so many threads; 0: as many as the machine runs at a time, 8 at most. With one, or
-// when `files` has no other door, the caller's own thread reads. False: the work would not go on; what was
-// read ahead and not taken doesn't count. No thread outlives the call.
+// Reads `count` files with so many threads; 0: with 8, which is good for any machine. With one, or when
+// `files` has no other door, the caller's own thread reads. False: the work would not go on; what was read
+// ahead and not taken doesn't count. No thread outlives the call.
 bool readAhead(FileSystem& files, std::size_t count, int threads, AheadWork& work);
 
 } // namespace zandor
