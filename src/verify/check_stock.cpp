@@ -147,7 +147,7 @@ class StockCheck {
         if (!work_.onDisk.fileExists(folder + value))
             reportMissing(hit, value);
         else if (work_.options.CheckTextures)
-            queue(work_.queues.ShapeTargets, {folder, folder_ + "\\Cabview\\", value});
+            work_.queues.ShapeTargets.push_back({folder, folder_ + "\\Cabview\\", value});
     }
 
     void testSound(const SimHit& hit, Values) {
@@ -158,7 +158,7 @@ class StockCheck {
         if (!isOwn && (common.empty() || !work_.onDisk.fileExists(common + value)))
             reportMissing(hit, value);
         else if (work_.options.CheckSounds)
-            queue(work_.queues.SoundTargets, {isOwn ? own : common, folder_ + "\\Sound\\", value});
+            work_.queues.SoundTargets.push_back({isOwn ? own : common, folder_ + "\\Sound\\", value});
     }
 
     void testThumbnail(const SimHit& hit, Values) {
@@ -177,7 +177,7 @@ class StockCheck {
         if (!work_.onDisk.fileExists(path))
             reportMissing(hit, value);
         else if (work_.options.CheckTextures)
-            queue(work_.queues.ShapeTargets, {beside_, folder_ + "\\", std::string(value)});
+            work_.queues.ShapeTargets.push_back({beside_, folder_ + "\\", std::string(value)});
     }
 
     void testDescription(const std::string& path) {
@@ -188,11 +188,6 @@ class StockCheck {
         hit.Tail = shape.tail;
         hit.FirstLine = shape.line;
         reportMissing(hit, shape.value, true);
-    }
-
-    void queue(std::vector<CheckTarget>& targets, CheckTarget target) {
-        if (work_.queued.insert(lowerCase(target.Dir + '\n' + target.RelDir + target.File)).second)
-            targets.push_back(std::move(target));
     }
 
     void reportMissing(const SimHit& hit, std::string_view value, bool bare = false) {

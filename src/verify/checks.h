@@ -10,7 +10,6 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
-#include <unordered_set>
 
 namespace zandor {
 
@@ -43,7 +42,6 @@ struct VerifWork {
     PassFiles onDisk{frame.files};
     SimReader reader{frame.files};
 
-    std::unordered_set<std::string> queued{}; // what the queues hold or held: a file is looked into once
     std::unordered_map<std::string, DescribedShape> descriptions{}; // by path, lower case
     bool showsQuoteFailures = true, showsMandatory = true;          // until the user has seen enough of them
 };
