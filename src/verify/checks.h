@@ -10,6 +10,7 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <unordered_set>
 
 namespace zandor {
 
@@ -44,6 +45,8 @@ struct VerifWork {
 
     std::unordered_map<std::string, DescribedShape> descriptions{}; // by path, lower case
     bool showsQuoteFailures = true, showsMandatory = true;          // until the user has seen enough of them
+    std::unordered_set<std::string> examined{}; // owners of shapes, cab views and sound sets, lower case
+    std::string bytes{}, text{};                // of the file in hand; storage used again
 };
 
 // What a check of a consist is for: to list its faults, or only to tell whether there is one.

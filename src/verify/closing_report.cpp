@@ -1,9 +1,8 @@
-#include "platform/letter_case.h"
 #include "verify/messages.h"
+#include "verify/missing_list.h"
 #include "verify/verification.h"
 
-#include <algorithm>
-#include <unordered_set>
+#include <utility>
 
 namespace zandor {
 
@@ -41,7 +40,7 @@ class Report {
         const int sounds = results_.counters.MissingSounds;
         if (sounds == 0)
             return;
-        const int names = distinctSounds();
+        const int names = countDistinctNames(results_, MissingKind::Sound);
         const Message shown = sounds == 1  ? message::ReportOneSound
                               : names == 1 ? message::ReportOneSoundOften
                                            : message::ReportManySounds;
@@ -82,18 +81,8 @@ class Report {
             text_ += LineBreak;
     }
 
-    int distinctSounds() const {
-        std::unordered_set<std::string> names;
-        for (const MissingEntry& entry : results_.MissingEntries)
-            if (entry.Kind == MissingKind::Sound)
-                for (const MissingItem& item : entry.Items)
-                    names.insert(lowerCase(item.Name));
-        return static_cast<int>(names.size());
-    }
-
     void tellSoundSets() {
-        const auto sets =
-            std::ranges::count(results_.MissingEntries, MissingKind::Sound, &MissingEntry::Kind);
+        const int sets = countMissingOwners(results_, MissingKind::Sound);
         const std::string note =
             frame_.text(sets == 1 ? message::OneSoundSetNote : message::ManySoundSetsNote);
         text_ = frame_.text(sets == 1 ? message::ReportInOneSoundSet : message::ReportInManySoundSets,
