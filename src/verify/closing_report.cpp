@@ -11,9 +11,9 @@ namespace {
 constexpr const char* LineBreak = "\r\n";
 
 // The report as it grows: each message takes the text so far.
-class Report {
+class ClosingText {
   public:
-    Report(const Frame& frame, const VerifResults& results) : frame_(frame), results_(results) {
+    ClosingText(const Frame& frame, const VerifResults& results) : frame_(frame), results_(results) {
         text_ = frame.text(message::VerifyDone, {{"|1", LineBreak}});
     }
 
@@ -99,7 +99,7 @@ class Report {
 std::string closingReport(const Frame& frame, const VerifSelection& selection, const VerifOptions& options,
                           const VerifResults& results) {
     const VerifOptions done = optionsFor(selection.kind, options);
-    Report report(frame, results);
+    ClosingText report(frame, results);
     report.tellInvalid();
     report.tellCount(static_cast<int>(results.DuplicateEntries.size()), message::ReportOneDuplicate,
                      message::ReportManyDuplicates);

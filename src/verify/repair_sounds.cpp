@@ -73,8 +73,8 @@ class SetRepair {
   public:
     SetRepair(VerifWork& work, const WaveIndex& waves, const CheckTarget& target)
         : waves_(waves), places_(work.onDisk, work.places.sounds, target),
-          toTrainset_(wayToTrainset(target.Dir + std::string(folderPart(target.File)),
-                                    work.places.trainset)) {}
+          toTrainset_(
+              wayToTrainset(target.Dir + std::string(folderPart(target.File)), work.places.trainset)) {}
 
     std::vector<TextEdit> editsOf(std::string_view text) {
         std::vector<TextEdit> edits;
