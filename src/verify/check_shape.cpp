@@ -37,9 +37,8 @@ class TextureCheck {
 };
 
 void checkCabView(VerifWork& work, const std::string& path, TextureCheck& textures) {
-    ReadRequest request;
-    request.keepLines = textureLines(FileKind::CabView);
-    if (!work.reader.ReadSimFile(path, request).accepted())
+    // Read whole: keys whose blocks are left out would be taken for one and the same.
+    if (!work.reader.ReadSimFile(path).accepted())
         return;
     for (const SimKey& key : work.reader.SimKeys)
         if (endsWithIgnoringCase(StripQuotes(key.Value), ".ace"))

@@ -42,8 +42,8 @@ std::string_view upToShape(std::string_view value) {
 const DescribedShape& describedShape(VerifWork& work, const std::string& path) {
     const auto [found, isNew] = work.descriptions.try_emplace(lowerCase(path));
     if (isNew)
-        for (const SimKey& key : shapesOfDescription(work.reader, path))
-            found->second = {true, std::string(StripQuotes(key.Value)), std::string(key.Tail), key.Line};
+        if (const std::optional<SimKey> key = shapeOfDescription(work.reader, path))
+            found->second = {true, std::string(StripQuotes(key->Value)), std::string(key->Tail), key->Line};
     return found->second;
 }
 

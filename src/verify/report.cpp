@@ -78,8 +78,8 @@ std::string countedText(const Frame& frame, Message one, Message several, int co
 }
 
 void addDuplicate(ReportText& text, const Frame& frame, const DuplicateEntry& entry) {
-    text.add(frame.text(message::TheFile) + " ");
-    text.add("..\\" + entry.Name, Bold);
+    text.add(frame.text(message::TheFile) + " ..\\");
+    text.add(entry.Name, Bold);
     const int others = static_cast<int>(entry.Others.size());
     text.add(" " + countedText(frame, message::OneOther, message::ManyOthers, others, LineBreak));
     for (const std::string& other : entry.Others)
