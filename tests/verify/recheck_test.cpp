@@ -126,7 +126,8 @@ TEST_F(Recheck, AnEditorThatDoesNotStartGivesWayToTheNextOne) {
     state.ExecutableFolder = "\\usr\\bin";
     for (const char* path : {"\\program\\Skrivo.exe", "\\usr\\bin\\Skrivo", "\\program\\Skrivo"})
         files.put(path, "");
-    EXPECT_EQ(editorPrograms(frame), (Names{"\\program\\Skrivo.exe", "\\program\\Skrivo", "\\usr\\bin\\Skrivo"}));
+    EXPECT_EQ(editorPrograms(frame),
+              (Names{"\\program\\Skrivo.exe", "\\program\\Skrivo", "\\usr\\bin\\Skrivo"}));
     processes.works = false;
     EXPECT_EQ(edit("a.wag").told.at(0).message, message::EditorFailed);
     EXPECT_EQ(processes.started.size(), 3u);

@@ -38,6 +38,7 @@ struct ResultsTest : ::testing::Test, TestFrame {
         putWagon("sound.wag", "Freight");
         putConsist("used.con", "gone F");
         putConsist("lonely.con", "gone F");
+        work.places = placesOf(state.roots);
         LoadCatalogue(frame, catalogue, ReadOnlyLoad);
         catalogue.here().RamesEnService = {"USED.con"};
         initialiseDocument(editor);
@@ -56,7 +57,8 @@ struct ResultsTest : ::testing::Test, TestFrame {
     }
     void putConsist(std::string_view name, std::string_view wagon) {
         files.put(Consists + std::string(name),
-                  simText("Train (\r\n\tTrainCfg ( x\r\n\t\tWagon (\r\n\t\t\tWagonData ( " + std::string(wagon) +
+                  simText("Train (\r\n\tTrainCfg ( x\r\n\t\tWagon (\r\n\t\t\tWagonData ( " +
+                          std::string(wagon) +
                           " )\r\n\t\t\tUiD ( 0 )\r\n\t\t)\r\n\t\tWagon (\r\n\t\t\tWagonData ( a F )\r\n" +
                           "\t\t\tUiD ( 1 )\r\n\t\t)\r\n\t)\r\n)\r\n"));
     }
