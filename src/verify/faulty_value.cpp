@@ -256,7 +256,9 @@ std::optional<OldValue> findOld(FileSystem& files, const std::string& path, cons
 // ---- writing
 
 std::string displayedKey(const ErrorLine& line) {
-    return std::string(trim(std::string_view(line.Key).substr(0, line.Key.find('('))));
+    std::string key = line.Key.substr(0, line.Key.find('('));
+    std::ranges::replace(key, '\t', ' ');
+    return std::string(trim(key));
 }
 
 Outcome notChanged(Frame& frame, const std::string& path, const ErrorLine& line) {

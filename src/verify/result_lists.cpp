@@ -83,9 +83,10 @@ Moving moveFile(FileSystem& files, const std::string& source, const std::string&
     return moveBytes(files, source, target, bytes, isNew);
 }
 
-// True when the file isn't there any more.
+// True when the file isn't there any more; a disk that doesn't answer doesn't say so.
 bool removeFile(FileSystem& files, const std::string& path) {
-    return files.deleteFile(path) || !isThere(files, path);
+    std::string none;
+    return files.deleteFile(path) || files.read(path, none, 0) == ReadResult::Missing;
 }
 
 // ---- the files that were chosen
