@@ -38,25 +38,35 @@ std::string_view upToShape(std::string_view value) {
     return value;
 }
 
-// Real descriptions open a block with the shape's name and close it lines later, or not at all.
-DescribedShape shapeIn(const std::vector<SimKey>& keys) {
-    for (auto key = keys.begin(); key != keys.end(); ++key) {
-        const bool isKey = key->Path.empty() && nameIs(key->Key, "Shape");
-        if (!isKey && !(key->Key.empty() && pathIs(key->Path, "Shape")))
-            continue;
-        std::string_view value = key->Value;
-        const auto next = std::next(key);
-        if (value.empty() && next != keys.end() && pathIs(next->Path, "Shape"))
-            value = next->Key.substr(0, next->Key.rfind(' ')); // shape ( a.s ESD_Detail_Level ( 0 )
-        return {true, std::string(StripQuotes(value)), std::string(key->Tail), key->Line};
+// Of a block that opens with the shape's name and is closed lines later, or not at all, as in most files.
+DescribedShape shapeOfBlock(const std::vector<SimKey>& keys) {
+    const auto block = std::ranges::find_if(
+        keys, [](const SimKey& key) { return key.Key.empty() && pathIs(key.Path, "Shape"); });
+    if (block == keys.end())
+        return {};
+    std::string_view value = block->Value;
+    const auto next = std::next(block);
+    if (value.empty() && next != keys.end() && pathIs(next->Path, "Shape"))
+        value = next->Key.substr(0, next->Key.rfind(' ')); // shape ( a.s ESD_Detail_Level ( 0 )
+    return {true, std::string(StripQuotes(value)), std::string(block->Tail), block->Line};
+}
+
+DescribedShape shapeIn(SimReader& reader, const std::string& path) {
+    std::string bytes;
+    if (!reader.files().readFile(path, bytes))
+        return {};
+    if (reader.readBytes(path, bytes, {.key = "Shape"}).found) {
+        const SimHit& hit = reader.SimHits.front();
+        return {true, std::string(StripQuotes(hit.Value)), hit.Tail, hit.FirstLine};
     }
-    return {};
+    reader.readBytes(path, bytes);
+    return shapeOfBlock(reader.SimKeys);
 }
 
 const DescribedShape& describedShape(VerifWork& work, const std::string& path) {
     const auto [found, isNew] = work.descriptions.try_emplace(lowerCase(path));
-    if (isNew && work.reader.ReadSimFile(path).accepted())
-        found->second = shapeIn(work.reader.SimKeys);
+    if (isNew)
+        found->second = shapeIn(work.reader, path);
     return found->second;
 }
 
