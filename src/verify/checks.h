@@ -43,9 +43,10 @@ struct VerifWork {
     PassFiles onDisk{frame.files};
     SimReader reader{frame.files};
 
-    std::unordered_set<std::string> queued{}; // what the queues hold or held: a file is looked into once
     std::unordered_map<std::string, DescribedShape> descriptions{}; // by path, lower case
     bool showsQuoteFailures = true, showsMandatory = true;          // until the user has seen enough of them
+    std::unordered_set<std::string> examined{}; // owners of shapes, cab views and sound sets, lower case
+    std::string bytes{}, text{};                // of the file in hand; storage used again
 };
 
 // What a check of a consist is for: to list its faults, or only to tell whether there is one.
