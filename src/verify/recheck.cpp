@@ -1,5 +1,6 @@
 #include "verify/recheck.h"
 
+#include "editor/files_changed.h"
 #include "verify/result_lists.h"
 
 #include <algorithm>
@@ -48,9 +49,10 @@ void check(VerifWork& work, Catalogue& catalogue, const StockName& name, std::st
     work.descriptions.clear();
     if (!isThere(work.frame.files, path))
         forgetMandatory(work.results, name);
-    else if (endsWithIgnoringCase(path, ".con"))
+    else if (endsWithIgnoringCase(path, ".con")) {
         CheckConsistFile(work, name.file, Quiet::No, path);
-    else
+        rereadConsist(work.frame, catalogue, path);
+    } else
         checkStock(work, catalogue, name, path);
     work.queues = {}; // what the file names isn't looked into
     work.queued.clear();

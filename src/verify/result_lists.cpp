@@ -4,7 +4,7 @@
 #include "catalogue/name_key.h"
 #include "editor/consist_summaries.h"
 #include "editor/editor_parts.h"
-#include "editor/files_gone.h"
+#include "editor/files_changed.h"
 #include "editor/messages.h"
 #include "verify/messages.h"
 
@@ -239,12 +239,18 @@ struct MovedFiles {
     std::vector<Chosen> moved, vanished, taken, failed;
 };
 
-// False in `yield`: the user ends it, and what is left stays.
+// False: the user ends it, and what is left stays.
+bool goesOn(Frame& frame, const std::vector<Chosen>& chosen, const Chosen& next) {
+    const int count = static_cast<int>(chosen.size());
+    frame.progress.ShowProgress(0, count, static_cast<int>(&next - chosen.data()), next.path);
+    return frame.progress.yield();
+}
+
 MovedFiles moveEach(Editor& editor, const VerifResults& results, const std::vector<Chosen>& chosen) {
     MovedFiles sorted;
     std::string folders[std::size(Kinds)];
     for (const Chosen& file : chosen) {
-        if (!editor.frame.progress.yield())
+        if (!goesOn(editor.frame, chosen, file))
             break;
         const InvalidFile& record = recordOf(results, file);
         std::string& folder = folders[static_cast<std::size_t>(kindOf(record))];
@@ -362,7 +368,7 @@ FilesGone deleteInvalidFiles(Editor& editor, VerifResults& results, const std::v
         return {};
     std::vector<Chosen> gone, failed;
     for (const Chosen& file : files) {
-        if (!editor.frame.progress.yield())
+        if (!goesOn(editor.frame, files, file))
             break;
         (removeFile(editor.frame.files, file.path) ? gone : failed).push_back(file);
     }

@@ -38,7 +38,8 @@ struct [[nodiscard]] FilesGone {
 
 // `chosen`: positions in InvalidFiles, from 0; those that went are taken out of it. One file is asked for in
 // a file dialog, several go to the folders "Rames", "Motrices" and "Wagons" of the backup folder after one
-// question. A copy is read back before its original is deleted; whatever fails leaves the original.
+// question. A copy is read back before its original is deleted; whatever fails leaves the original. Yields
+// once a file: nobody else may change the results meanwhile.
 FilesGone moveInvalidFiles(Editor& editor, VerifResults& results, const std::vector<int>& chosen);
 // The same without a copy, after one question.
 FilesGone deleteInvalidFiles(Editor& editor, VerifResults& results, const std::vector<int>& chosen);

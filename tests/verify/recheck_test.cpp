@@ -78,6 +78,7 @@ TEST_F(Recheck, AConsistIsCheckedByItsPath) {
     putConsist("used.con", "a F");
     EXPECT_EQ(RecheckAfterEdit(work, catalogue, std::string(Consists) + "used.con"), std::nullopt);
     EXPECT_EQ(invalid(), (Names{"a.wag", "b.wag", "c.wag"}));
+    EXPECT_EQ(countOf("gone.wag"), 1); // of the other consist
 }
 
 TEST_F(Recheck, TheEditorIsWaitedForAndAChangedFileIsCheckedAgain) {
