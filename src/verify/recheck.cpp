@@ -55,7 +55,7 @@ void check(VerifWork& work, Catalogue& catalogue, const StockName& name, std::st
     } else
         checkStock(work, catalogue, name, path);
     work.queues = {}; // what the file names isn't looked into
-    work.queued.clear();
+    work.examined.clear();
     compactInvalidFiles(work.results.InvalidFiles);
 }
 
