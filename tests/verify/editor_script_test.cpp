@@ -1,6 +1,9 @@
 // The script that opens the user's own editor, run with editors that write down what they were called with.
 #include "platform/processes.h"
-#include "verify/external_editor.h"
+#include "platform/real_file_system.h"
+#include "support/fakes.h"
+#include "verify/recheck.h"
+#include "verify/result_lists.h"
 
 #include <gtest/gtest.h>
 
@@ -115,6 +118,44 @@ TEST_F(EditorScript, TheUsersChoiceComesBeforeWhatIsInstalled) {
     EXPECT_EQ(call({"/f", "-1"}), "<geany><-m><--new-instance></f>");
     set("VISUAL", nullptr);
     EXPECT_EQ(call({"/f", "-1"}), "<kate><--block></f>");
+}
+
+struct ShortWait final : EditorWait {
+    bool wait(std::chrono::milliseconds time) override {
+        std::this_thread::sleep_for(time);
+        return true;
+    }
+};
+
+TEST_F(EditorScript, AFaultThatTheUserMendsThereLeavesTheList) {
+    const std::string path = (folder / "M/Trains/Trainset/Coal cars/Élan #1.wag").string();
+    fs::create_directories(fs::path(path).parent_path());
+    std::ofstream(path)
+        << "SIMISA@@@@@@@@@@JINX0D0t______\r\n\r\nWagon ( X\r\n Type ( Fright )\r\n"
+           " Size ( 1m 2m 3m )\r\n Mass ( 9t )\r\n Coupling (\r\n  Type ( Bar )\r\n )\r\n)\r\n";
+    std::ofstream(folder / "mender") << "#!/bin/sh\nsed -i \"s/Fright/Freight/\" \"$1\"\n";
+    fs::permissions(folder / "mender", fs::perms::owner_all);
+    set("ZANDOR_EDITOR", "mender");
+
+    TestFrame test;
+    const auto files = makeRealFileSystem("");
+    const auto processes = makeSystemProcesses();
+    Frame frame{test.state, *files,       test.profiles, test.registry,
+                *processes, test.dialogs, test.progress, Language(test.profiles, test.state)};
+    test.state.ProgramFolder = ZANDOR_SOURCE_DIR "/packaging";
+    test.state.roots.RootMSTS = (folder / "M").string();
+    Catalogue catalogue;
+    const VerifOptions options;
+    VerifResults results;
+    VerifWork work{frame, options, results};
+    CheckStockFile(work, "Coal cars", "Élan #1.wag");
+    ASSERT_EQ(results.InvalidFiles.size(), 1u);
+    const InvalidFile faulty = results.InvalidFiles[0];
+    ShortWait wait;
+    const EditorRun run = editAndRecheck(work, catalogue, invalidPath(faulty), &faulty.Lines.at(0), wait);
+    EXPECT_TRUE(run.done && run.changed);
+    EXPECT_TRUE(results.InvalidFiles.empty());
+    EXPECT_TRUE(results.mandatory.empty());
 }
 
 TEST_F(EditorScript, WithoutAnEditorItSaysSo) {
