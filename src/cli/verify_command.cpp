@@ -32,6 +32,10 @@ class PassDialogs final : public Dialogs {
                                            const std::string&) override {
         return std::nullopt;
     }
+    std::optional<std::string> askSaveFile(const std::string&, const std::string&, const std::string&,
+                                           const std::string&, const std::string&) override {
+        return std::nullopt;
+    }
 
     std::vector<std::string> texts;
 

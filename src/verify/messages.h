@@ -175,4 +175,23 @@ inline constexpr Message ValueLabel{744};
 inline constexpr Message OfferedLabel{745};
 inline constexpr Message NewValueLabel{746};
 
+// what is done with the files of the lists
+inline constexpr Message AskMoveSeveral{
+    850}; // |1 how many files, |2 a line break, |3 their names, |4 the backup folder
+inline constexpr Message AskDeleteSeveral{851};   // |1 how many files, |2 a line break, |3 their names
+inline constexpr Message AskGoOnUsedSeveral{852}; // as 851, of consists that services use
+inline constexpr Message SeveralMoved{853};       // |1 how many files, |2 the backup folder
+inline constexpr Message MoveFailed{854};         // |1 the file, |2 a line break, |3 where it was to be
+inline constexpr Message MoveNameTaken{855};      // |1 the file that has the name, |2 a line break
+inline constexpr Message SeveralNamesTaken{856};  // as 851
+inline constexpr Message SeveralNotMoved{857};    // as 851
+inline constexpr Message SeveralNotDeleted{858};  // as 851
+inline constexpr Message FolderNotOpened{859};    // |1 the folder, |2 a line break
+
+// kinds of fault, as filters
+inline constexpr Message KindMandatoryKey{860};
+inline constexpr Message KindMissingTexture{861};
+inline constexpr Message KindMissingSound{862};
+inline constexpr Message KindDuplicate{863};
+
 } // namespace zandor::message
