@@ -115,6 +115,10 @@ TEST_F(StockCheck, WhatStockCantDoWithoutIsToldEachTimeUntilTheUserHasSeenEnough
                                                const std::string&) override {
             return std::nullopt;
         }
+        std::optional<std::string> askSaveFile(const std::string&, const std::string&, const std::string&,
+                                               const std::string&, const std::string&) override {
+            return std::nullopt;
+        }
     } impatient;
     put("F\\a.wag", stockText("Wagon ( a\r\nType ( Freight )\r\n)\r\n"));
     put("F\\b.wag", "something else");
