@@ -12,6 +12,9 @@ struct TreeSize {
     int stock = 0;
     int consists = 0;
     std::uint64_t seed = 1; // the same seed and counts give the same bytes
+    // The stock of a folder shares two shapes with ten textures each and two sound sets with five waves each,
+    // all of which are there; otherwise each file names its own, and none is.
+    bool withNamedFiles = false;
 };
 
 // `root` is a native path; its folders are made. False: a file couldn't be written.
