@@ -138,6 +138,8 @@ inline constexpr Message ReportKeysMissing{573};    // as 370
 inline constexpr Message MissingItemEmptyFile{588}; // |1 the name, |2 a line break
 
 // the verifier's tab
+inline constexpr Message TabFiles{606};
+inline constexpr Message TabResults{607};
 inline constexpr Message KindConsists{610};
 inline constexpr Message KindEngines{611};
 inline constexpr Message KindWagons{612};
@@ -165,6 +167,32 @@ inline constexpr Message ShowDuplicates{638};
 inline constexpr Message ShowMissing{639};
 inline constexpr Message OneSoundSetNote{640};   // ends 380
 inline constexpr Message ManySoundSetsNote{641}; // ends 381
+
+// the verifier's tab: finding one's way through lists
+inline constexpr Message FilterCandidates{900};
+inline constexpr Message CandidatesChosen{901}; // |1 how many, |2 of how many
+inline constexpr Message SearchResults{902};
+inline constexpr Message AllFaults{903};
+inline constexpr Message NextFaultButton{904};
+inline constexpr Message CorrectButton{905};
+inline constexpr Message ColumnLine{906};
+inline constexpr Message ColumnFault{907};
+inline constexpr Message ColumnFaults{908}; // how many
+inline constexpr Message NoInvalidFile{909};
+inline constexpr Message NoFileFits{910};
+inline constexpr Message NothingVerified{911};
+inline constexpr Message NoCandidates{912};
+inline constexpr Message FileUnreadable{913};
+inline constexpr Message FileText{914};
+inline constexpr Message GroupCandidates{915};
+inline constexpr Message ColumnStockFolder{916};
+inline constexpr Message VerifyStopped{917};
+inline constexpr Message FaultsInFiles{918};    // |1 faults, |2 files
+inline constexpr Message MandatoryKeyName{919}; // |1 the key
+inline constexpr Message FilesChosen{920};      // |1 how many
+inline constexpr Message GroupKind{924};
+inline constexpr Message ReportNotSaved{926}; // |1 the file, |2 a line break
+inline constexpr Message VerifyRuns{925};
 
 // the correction of faulty values
 inline constexpr Message CorrectTitle{740}; // |1 the title

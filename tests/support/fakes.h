@@ -33,7 +33,7 @@ class FakeDialogs final : public Dialogs {
     std::vector<Asked> asked; // calls of askOpenFile() and askSaveFile()
     std::deque<int> answers;
     int defaultAnswer = answer::Ok;
-    std::function<void()> whenShown;     // while a message stands there
+    std::function<void()> whenShown;               // while a message stands there
     std::optional<std::string> openFile, saveFile; // nothing: the user cancels
 
     int ShowMessage(const std::string& text, int messageStyle, const std::string& title, const std::string&,

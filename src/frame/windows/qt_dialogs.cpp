@@ -1,5 +1,6 @@
 #include "frame/windows/qt_dialogs.h"
 
+#include "frame/messages.h"
 #include "frame/windows/alert.h"
 #include "frame/windows/cursors.h"
 #include "frame/windows/help.h"
@@ -46,6 +47,16 @@ int QtDialogs::ShowMessage(const std::string& text, int style, const std::string
     const int answer = window.ask();
     state_.LastAnswer = std::to_string(answer);
     return answer;
+}
+
+bool QtDialogs::showRepeated(const std::string& text, int style, const std::string& title) {
+    const PointerShape pointer(Qt::ArrowCursor);
+    const Alert alert = decodeAlertStyle(style);
+    frmAlert window(alert, alertCaptions(language_, alert), toQt(title), toQt(text), parentOfDialogs());
+    setHelpContext(window, helpContext::Messages);
+    window.offerNoMore(toQt(language_.GetLangText(message::ShowNoMore)));
+    state_.LastAnswer = std::to_string(window.ask());
+    return !window.noMore();
 }
 
 std::string fileDialogFilter(const std::string& filter) {

@@ -16,6 +16,7 @@ class QtDialogs final : public Dialogs {
 
     int ShowMessage(const std::string& text, int style, const std::string& title,
                     const std::string& helpFile = {}, int helpContext = 0) override;
+    bool showRepeated(const std::string& text, int style, const std::string& title) override;
     // Takes and gives paths in the program's form.
     std::optional<std::string> askOpenFile(const std::string& title, const std::string& filter,
                                            const std::string& folder,
