@@ -6,5 +6,6 @@ namespace zandor::bench {
 inline constexpr int StockCounts[] = {1000, 4000, 16000, 32000};
 inline constexpr int ConsistCount = 10000;
 inline constexpr int ConsistStock = 16000; // the stock that these consists name
+inline constexpr int ColdStock = 4000;     // read from the disk itself
 
 } // namespace zandor::bench

@@ -1,9 +1,11 @@
 #include "bench_trees.h"
 
 #include <algorithm>
+#include <atomic>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
+#include <thread>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -83,6 +85,32 @@ std::size_t readPlainly(const std::vector<std::string>& paths) {
     for (const std::string& path : paths)
         total += readOne(path, bytes);
     return total;
+}
+
+std::size_t readPlainly(const std::vector<std::string>& paths, int threads) {
+    std::atomic<std::size_t> next = 0, total = 0;
+    std::vector<std::thread> readers;
+    for (int i = 0; i < threads; ++i)
+        readers.emplace_back([&] {
+            std::string bytes;
+            for (std::size_t at = next++; at < paths.size(); at = next++)
+                total += readOne(paths[at], bytes);
+        });
+    for (std::thread& reader : readers)
+        reader.join();
+    return total;
+}
+
+bool emptyCache(const std::vector<std::string>& paths) {
+    for (const std::string& path : paths) {
+        const int file = open(path.c_str(), O_RDONLY | O_CLOEXEC);
+        posix_fadvise(file, 0, 0, POSIX_FADV_DONTNEED);
+        close(file);
+    }
+    const int all = open("/proc/sys/vm/drop_caches", O_WRONLY | O_CLOEXEC);
+    const bool emptied = write(all, "3", 1) == 1;
+    close(all);
+    return emptied;
 }
 
 } // namespace zandor::bench
