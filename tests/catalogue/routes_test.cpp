@@ -271,12 +271,13 @@ TEST_F(RoutesTest, TellsTheFirstRouteThatRunsAConsistAndMarksThoseOfBothRoots) {
         putRoute(name);
     putRoute("A", StoreRoot);
     put("A\\Services\\a.srv", "Name ( no consist )");
-    put("B\\Services\\a.srv", "Train_Config ( Été )");
+    put("B\\Services\\a.srv", encodeWindows1252("Train_Config ( Été )"));
     put("A\\Services\\a.srv", "Train_Config ( other )", StoreRoot);
     for (const char* root : {MstsRoot, StoreRoot})
         for (const char* file : {"été.con", "Other.CON"})
             putConsist(file, file, {}, root);
     ASSERT_TRUE(readIndex());
+    ASSERT_NE(findRouteUsing(catalogue.here(), "ÉTÉ.Con"), nullptr);
     EXPECT_EQ(findRouteUsing(catalogue.here(), "ÉTÉ.Con")->Nom, "B");
     EXPECT_EQ(findRouteUsing(catalogue.here(), "other.con"), nullptr);
     EXPECT_EQ(findRouteUsing(catalogue.here(), "été"), nullptr);
