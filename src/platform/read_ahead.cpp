@@ -7,6 +7,7 @@
 #include <condition_variable>
 #include <exception>
 #include <mutex>
+#include <new>
 #include <system_error>
 #include <thread>
 #include <vector>
@@ -168,6 +169,19 @@ struct Reading {
     std::unique_ptr<AheadReader> reader;
 };
 
+// False: there is no other door, or too little memory: then fewer threads read.
+bool addReading(FileSystem& files, AheadWork& work, std::vector<Reading>& readings) {
+    try {
+        if (std::unique_ptr<FileSystem> door = files.anotherDoor()) {
+            std::unique_ptr<AheadReader> reader = work.makeReader(*door);
+            readings.push_back({std::move(door), std::move(reader)});
+            return true;
+        }
+    } catch (const std::bad_alloc&) {
+    }
+    return false;
+}
+
 std::size_t threadsFor(std::size_t count, int wanted) {
     return std::min(wanted > 0 ? static_cast<std::size_t>(wanted) : UsualThreads, chunksOf(count));
 }
@@ -179,15 +193,9 @@ bool readAhead(FileSystem& files, std::size_t count, int threads, AheadWork& wor
     std::vector<Reading> readings; // outlive the threads
     readings.reserve(wanted);
     ReadingThreads ahead(count);
-    while (wanted > 1 && readings.size() < wanted) {
-        std::unique_ptr<FileSystem> door = files.anotherDoor();
-        if (!door)
-            break;
-        std::unique_ptr<AheadReader> reader = work.makeReader(*door);
-        readings.push_back({std::move(door), std::move(reader)});
+    while (wanted > 1 && readings.size() < wanted && addReading(files, work, readings))
         if (!ahead.start(*readings.back().reader))
             break;
-    }
     return ahead.isEmpty() ? readAlone(files, count, work) : ahead.takeAll(work);
 }
 
