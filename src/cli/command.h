@@ -36,5 +36,8 @@ std::unique_ptr<Command> makeConsistCommand();
 std::unique_ptr<Command> makeCatalogueCommand();
 std::unique_ptr<Command> makeComposeCommand();
 std::unique_ptr<Command> makeOpenCommand();
+std::unique_ptr<Command> makeRoutesCommand();
+std::unique_ptr<Command> makeServicesCommand();
+std::unique_ptr<Command> makeActivitiesCommand();
 
 } // namespace zandor
