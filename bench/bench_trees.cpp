@@ -1,5 +1,7 @@
 #include "bench_trees.h"
 
+#include "bench_sizes.h"
+
 #include <algorithm>
 #include <atomic>
 #include <cstdio>
@@ -35,15 +37,17 @@ std::vector<std::string> filesBelow(const std::filesystem::path& folder) {
 
 Tree makeMeasuredTree(const std::string& root, int stock, int consists) {
     std::fprintf(stderr, "making a tree of %d stock files and %d consists\n", stock, consists);
-    if (!makeTree(root, {stock, consists})) {
+    if (!makeTree(root, {stock, consists, consists > 0 ? RouteCount : 0})) {
         std::fprintf(stderr, "zandor-bench: cannot write below %s\n", root.c_str());
         std::exit(1);
     }
     const std::filesystem::path trains = std::filesystem::path(root) / "TRAINS";
-    Tree tree{root, filesBelow(trains / "TRAINSET"), filesBelow(trains / "CONSISTS")};
+    Tree tree{root, filesBelow(trains / "TRAINSET"), filesBelow(trains / "CONSISTS"),
+              filesBelow(std::filesystem::path(root) / "ROUTES")};
     sync(); // the writing of the new files would disturb what is measured next
     readPlainly(tree.stockFiles);
     readPlainly(tree.consistFiles);
+    readPlainly(tree.routeFiles);
     return tree;
 }
 

@@ -15,6 +15,7 @@ struct Tree {
     std::string root;
     std::vector<std::string> stockFiles;
     std::vector<std::string> consistFiles;
+    std::vector<std::string> routeFiles; // of a tree that has consists
 };
 
 class Trees {

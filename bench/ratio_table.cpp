@@ -37,6 +37,8 @@ void RatioTable::Finalize() {
             printRow(operation, PlainStock, files);
     for (const char* operation : {PlainConsists, Consists})
         printRow(operation, PlainConsists, ConsistCount);
+    for (const char* operation : {PlainRoutes, IndexFull, IndexLines, IndexFullAlone, IndexLinesAlone})
+        printRow(operation, PlainRoutes, RouteFiles);
     for (const char* operation : {ColdStockRead, ColdFull, ColdQuick})
         printRow(operation, ColdStockRead, ColdStock);
     for (const char* operation : {PlainStock, LoadFull, LoadQuick})

@@ -17,6 +17,11 @@ inline constexpr const char* LoadQuick = "LoadCatalogueQuick";
 inline constexpr const char* LoadFullAlone = "LoadFullOneThread";
 inline constexpr const char* LoadQuickAlone = "LoadQuickOneThread";
 inline constexpr const char* Consists = "ScanConsists";
+inline constexpr const char* PlainRoutes = "PlainReadRoutes";
+inline constexpr const char* IndexFull = "IndexFullTwoThreads";
+inline constexpr const char* IndexLines = "IndexLinesTwoThreads";
+inline constexpr const char* IndexFullAlone = "IndexFullOneThread";
+inline constexpr const char* IndexLinesAlone = "IndexLinesOneThread";
 // From the disk itself.
 inline constexpr const char* ColdStockRead = "ColdReadFourThreads";
 inline constexpr const char* ColdFull = "ColdLoadFull";

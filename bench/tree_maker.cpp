@@ -2,6 +2,7 @@
 
 #include "text/decode.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <initializer_list>
@@ -15,6 +16,8 @@ namespace {
 
 constexpr int StockPerFolder = 10;
 constexpr int NamedPerFolder = 2, TexturesPerShape = 10, WavesPerSet = 5;
+constexpr int ServicesPerRoute = 100, ActivitiesPerRoute = 25;
+constexpr int VehiclesStanding = 30, VehiclesPerTrain = 6; // in an activity
 // In characters of the text; a file has two bytes a character.
 constexpr std::size_t EngineLength = 12000;
 constexpr std::size_t WagonLength = 1820;
@@ -74,7 +77,11 @@ struct StockName {
 // Lines of a bracketed file at the depth in hand.
 class Lines {
   public:
-    std::string text = "SIMISA@@@@@@@@@@JINX0D0t______\r\n\r\n";
+    std::string text;
+
+    // The letter that tells the kind of file: D for consists and stock.
+    explicit Lines(char kind = 'D')
+        : text(std::string("SIMISA@@@@@@@@@@JINX0") + kind + "0t______\r\n\r\n") {}
 
     // The pieces, which are evaluated in their order, make one text.
     using Pieces = std::initializer_list<std::string_view>;
@@ -287,6 +294,14 @@ std::string engineText(const StockName& stock, Dice& dice) {
     return std::move(lines.text);
 }
 
+void addVehicle(Lines& lines, Dice& dice, const std::vector<StockName>& stock, int number) {
+    const StockName& vehicle = stock[dice.roll(static_cast<int>(stock.size()))];
+    lines.open(vehicle.isEngine ? "Engine" : "Wagon");
+    lines.key(vehicle.isEngine ? "EngineData" : "WagonData", {vehicle.name, " ", vehicle.folder});
+    lines.key("UiD", std::to_string(number));
+    lines.close();
+}
+
 std::string consistText(const std::string& name, const std::vector<StockName>& stock, Dice& dice) {
     Lines lines;
     const int vehicles = dice.between(6, 12);
@@ -297,13 +312,86 @@ std::string consistText(const std::string& name, const std::vector<StockName>& s
     lines.key("MaxVelocity", "40.00000 1.00000");
     lines.key("NextWagonUID", std::to_string(vehicles));
     lines.key("Durability", "1.00000");
-    for (int i = 0; i < vehicles && !stock.empty(); ++i) {
-        const StockName& vehicle = stock[dice.roll(static_cast<int>(stock.size()))];
-        lines.open(vehicle.isEngine ? "Engine" : "Wagon");
-        lines.key(vehicle.isEngine ? "EngineData" : "WagonData", {vehicle.name, " ", vehicle.folder});
-        lines.key("UiD", std::to_string(i));
+    for (int i = 0; i < vehicles && !stock.empty(); ++i)
+        addVehicle(lines, dice, stock, i);
+    lines.close();
+    lines.close();
+    return std::move(lines.text);
+}
+
+std::string serviceText(const std::string& name, int consists, Dice& dice) {
+    Lines lines('v');
+    lines.open("Service_Definition");
+    lines.key("Serial", "1");
+    lines.key("Name", {"\"Service ", name, "\""});
+    lines.key("Train_Config", {"rame", std::to_string(dice.roll(consists))});
+    lines.key("PathID", {"path", std::to_string(dice.roll(40))});
+    lines.key("MaxWheelAcceleration", dice.decimal(200, 900, 1000));
+    lines.key("Efficiency", dice.decimal(70, 99, 100));
+    lines.key("TimeTable", "0");
+    lines.close();
+    return std::move(lines.text);
+}
+
+void addStandingTrain(Lines& lines, Dice& dice, const std::vector<StockName>& stock, int vehicles) {
+    lines.open("ActivityObject");
+    lines.key("ObjectType", "WagonsList");
+    lines.open("Train_Config");
+    lines.open("TrainCfg", "\"\"");
+    lines.key("MaxVelocity", "0 0.001");
+    lines.key("Durability", "1");
+    for (int i = 0; i < vehicles; ++i)
+        addVehicle(lines, dice, stock, i);
+    lines.close();
+    lines.close();
+    lines.key("Direction", std::to_string(dice.roll(2)));
+    lines.key("ID", std::to_string(dice.between(32768, 65000)));
+    lines.key("Tile", {"-6079 14925 ", dice.decimal(0, 99999, 100), " ", dice.decimal(0, 99999, 100)});
+    lines.close();
+}
+
+void addTraffic(Lines& lines, Dice& dice, int services) {
+    lines.open("Traffic_Definition", "traffic");
+    for (int i = 0; i < services; ++i) {
+        lines.open("Service_Definition", {"service"});
+        lines.key("Time", std::to_string(dice.between(0, 86000)));
+        lines.key("UiD", std::to_string(i + 1));
         lines.close();
     }
+    lines.close();
+}
+
+void addEvents(Lines& lines, Dice& dice, int events) {
+    lines.open("Events");
+    for (int i = 0; i < events; ++i) {
+        lines.open("EventCategoryLocation");
+        lines.key("EventTypeLocation", "");
+        lines.key("ID", std::to_string(i));
+        lines.key("Activation_Level", "1");
+        lines.key("Outcomes", {"DisplayMessage ( \"", dice.pick(Sentences), "\" )"});
+        lines.key("Location", {"-6079 14925 ", dice.decimal(0, 99999, 100), " 10"});
+        lines.close();
+    }
+    lines.close();
+}
+
+std::string activityText(const std::string& name, const std::vector<StockName>& stock, Dice& dice) {
+    Lines lines('a');
+    lines.open("Tr_Activity");
+    lines.key("Serial", "1");
+    lines.open("Tr_Activity_Header");
+    lines.key("RouteID", "route");
+    lines.key("Name", {"\"Activity ", name, "\""});
+    addDescription(lines, dice);
+    lines.key("StartTime", "8 30 0");
+    lines.close();
+    lines.open("Tr_Activity_File");
+    addTraffic(lines, dice, dice.between(8, 16));
+    addEvents(lines, dice, dice.between(6, 12));
+    lines.open("ActivityObjects");
+    for (int train = 0; train < VehiclesStanding / VehiclesPerTrain; ++train)
+        addStandingTrain(lines, dice, stock, VehiclesPerTrain);
+    lines.close();
     lines.close();
     lines.close();
     return std::move(lines.text);
@@ -394,6 +482,29 @@ bool writeNamedFiles(const std::filesystem::path& folder, Dice& dice) {
     return written;
 }
 
+std::string numbered(std::string_view word, int number, std::string_view extension) {
+    return std::string(word).append(std::to_string(number)).append(extension);
+}
+
+bool writeRoute(const std::filesystem::path& folder, const std::string& name, const TreeSize& size,
+                const std::vector<StockName>& stock, Dice& dice) {
+    std::filesystem::create_directories(folder / "SERVICES");
+    std::filesystem::create_directories(folder / "ACTIVITIES");
+    Lines track('r');
+    track.open("Tr_RouteFile");
+    track.key("RouteID", name);
+    track.key("Name", {"\"The line of ", name, "\""});
+    track.close();
+    bool written = writeUtf16(folder / (name + ".trk"), track.text);
+    for (int i = 0; i < ServicesPerRoute; ++i)
+        written = written && writeUtf16(folder / "SERVICES" / numbered("s", i, ".srv"),
+                                        serviceText(std::to_string(i), std::max(size.consists, 1), dice));
+    for (int i = 0; i < ActivitiesPerRoute && !stock.empty(); ++i)
+        written = written && writeUtf16(folder / "ACTIVITIES" / numbered("a", i, ".act"),
+                                        activityText(std::to_string(i), stock, dice));
+    return written;
+}
+
 } // namespace
 
 bool makeTree(const std::string& root, const TreeSize& size) {
@@ -401,6 +512,7 @@ bool makeTree(const std::string& root, const TreeSize& size) {
     std::error_code error;
     std::filesystem::create_directories(trains / "TRAINSET", error);
     std::filesystem::create_directories(trains / "CONSISTS", error);
+    std::filesystem::create_directories(std::filesystem::path(root) / "ROUTES", error);
     Dice dice(size.seed);
     const std::vector<StockName> stock = nameStock(size.stock, dice, size.withNamedFiles);
     if (error || !writeStock(trains / "TRAINSET", stock, dice))
@@ -411,6 +523,11 @@ bool makeTree(const std::string& root, const TreeSize& size) {
     for (int i = 0; i < size.consists; ++i) {
         const std::string name = "rame" + std::to_string(i);
         if (!writeUtf16(trains / "CONSISTS" / (name + ".con"), consistText(name, stock, dice)))
+            return false;
+    }
+    for (int i = 0; i < size.routes; ++i) {
+        const std::string name = numbered("route", i, "");
+        if (!writeRoute(std::filesystem::path(root) / "ROUTES" / name, name, size, stock, dice))
             return false;
     }
     return true;

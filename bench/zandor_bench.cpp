@@ -3,6 +3,7 @@
 #include "bench_session.h"
 #include "bench_sizes.h"
 #include "bench_trees.h"
+#include "catalogue/routes.h"
 #include "ratio_table.h"
 
 #include <optional>
@@ -67,6 +68,23 @@ void measureConsists(benchmark::State& state, const Tree& tree) {
     }
 }
 
+// Not with the load: the index alone, as the commands on routes read it.
+void measureIndex(benchmark::State& state, const Tree& tree, LoadCase load) {
+    LoadOptions options = ReadOnlyLoad;
+    options.threads = load.threads;
+    std::optional<Session> run;
+    for (auto _ : state) {
+        state.PauseTiming();
+        Session& session = run.emplace(tree.root);
+        session.state.Optimize = load.full;
+        state.ResumeTiming();
+        if (!ReadRoutes(session.frame, session.catalogue, options) ||
+            !ReadServicesActivites(session.frame, session.catalogue, options) ||
+            session.catalogue.here().Routes.back().Activites.back().Vehicules.size() != 30)
+            state.SkipWithError("the index isn't complete");
+    }
+}
+
 template <typename Measure> void add(const char* operation, int files, Measure measure) {
     benchmark::RegisterBenchmark(benchmarkName(operation, files).c_str(), measure)
         ->Iterations(1)
@@ -99,6 +117,18 @@ void addConsists(Trees& trees) {
         [&trees](benchmark::State& state) { measureConsists(state, trees.get(ConsistStock, ConsistCount)); });
 }
 
+void addIndex(Trees& trees) {
+    const auto tree = [&trees]() -> const Tree& { return trees.get(ConsistStock, ConsistCount); };
+    add(PlainRoutes, RouteFiles,
+        [tree](benchmark::State& state) { measurePlainRead(state, tree().routeFiles); });
+    for (const auto& [operation, load] : {std::pair{IndexFull, LoadCase{.full = true, .threads = 2}},
+                                          std::pair{IndexLines, LoadCase{.full = false, .threads = 2}},
+                                          std::pair{IndexFullAlone, LoadCase{.full = true, .threads = 1}},
+                                          std::pair{IndexLinesAlone, LoadCase{.full = false, .threads = 1}}})
+        add(operation, RouteFiles,
+            [tree, load = load](benchmark::State& state) { measureIndex(state, tree(), load); });
+}
+
 void addCold(Trees& trees) {
     add(ColdStockRead, ColdStock,
         [&trees](benchmark::State& state) { measureColdRead(state, trees.get(ColdStock, 0)); });
@@ -115,6 +145,7 @@ int run(int argc, char** argv) {
     Trees trees;
     addStock(trees);
     addConsists(trees);
+    addIndex(trees);
     addCold(trees);
     benchmark::Initialize(&count, arguments.data());
     if (benchmark::ReportUnrecognizedArguments(count, arguments.data()))

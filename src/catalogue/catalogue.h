@@ -6,6 +6,7 @@
 #include "frame/frame.h"
 #include "simfiles/consist_file.h"
 #include "simfiles/materiel.h"
+#include "simfiles/route.h"
 #include "simfiles/sim_file.h"
 #include "simfiles/stock_reader.h"
 #include "text/text.h"
@@ -74,6 +75,7 @@ struct RootCatalogue {
     std::vector<Materiel>
         Materiels; // engines first, then wagons, in folder and directory order; never sorted
     std::vector<std::string> ConsistFiles;
+    std::vector<RouteMSTS> Routes;           // by the names of their folders
     std::vector<std::string> RamesEnService; // the consist files that services name
     std::vector<ConsistSummary> ConsistSummaries;
     bool summariesRead = false; // ConsistSummaries has a row for every consist

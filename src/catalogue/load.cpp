@@ -1,6 +1,7 @@
 #include "catalogue/catalogue.h"
 #include "catalogue/messages.h"
 #include "catalogue/passed_over.h"
+#include "catalogue/routes.h"
 #include "catalogue/thumbnails.h"
 
 namespace zandor {
@@ -29,6 +30,12 @@ bool wantsThumbnailControl(Frame& frame, const Catalogue& catalogue) {
 bool loadSteps(Frame& frame, Catalogue& catalogue, LoadOptions options) {
     const std::string stepDone = frame.text(message::StepDone);
     const auto markStep = [&] { frame.progress.ShowProgress(0, 255, 0, stepDone); };
+    if (!ReadRoutes(frame, catalogue, options))
+        return false;
+    markStep();
+    if (!ReadServicesActivites(frame, catalogue, options))
+        return false;
+    markStep();
     ReadBitmapList(frame, catalogue);
     markStep();
     if (!loadConsists(frame, catalogue, options, stepDone))
@@ -88,7 +95,6 @@ bool reloadCatalogue(Frame& frame, Catalogue& catalogue) {
         frame.state.Busy = false;
         return true;
     }
-    catalogue.of(frame.state.roots.first).RamesEnService.clear();
     if (!LoadCatalogue(frame, catalogue))
         return false;
     frame.progress.ShowProgress(0, 255, 0, frame.text(message::StepDone));

@@ -39,5 +39,8 @@ std::unique_ptr<Command> makeCatalogueCommand();
 std::unique_ptr<Command> makeComposeCommand();
 std::unique_ptr<Command> makeOpenCommand();
 std::unique_ptr<Command> makeVerifyCommand();
+std::unique_ptr<Command> makeRoutesCommand();
+std::unique_ptr<Command> makeServicesCommand();
+std::unique_ptr<Command> makeActivitiesCommand();
 
 } // namespace zandor

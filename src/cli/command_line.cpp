@@ -22,8 +22,9 @@ constexpr const char* ExitCodes = "Exit code: 0 done, 1 faults found, 2 could no
 
 std::vector<std::unique_ptr<Command>> makeCommands() {
     std::vector<std::unique_ptr<Command>> commands;
-    for (auto make : {makeKeysCommand, makeStockCommand, makeConsistCommand, makeCatalogueCommand,
-                      makeComposeCommand, makeOpenCommand, makeVerifyCommand})
+    for (auto make :
+         {makeKeysCommand, makeStockCommand, makeConsistCommand, makeCatalogueCommand, makeComposeCommand,
+          makeOpenCommand, makeVerifyCommand, makeRoutesCommand, makeServicesCommand, makeActivitiesCommand})
         commands.push_back(make());
     return commands;
 }
