@@ -39,6 +39,7 @@ TEST(SoundScan, FindsTheNamesOfWaves) {
         {"Skip (\nFile ( \"a.wav\"", {"a.wav|3"}},
         {"File ( \"skip.wav\" ) File ( \"comment (1).wav\" )", {"skip.wav|2", "comment (1).wav|2"}},
         {"File ( \"\" .wav", {".wav|2"}},
+        {"\"file\\.wav\" )", {}},
         {"", {}},
     };
     for (const Row& row : rows)
