@@ -170,12 +170,13 @@ void readLine(std::string_view text, const LineCursor::Line& line, Passages& pas
     bool counts = false;
     std::size_t from = static_cast<std::size_t>(line.text.data() - text.data());
     text = text.substr(0, from + line.text.size());
+    const std::size_t lastQuote = text.rfind('"');
     for (std::size_t wave; (wave = findWave(text, from)) != npos;) {
         const std::size_t end = wave + WaveEnding.size();
         const std::optional<std::size_t> begin = beginOfName(text.substr(from, wave - from));
         if (!counts) {
             const std::size_t file = findWord(text.substr(0, from + begin.value_or(0)), "file", from);
-            counts = file != npos && text.find('"', file) != npos;
+            counts = file != npos && lastQuote != npos && lastQuote > file;
         }
         if (counts && begin && !passages.hold(wave))
             waves.push_back({{static_cast<std::uint32_t>(text.find_first_not_of(" \t", from + *begin)),

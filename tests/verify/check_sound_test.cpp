@@ -53,8 +53,8 @@ TEST(SoundScan, GarbageEndsQuickly) {
             all += text;
         return all;
     };
-    for (const char* garbage : {"skip(", "comment ( .wav", "file (\"x.wav", ".wav", "skip ( \"", "skip\n(\n",
-                                "\"", "skip (\nfile \".wav\n"})
+    for (const char* garbage : {"skip(", "comment ( .wav", "file (\"x.wav", "file (x.wav ", ".wav",
+                                "skip ( \"", "skip\n(\n", "\"", "skip (\nfile \".wav\n"})
         wavesOf(repeated(garbage) + ")");
 }
 
