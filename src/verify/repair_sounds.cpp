@@ -112,6 +112,16 @@ bool mayWrite(const VerifWork& work, const CheckTarget& target) {
     return liesIn(path, roots.RootMSTS) || liesIn(path, roots.RootTStore) || liesIn(path, target.Dir);
 }
 
+// A place could hold what changes the meaning of its line, such as a bracket where no quotes are.
+bool namesTheSame(std::string_view before, std::string_view after) {
+    const std::vector<WaveName> old = findWaves(before), now = findWaves(after);
+    return std::equal(old.begin(), old.end(), now.begin(), now.end(),
+                      [&](const WaveName& one, const WaveName& other) {
+                          const std::string oldName = textOf(before, one), newName = textOf(after, other);
+                          return lastComponent(oldName) == lastComponent(newName);
+                      });
+}
+
 EditOutcome repairSet(VerifWork& work, const WaveIndex& waves, const CheckTarget& target) {
     const std::string path = target.Dir + target.File;
     std::string bytes;
@@ -121,7 +131,8 @@ EditOutcome repairSet(VerifWork& work, const WaveIndex& waves, const CheckTarget
     const std::vector<TextEdit> edits = SetRepair(work, waves, target).editsOf(file.text);
     if (edits.empty())
         return EditOutcome::Same;
-    if (!mayWrite(work, target) || !replaceSpans(file.text, edits))
+    const std::string before = file.text;
+    if (!mayWrite(work, target) || !replaceSpans(file.text, edits) || !namesTheSame(before, file.text))
         return EditOutcome::Refused;
     return writeEdited(work.frame.files, path, file);
 }
