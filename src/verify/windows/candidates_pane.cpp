@@ -237,7 +237,7 @@ void CandidatesPane::fill() {
         tbFILTER_->clear();
     }
     lstFILES_->rows().setRows({}); // the rows of another kind have other numbers
-    lstFILES_->setColumnHidden(1, candidates_.kind == VerifiedKind::Consists);
+    lstFILES_->showColumn(1, candidates_.kind != VerifiedKind::Consists);
     showRows();
     enableAll();
 }
