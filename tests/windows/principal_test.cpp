@@ -27,7 +27,7 @@ TEST_F(WindowTest, NothingIsCutOnALowScreenInAnyLanguage) {
             EXPECT_EQ(strip().visibleRegion().boundingRect(), strip().rect()) << language;
             for (QPushButton* button : window->findChildren<QPushButton*>()) {
                 EXPECT_GE(button->width(), button->sizeHint().width()) << button->text().toStdString();
-                EXPECT_FALSE(button->text().isEmpty())
+                EXPECT_FALSE(button->text().isEmpty() && button->icon().isNull())
                     << language << " " << button->objectName().toStdString();
                 const QRect seen =
                     button->isVisible() ? button->visibleRegion().boundingRect() : button->rect();
