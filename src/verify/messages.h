@@ -192,7 +192,6 @@ inline constexpr Message MandatoryKeyName{919}; // |1 the key
 inline constexpr Message FilesChosen{920};      // |1 how many
 inline constexpr Message GroupKind{924};
 inline constexpr Message ReportNotSaved{926}; // |1 the file, |2 a line break
-inline constexpr Message VerifyRuns{925};
 
 // the correction of faulty values
 inline constexpr Message CorrectTitle{740}; // |1 the title

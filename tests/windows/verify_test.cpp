@@ -333,9 +333,12 @@ TEST_F(EditorRoundTrip, AFileThatTheEditorHasMendedLeavesTheList) {
         disabled = !window->isEnabled();
         test.files.put(wagonPath("w1"), wagonText("w1", "Freight") + " ");
     };
+    QTest::qWait(1); // the page that has just come up is laid out
     const QModelIndex fault = list("lstLINES_ERROR").rows().index(0, 0);
-    QTest::mouseDClick(list("lstLINES_ERROR").viewport(), Qt::LeftButton, {},
-                       list("lstLINES_ERROR").visualRect(fault).center());
+    QWidget* const faults = list("lstLINES_ERROR").viewport();
+    const QPoint at = list("lstLINES_ERROR").visualRect(fault).center();
+    QTest::mouseClick(faults, Qt::LeftButton, {}, at);
+    QTest::mouseDClick(faults, Qt::LeftButton, {}, at);
     EXPECT_TRUE(disabled);
     EXPECT_TRUE(window->isEnabled());
     EXPECT_EQ(processes.given.size(), 6u) << "file, text, line";

@@ -15,6 +15,8 @@ LowPane::LowPane(QWidget* content, QWidget* parent) : QScrollArea(parent) {
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setFocusPolicy(Qt::NoFocus);
     setWidget(content);
+    content->setAutoFillBackground(false); // what is behind shows, such as a tab
+    viewport()->setAutoFillBackground(false);
 }
 
 QSize LowPane::minimumSizeHint() const {

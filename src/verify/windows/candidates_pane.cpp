@@ -2,6 +2,7 @@
 
 #include "catalogue/catalogue.h"
 #include "editor/messages.h"
+#include "editor/windows/pane_parts.h"
 #include "frame/windows/cursors.h"
 #include "text/text.h"
 #include "verify/external_editor.h"
@@ -70,13 +71,15 @@ CandidatesPane::CandidatesPane(VerifySession& session, QWidget* parent) : QWidge
 // ---- how it is put together
 
 void CandidatesPane::build() {
-    auto* choices = new QVBoxLayout;
+    auto* left = new QWidget(this);
+    auto* choices = new QVBoxLayout(left);
+    choices->setContentsMargins(0, 0, 0, 0);
     choices->addWidget(buildKinds());
     choices->addWidget(buildBoxes());
     choices->addStretch(1);
     auto* row = new QHBoxLayout(this);
     row->setSpacing(12);
-    row->addLayout(choices);
+    row->addWidget(new LowPane(left, this));
     row->addWidget(buildList(), 1);
 }
 

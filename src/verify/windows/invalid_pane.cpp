@@ -31,7 +31,7 @@ constexpr int ButtonGap = 6;      // pixels
 constexpr int LongestFolder = 24; // letters of its column
 constexpr int LongestWord = 30;   // letters without a place to break
 constexpr int FaultLines = 2;     // of a fault told at length
-constexpr int FaultRows = 4;      // of the list of faults, in sight at least
+constexpr int FaultRows = 3;      // of the list of faults, in sight at least
 
 // A line can be broken behind each "\" of a path, which has no blanks.
 QString breakable(QString text) {
@@ -116,7 +116,7 @@ QWidget* InvalidPane::buildFaults() {
     lblERREURS_->setMinimumHeight(FaultLines * fontMetrics().lineSpacing()); // the text stays where it is
     lblERREURS_->setTextInteractionFlags(Qt::TextSelectableByMouse);
     txtFILE_ = named(new FileView(session_.frame(), pane), "txtFILE");
-    txtFILE_->setMinimumSize(260, 4 * row);
+    txtFILE_->setMinimumSize(260, FaultRows * row);
     auto* column = makeColumn(pane);
     column->addWidget(lblSelection_);
     column->addWidget(lblDossier_);

@@ -12,7 +12,8 @@
 namespace zandor {
 
 namespace {
-constexpr int RowGap = 5; // pixels
+constexpr int RowGap = 5;             // pixels
+constexpr double LargestShare = 0.34; // of the list, for a column behind the first
 } // namespace
 
 QVariant ResultModel::data(const QModelIndex& index, int role) const {
@@ -91,14 +92,25 @@ void ResultView::choose(const std::vector<bool>& rows) {
 }
 
 void ResultView::fitColumns(const QStringList& longest) {
+    longest_ = longest;
+    sizeColumns();
+}
+
+void ResultView::sizeColumns() {
     if (sizedByUser())
         return;
-    for (int i = 0; i < longest.size(); ++i) {
+    const int most = static_cast<int>(LargestShare * viewport()->width());
+    for (int i = 0; i < longest_.size(); ++i) {
         const QString title = model_.headerData(i + 1, Qt::Horizontal, Qt::DisplayRole).toString();
-        const int text = std::max(fontMetrics().horizontalAdvance(longest[i]),
-                                  header()->fontMetrics().horizontalAdvance(title));
-        sizeColumn(i + 1, text + 3 * fontMetrics().averageCharWidth());
+        const int caption = header()->fontMetrics().horizontalAdvance(title);
+        const int text = std::min(most, fontMetrics().horizontalAdvance(longest_[i]));
+        sizeColumn(i + 1, std::max(text, caption) + 3 * fontMetrics().averageCharWidth());
     }
+}
+
+void ResultView::resizeEvent(QResizeEvent* event) {
+    RowView::resizeEvent(event);
+    sizeColumns();
 }
 
 void ResultView::paintEvent(QPaintEvent* event) {

@@ -42,17 +42,21 @@ class ResultView final : public RowView {
             chosen.push_back(wanted(row.number));
         choose(chosen);
     }
-    // The columns behind the first one become as wide as these texts.
+    // The columns behind the first one become as wide as these texts, as long as the first one keeps the
+    // most.
     void fitColumns(const QStringList& longest);
 
   protected:
     void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
   private:
     void choose(const std::vector<bool>& rows);
+    void sizeColumns();
 
     ResultModel& model_;
     QString hint_;
+    QStringList longest_;
 };
 
 } // namespace zandor

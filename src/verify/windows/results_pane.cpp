@@ -1,5 +1,6 @@
 #include "verify/windows/results_pane.h"
 
+#include "editor/windows/pane_parts.h"
 #include "verify/messages.h"
 #include "verify/windows/captions.h"
 #include "verify/windows/invalid_pane.h"
@@ -59,16 +60,16 @@ void ResultsPane::build() {
     for (QRadioButton* list : lists_)
         group->addButton(list);
     lists_[Invalid]->setChecked(true);
-    choice->addStretch(1);
+    choice->addWidget(tbSEARCH_, 1);
     shown_ = new QStackedWidget(this);
     fmINVALIDE_ = new InvalidPane(session_, shown_);
     fmDOUBLONS_ = new ReportPane(session_, ReportPane::Duplicates, shown_);
     fmINTROUVABLES_ = new ReportPane(session_, ReportPane::Missing, shown_);
-    for (QWidget* pane : std::initializer_list<QWidget*>{fmINVALIDE_, fmDOUBLONS_, fmINTROUVABLES_})
-        shown_->addWidget(pane);
+    shown_->addWidget(new LowPane(fmINVALIDE_, shown_));
+    shown_->addWidget(fmDOUBLONS_);
+    shown_->addWidget(fmINTROUVABLES_);
     auto* column = new QVBoxLayout(this);
     column->addWidget(kinds_);
-    column->addWidget(tbSEARCH_);
     column->addLayout(choice);
     column->addWidget(shown_, 1);
 }

@@ -178,10 +178,7 @@ void VerifyTab::startRun() {
     cmdVERIF_->setFocus();
     window()->setCursor(Qt::WaitCursor);
     cmdVERIF_->setCursor(Qt::ArrowCursor);
-    ProgressBar1_->setRange(0, 1);
-    ProgressBar1_->setValue(0);
-    ProgressBar1_->show();
-    lblANALYSE_->setText(toQt(session_->frame().text(message::VerifyStarts)));
+    lblANALYSE_->clear();
 }
 
 void VerifyTab::endRun() {
@@ -201,6 +198,7 @@ void VerifyTab::endRun() {
 void VerifyTab::showStep(int lower, int upper, int current, const QString& text) {
     ProgressBar1_->setRange(lower, upper);
     ProgressBar1_->setValue(current);
+    ProgressBar1_->show();
     lblANALYSE_->setText(text);
 }
 
