@@ -19,6 +19,10 @@ class SilentDialogs final : public Dialogs {
                                            const std::string&) override {
         return {};
     }
+    std::optional<std::string> askSaveFile(const std::string&, const std::string&, const std::string&,
+                                           const std::string&, const std::string&) override {
+        return {};
+    }
 };
 
 class SilentProgress final : public Progress {

@@ -15,11 +15,13 @@ namespace zandor::bench {
 namespace {
 
 constexpr int StockPerFolder = 10;
+constexpr int NamedPerFolder = 2, TexturesPerShape = 10, WavesPerSet = 5;
 constexpr int ServicesPerRoute = 100, ActivitiesPerRoute = 25;
 constexpr int VehiclesStanding = 30, VehiclesPerTrain = 6; // in an activity
 // In characters of the text; a file has two bytes a character.
 constexpr std::size_t EngineLength = 12000;
 constexpr std::size_t WagonLength = 1820;
+constexpr std::size_t ShapeLength = 30000;
 
 // The standard library's distributions differ between systems; this doesn't.
 class Dice {
@@ -68,6 +70,8 @@ struct StockName {
     std::string folder;
     std::string name; // without extension
     bool isEngine = false;
+    std::string shape, sounds; // without extension
+    bool hasCabView = true;
 };
 
 // Lines of a bracketed file at the depth in hand.
@@ -172,7 +176,7 @@ void addLights(Lines& lines, Dice& dice, int count) {
 void addWagonHead(Lines& lines, Dice& dice, const StockName& stock) {
     lines.line({"comment( ", dice.pick(Sentences), " )"});
     lines.key("Type", stock.isEngine ? "Engine" : dice.pick(WagonTypes));
-    lines.key("WagonShape", {stock.name, ".s"});
+    lines.key("WagonShape", {stock.shape, ".s"});
     lines.key("Size", {dice.decimal(260, 310, 100), "m ", dice.decimal(340, 430, 100), "m ",
                        dice.decimal(900, 2650, 100), "m"});
     lines.key("Mass", {dice.decimal(120, 900, 10), "t", dice.chance(20) ? " #empty" : ""});
@@ -199,7 +203,7 @@ std::string wagonText(const StockName& stock, Dice& dice) {
     lines.open("Wagon", stock.name);
     addWagonHead(lines, dice, stock);
     addWagonRunning(lines, dice);
-    lines.key("Sound", {"\"", stock.name, ".sms\""});
+    lines.key("Sound", {"\"", stock.sounds, ".sms\""});
     lines.key("Name", {"\"", stock.name, " ", std::to_string(dice.between(100, 999)), "\""});
     while (lines.text.size() + 150 < wanted)
         lines.line({"comment( ", dice.pick(Sentences), " ", dice.pick(Sentences), " )"});
@@ -251,9 +255,10 @@ void addEngineHead(Lines& lines, Dice& dice, const StockName& stock) {
     lines.key("WheelRadius", {dice.decimal(45, 65, 100), "m"});
     for (const std::string_view effect : {"ExhaustFX", "StackFX", "CylindersFX"})
         lines.key(effect, {vector3(dice), " 0 1 0 ", dice.decimal(5, 30, 100)});
-    lines.key("CabView", {stock.name, ".cvf"});
+    if (stock.hasCabView)
+        lines.key("CabView", {stock.name, ".cvf"});
     lines.key("HeadOut", {"-1.4 3.1 ", dice.decimal(400, 1100, 100)});
-    lines.key("Sound", {"\"", stock.name, "eng.sms\""});
+    lines.key("Sound", {"\"", stock.sounds, stock.hasCabView ? "eng.sms\"" : ".sms\""});
 }
 
 void addEngineBlock(Lines& lines, Dice& dice, const StockName& stock, std::size_t wanted) {
@@ -280,7 +285,7 @@ std::string engineText(const StockName& stock, Dice& dice) {
     addWagonHead(lines, dice, stock);
     addWagonRunning(lines, dice);
     lines.open("Inside");
-    lines.key("Sound", {stock.name, "cab.sms"});
+    lines.key("Sound", {stock.sounds, stock.hasCabView ? "cab.sms" : ".sms"});
     lines.close();
     addLights(lines, dice, dice.between(14, 18));
     lines.close();
@@ -392,7 +397,7 @@ std::string activityText(const std::string& name, const std::vector<StockName>& 
     return std::move(lines.text);
 }
 
-std::vector<StockName> nameStock(int count, Dice& dice) {
+std::vector<StockName> nameStock(int count, Dice& dice, bool withNamedFiles) {
     std::vector<StockName> stock;
     std::string folder;
     for (int i = 0; i < count; ++i) {
@@ -400,7 +405,12 @@ std::vector<StockName> nameStock(int count, Dice& dice) {
             folder = std::string(dice.pick(FolderWords)) + std::to_string(i / StockPerFolder);
         const bool isEngine = i % 2 == 0;
         const std::string_view word = isEngine ? dice.pick(EngineWords) : dice.pick(WagonWords);
-        stock.push_back({folder, std::string(word) + std::to_string(i), isEngine});
+        const std::string name = std::string(word) + std::to_string(i),
+                          number = std::to_string(i % NamedPerFolder);
+        if (withNamedFiles)
+            stock.push_back({folder, name, isEngine, "forme" + number, "sons" + number, false});
+        else
+            stock.push_back({folder, name, isEngine, name, name});
     }
     return stock;
 }
@@ -419,6 +429,57 @@ bool writeStock(const std::filesystem::path& trainset, const std::vector<StockNa
             return false;
     }
     return true;
+}
+
+std::string shapeText(const std::string& name, Dice& dice) {
+    Lines lines;
+    lines.text = "SIMISA@@@@@@@@@@JINX0s1t______\r\n\r\n";
+    lines.open("shape");
+    lines.open("images", std::to_string(TexturesPerShape));
+    for (int i = 0; i < TexturesPerShape; ++i)
+        lines.key("image", {name, "_", std::to_string(i), ".ace"});
+    lines.close();
+    lines.open("points");
+    while (lines.text.size() < ShapeLength)
+        lines.key("point", vector3(dice));
+    lines.close();
+    lines.close();
+    return std::move(lines.text);
+}
+
+std::string soundSetText(const std::string& name) {
+    Lines lines;
+    lines.text = "SIMISA@@@@@@@@@@JINX0x1t______\r\n\r\n";
+    lines.open("Tr_SMS");
+    for (int i = 0; i < WavesPerSet; ++i) {
+        lines.open("Stream");
+        lines.key("Priority", "4");
+        lines.open("Triggers", "1");
+        lines.key("File", {"\"", name, "_", std::to_string(i), ".wav\" -1"});
+        lines.close();
+        lines.key("Volume", "0.8");
+        lines.close();
+    }
+    lines.close();
+    return std::move(lines.text);
+}
+
+// What only has to be there is empty.
+bool writeNamedFiles(const std::filesystem::path& folder, Dice& dice) {
+    std::error_code error;
+    std::filesystem::create_directory(folder / "Sound", error);
+    bool written = !error;
+    for (int i = 0; i < NamedPerFolder; ++i) {
+        const std::string shape = "forme" + std::to_string(i), sounds = "sons" + std::to_string(i);
+        written = written && writeUtf16(folder / (shape + ".s"), shapeText(shape, dice)) &&
+                  writeUtf16(folder / "Sound" / (sounds + ".sms"), soundSetText(sounds));
+        for (int j = 0; j < TexturesPerShape; ++j)
+            written = written && std::ofstream(folder / (shape + "_" + std::to_string(j) + ".ace"));
+        for (int j = 0; j < WavesPerSet; ++j)
+            written =
+                written && std::ofstream(folder / "Sound" / (sounds + "_" + std::to_string(j) + ".wav"));
+    }
+    return written;
 }
 
 std::string numbered(std::string_view word, int number, std::string_view extension) {
@@ -453,9 +514,12 @@ bool makeTree(const std::string& root, const TreeSize& size) {
     std::filesystem::create_directories(trains / "CONSISTS", error);
     std::filesystem::create_directories(std::filesystem::path(root) / "ROUTES", error);
     Dice dice(size.seed);
-    const std::vector<StockName> stock = nameStock(size.stock, dice);
+    const std::vector<StockName> stock = nameStock(size.stock, dice, size.withNamedFiles);
     if (error || !writeStock(trains / "TRAINSET", stock, dice))
         return false;
+    for (std::size_t i = 0; size.withNamedFiles && i < stock.size(); i += StockPerFolder)
+        if (!writeNamedFiles(trains / "TRAINSET" / stock[i].folder, dice))
+            return false;
     for (int i = 0; i < size.consists; ++i) {
         const std::string name = "rame" + std::to_string(i);
         if (!writeUtf16(trains / "CONSISTS" / (name + ".con"), consistText(name, stock, dice)))

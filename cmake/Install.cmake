@@ -8,6 +8,9 @@ install(FILES "${generated}/zandor-cli.1" DESTINATION ${CMAKE_INSTALL_MANDIR}/ma
 
 if(ZANDOR_WINDOWS)
   install(TARGETS zandor RUNTIME)
+  if(UNIX)
+    install(PROGRAMS packaging/Skrivo TYPE BIN) # the text editor's other name
+  endif()
   install(FILES "${generated}/zandor.1" DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
   install(FILES "${generated}/zandor.desktop" DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
   install(FILES "${generated}/zandor.metainfo.xml" DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo

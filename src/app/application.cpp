@@ -8,6 +8,7 @@
 #include "frame/windows/qt_dialogs.h"
 #include "frame/windows/qt_text.h"
 #include "frame/windows/splash.h"
+#include "options/windows/options_window.h"
 #include "platform/real_file_system.h"
 
 #include <QApplication>
@@ -46,7 +47,9 @@ Application::Application(LaunchOptions options)
              *processes_, *dialogs_, progress_, Language(profiles_, state_)},
       folders_(findProgramFolders()), editor_{frame_, catalogue_, document_} {}
 
-Application::~Application() = default;
+Application::~Application() {
+    delete tools_;
+}
 
 int Application::run() {
     if (!prepareStart(frame_, folders_)) {
@@ -144,13 +147,7 @@ Application::End Application::load() {
     initialiseDocument(editor_);
     window_ = std::make_unique<frmPrincipal>(editor_);
     window_->applyListColours();
-    QObject::connect(window_.get(), &frmPrincipal::helpAsked, &help_,
-                     [this] { help_.Show(helpContext::Main); });
-    QObject::connect(window_.get(), &frmPrincipal::languageChosen, &help_, [this] {
-        toolkitTexts_.follow(toQt(state_.Language));
-        help_.applyLanguage();
-    });
-    QObject::connect(window_.get(), &frmPrincipal::closeAsked, &help_, &CHelp::CloseWindow);
+    joinWindow();
     if (splash_->ended())
         return End::UserEnded;
     if (!chooseRoots())
@@ -160,6 +157,38 @@ Application::End Application::load() {
     window_->fillStockList();
     openFromCommandLine();
     return splash_->ended() ? End::UserEnded : End::GoOn;
+}
+
+void Application::joinWindow() {
+    frmPrincipal* const window = window_.get();
+    QObject::connect(window, &frmPrincipal::helpAsked, &help_, [this] { help_.Show(helpContext::Main); });
+    QObject::connect(window, &frmPrincipal::optionsAsked, window, [this] { showOptions(); });
+    QObject::connect(window, &frmPrincipal::languageChosen, window, [this] {
+        toolkitTexts_.follow(toQt(state_.Language));
+        help_.applyLanguage();
+        if (tools_)
+            tools_->applyLanguage();
+    });
+    QObject::connect(window, &frmPrincipal::closeAsked, &help_, &CHelp::CloseWindow);
+    QObject::connect(window, &frmPrincipal::closed, window, [this] {
+        if (tools_)
+            tools_->close();
+    });
+}
+
+// The one that there is comes to the front.
+void Application::showOptions() {
+    if (!tools_ || tools_->isClosed()) {
+        tools_ = new frmOptions(editor_, verifyChoices_);
+        QObject::connect(tools_, &frmOptions::catalogueChanged, window_.get(),
+                         &frmPrincipal::catalogueChanged);
+        QObject::connect(tools_, &frmOptions::helpAsked, &help_,
+                         [this](int context) { help_.Show(context); });
+    }
+    tools_->setWindowState(tools_->windowState() & ~Qt::WindowMinimized);
+    tools_->show();
+    tools_->raise();
+    tools_->activateWindow();
 }
 
 bool Application::chooseRoots() {

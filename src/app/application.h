@@ -9,11 +9,15 @@
 #include "frame/windows/help.h"
 #include "frame/windows/qt_progress.h"
 #include "frame/windows/toolkit_language.h"
+#include "verify/windows/verify_session.h"
+
+#include <QPointer>
 
 #include <memory>
 
 namespace zandor {
 
+class frmOptions;
 class frmPrincipal;
 class frmSplash;
 class SingleInstance;
@@ -46,6 +50,8 @@ class Application {
     void savePicture();
     void rememberRoots();
     void putRootsBack();
+    void joinWindow();
+    void showOptions();
 
     LaunchOptions options_;
     std::unique_ptr<FileSystem> files_;
@@ -64,7 +70,9 @@ class Application {
     Editor editor_;
     ToolkitLanguage toolkitTexts_;
     std::unique_ptr<frmSplash> splash_;
+    VerifyChoices verifyChoices_;
     std::unique_ptr<frmPrincipal> window_;
+    QPointer<frmOptions> tools_;                 // deletes itself when it is closed
     std::unique_ptr<SingleInstance> instance_;   // none in a run that saves a picture
     QStringList given_;                          // by later starts, and not yet opened
     std::string keptInstallDir_, keptTStoreDir_; // of the settings, in a run with a root of its own

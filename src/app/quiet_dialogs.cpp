@@ -23,4 +23,11 @@ std::optional<std::string> QuietDialogs::askOpenFile(const std::string& title, c
     return std::nullopt;
 }
 
+std::optional<std::string> QuietDialogs::askSaveFile(const std::string& title, const std::string&,
+                                                     const std::string&, const std::string&,
+                                                     const std::string&) {
+    std::cerr << title << '\n';
+    return std::nullopt;
+}
+
 } // namespace zandor

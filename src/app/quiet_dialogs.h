@@ -13,6 +13,9 @@ class QuietDialogs final : public Dialogs {
     std::optional<std::string> askOpenFile(const std::string& title, const std::string& filter,
                                            const std::string& folder,
                                            const std::string& proposedName) override;
+    std::optional<std::string> askSaveFile(const std::string& title, const std::string& filter,
+                                           const std::string& folder, const std::string& proposedName,
+                                           const std::string& defaultExtension) override;
 };
 
 } // namespace zandor

@@ -42,4 +42,10 @@ std::optional<std::string> ConsoleDialogs::askOpenFile(const std::string&, const
     return std::nullopt;
 }
 
+std::optional<std::string> ConsoleDialogs::askSaveFile(const std::string&, const std::string&,
+                                                       const std::string&, const std::string&,
+                                                       const std::string&) {
+    return std::nullopt;
+}
+
 } // namespace zandor

@@ -19,6 +19,9 @@ class ConsoleDialogs final : public Dialogs {
     std::optional<std::string> askOpenFile(const std::string& title, const std::string& filter,
                                            const std::string& folder,
                                            const std::string& proposedName) override;
+    std::optional<std::string> askSaveFile(const std::string& title, const std::string& filter,
+                                           const std::string& folder, const std::string& proposedName,
+                                           const std::string& defaultExtension) override;
 
     int alerts = 0;
     std::string subject; // what the alerts are about, put in front of them; may be empty

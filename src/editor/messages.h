@@ -11,6 +11,8 @@ inline constexpr Message CaptionOpen{2};
 inline constexpr Message CaptionSave{3};
 inline constexpr Message CaptionDelete{4};
 inline constexpr Message CaptionOptions{5};
+inline constexpr Message TipLanguage{922};
+inline constexpr Message TipOptions{923};
 inline constexpr Message CaptionHelp{6};
 inline constexpr Message CaptionAbout{7};
 inline constexpr Message CaptionQuit{8};

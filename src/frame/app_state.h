@@ -22,8 +22,9 @@ struct AppState {
     bool PassIsBadCoupling = false;
     std::string Title;
     std::string ExePath;
-    std::string LastAnswer;    // as a decimal text
-    std::string ProgramFolder; // without a trailing separator; the settings file stands here
+    std::string LastAnswer;       // as a decimal text
+    std::string ExecutableFolder; // where the executables stand; native, without a trailing separator
+    std::string ProgramFolder;    // without a trailing separator; the settings file stands here
     Roots roots;
     std::string BackupDir; // with a trailing "\"
     std::string ProgramFilesDir;

@@ -32,6 +32,11 @@ class Dialogs {
     virtual std::optional<std::string> askOpenFile(const std::string& title, const std::string& filter,
                                                    const std::string& folder,
                                                    const std::string& proposedName) = 0;
+    // Asks for a file to write, and whether one that exists is to be replaced; nothing when cancelled. A name
+    // without an extension gets `defaultExtension`, such as ".rtf".
+    virtual std::optional<std::string> askSaveFile(const std::string& title, const std::string& filter,
+                                                   const std::string& folder, const std::string& proposedName,
+                                                   const std::string& defaultExtension) = 0;
 };
 
 } // namespace zandor

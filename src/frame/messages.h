@@ -63,6 +63,7 @@ inline constexpr Message FindTrainStore{441};    // the window's title
 // the question for the other folder, and answers
 inline constexpr Message AskOtherRoot{494}; // |1 the title, |2 the other folder, |3 to |5 a line break
 inline constexpr Message DoNotAskAgain{495};
+inline constexpr Message ShowNoMore{921}; // under a message that may be the first of many
 inline constexpr Message Yes{496};
 inline constexpr Message No{497};
 

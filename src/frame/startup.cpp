@@ -219,6 +219,7 @@ void offerKnownLanguage(Frame& frame) {
 void loadSettings(Frame& frame, const ProgramFolders& folders) {
     AppState& state = frame.state;
     state.ExePath = inProgramFolder(frame, folders.executableName) + ".exe";
+    state.ExecutableFolder = folders.executable;
     setHelpFile(frame);
     state.MainReady = false;
     provideSettings(frame);

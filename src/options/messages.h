@@ -15,8 +15,6 @@ inline constexpr Message TabRoutes{602};
 inline constexpr Message TabSearch{603};
 inline constexpr Message TabDisplay{604};
 inline constexpr Message TabOthers{605};
-inline constexpr Message TabFiles{606};
-inline constexpr Message TabResults{607};
 
 // the tabs of settings
 inline constexpr Message BoxPrintName{680};

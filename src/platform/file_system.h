@@ -44,6 +44,9 @@ class FileSystem {
     // Reads a whole file into `bytes` (its storage is used again), which stay empty unless it is done. A file
     // of more than `limit` bytes is too large, and takes no memory.
     virtual ReadResult read(std::string_view path, std::string& bytes, std::uint64_t limit) = 0;
+    // Reads the first `count` bytes at most; fewer are the whole file. Nothing but these is read from the
+    // disk.
+    virtual ReadResult readStart(std::string_view path, std::string& bytes, std::size_t count) = 0;
     bool readFile(std::string_view path, std::string& bytes) {
         return read(path, bytes, LargestRead) == ReadResult::Done;
     }

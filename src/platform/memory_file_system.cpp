@@ -135,6 +135,17 @@ ReadResult MemoryFileSystem::read(std::string_view path, std::string& bytes, std
     return ReadResult::Done;
 }
 
+ReadResult MemoryFileSystem::readStart(std::string_view path, std::string& bytes, std::size_t count) {
+    bytes.clear();
+    if (fails("readStart", path))
+        return ReadResult::Unreadable;
+    const Node* node = findNode(nodes_, path);
+    if (!node || node->isFolder)
+        return node ? ReadResult::Unreadable : ReadResult::Missing;
+    bytes = node->bytes.substr(0, count);
+    return ReadResult::Done;
+}
+
 bool MemoryFileSystem::fileExists(std::string_view path) {
     return !fails("fileExists", path) && findFile(nodes_, path);
 }

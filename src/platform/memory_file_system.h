@@ -35,6 +35,7 @@ class MemoryFileSystem final : public FileSystem {
     std::vector<std::string> log;     // one line a call: verb and path, for tests of the order of things
 
     ReadResult read(std::string_view path, std::string& bytes, std::uint64_t limit) override;
+    ReadResult readStart(std::string_view path, std::string& bytes, std::size_t count) override;
     bool fileExists(std::string_view path) override;
     bool folderExists(std::string_view path) override;
     bool isOwnFolder(std::string_view path) override;

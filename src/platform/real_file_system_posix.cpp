@@ -5,6 +5,7 @@
 #include "platform/path_resolver.h"
 #include "platform/replacement_posix.h"
 
+#include <algorithm>
 #include <errno.h>
 #include <new>
 #include <stdio.h>
@@ -22,10 +23,10 @@ int openFile(const std::string& path, int flags) {
     return openAt(AT_FDCWD, path.c_str(), flags);
 }
 
-ssize_t readAt(int file, char* buffer, std::size_t offset) {
+ssize_t readAt(int file, char* buffer, std::size_t offset, std::size_t most = kReadBuffer) {
     ssize_t count;
     do
-        count = ::pread(file, buffer, kReadBuffer, off_t(offset));
+        count = ::pread(file, buffer, most, off_t(offset));
     while (count < 0 && errno == EINTR);
     return count;
 }
@@ -68,6 +69,7 @@ class RealFileSystem final : public FileSystem {
         return std::make_unique<RealFileSystem>(winePrefix_, nameless_);
     }
     ReadResult read(std::string_view path, std::string& bytes, std::uint64_t limit) override;
+    ReadResult readStart(std::string_view path, std::string& bytes, std::size_t count) override;
     bool fileExists(std::string_view path) override;
     bool folderExists(std::string_view path) override;
     bool isOwnFolder(std::string_view path) override;
@@ -86,6 +88,7 @@ class RealFileSystem final : public FileSystem {
     }
     int openForReading(std::string_view path);
     ReadResult readOpened(int file, std::string& bytes, std::uint64_t limit);
+    ReadResult readStartOf(int file, std::string& bytes, std::size_t most);
     ReadResult readRest(int file, std::string& bytes, std::uint64_t limit);
     bool isFolder(const KeptFolder& folder, const KeptName& name) const;
 
@@ -149,6 +152,37 @@ ReadResult RealFileSystem::read(std::string_view path, std::string& bytes, std::
             result = place_.exists ? ReadResult::Unreadable : ReadResult::Missing;
     } catch (const std::bad_alloc&) {
         bytes = std::string(); // what it held may be what others lack
+    }
+    if (result != ReadResult::Done)
+        bytes.clear();
+    return result;
+}
+
+// What is no plain file is told by its beginning, as in a whole read: it fails, or reads as nothing.
+ReadResult RealFileSystem::readStartOf(int file, std::string& bytes, std::size_t most) {
+    bytes.clear();
+    while (bytes.size() < most) {
+        const std::size_t wanted = std::min(kReadBuffer, most - bytes.size());
+        const ssize_t count = readAt(file, buffer_.get(), bytes.size(), wanted);
+        if (count < 0)
+            return ReadResult::Unreadable;
+        if (count == 0)
+            return bytes.empty() ? readRest(file, bytes, 0) : ReadResult::Done;
+        bytes.append(buffer_.get(), std::size_t(count));
+    }
+    return ReadResult::Done;
+}
+
+ReadResult RealFileSystem::readStart(std::string_view path, std::string& bytes, std::size_t count) {
+    ReadResult result = ReadResult::NoMemory;
+    try {
+        const Descriptor file(openForReading(path));
+        if (file.isOpen())
+            result = readStartOf(file.get(), bytes, count);
+        else
+            result = place_.exists ? ReadResult::Unreadable : ReadResult::Missing;
+    } catch (const std::bad_alloc&) {
+        bytes = std::string();
     }
     if (result != ReadResult::Done)
         bytes.clear();

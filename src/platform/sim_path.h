@@ -20,4 +20,14 @@ SimPath parseSimPath(std::string_view text);
 // The beginning of the path with `count` components, each ended by "\"; the same for every spelling but case.
 std::string folderKey(const SimPath& path, std::size_t count);
 
+// Behind the last "\" or "/".
+inline std::string_view lastComponent(std::string_view name) {
+    const std::size_t separator = name.find_last_of("\\/");
+    return separator == std::string_view::npos ? name : name.substr(separator + 1);
+}
+// What stands in front of that, with the "\" or "/".
+inline std::string_view folderPart(std::string_view name) {
+    return name.substr(0, name.size() - lastComponent(name).size());
+}
+
 } // namespace zandor

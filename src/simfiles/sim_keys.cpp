@@ -1,5 +1,6 @@
 #include "simfiles/sim_keys.h"
 
+#include "simfiles/sim_lines.h"
 #include "text/text.h"
 
 #include <algorithm>
@@ -63,7 +64,8 @@ bool commentRuleApplies(std::string_view path, std::string_view key) {
 }
 
 std::string_view cutComment(std::string_view value) {
-    const std::size_t hash = value.find('#', 1);
+    const std::size_t hash =
+        findUnquoted(value, 0, [value](std::size_t at) { return at > 0 && value[at] == '#'; });
     return hash == std::string_view::npos ? value : trim(value.substr(0, hash));
 }
 

@@ -66,8 +66,9 @@ inline bool nameIs(std::string_view text, std::string_view name) {
 // True when the path, its markers left out, is `wanted` (ASCII, no markers), in any case.
 bool pathIs(std::string_view path, std::string_view wanted);
 
-// The comment rule of stock files: a "#" behind the first character of a value ends it, in the blocks engine,
-// wagon and wagon\inside, except for keys that hold names, texts or files.
+// The comment rule of stock files: a "#" behind the first character of a value and outside of its pairs of
+// quotes ends it, in the blocks engine, wagon and wagon\inside, except for keys that hold names, texts or
+// files.
 bool commentRuleApplies(std::string_view path, std::string_view key); // path without markers; any case
 std::string_view cutComment(std::string_view value);
 

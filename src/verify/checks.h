@@ -9,17 +9,44 @@
 
 #include <string>
 #include <string_view>
+#include <unordered_map>
+#include <unordered_set>
 
 namespace zandor {
+
+// Where a pass over stock looks; folders with "\" at their end.
+struct VerifPlaces {
+    std::string stock;    // TRAINSET, or what plays it, of the files that are checked
+    std::string trainset; // the same for the files that they name
+    std::string sounds;   // the simulator's own sounds; empty when there is none
+};
+// Stock of the primary root, which names files of the simulator's folder, whichever of the roots is primary.
+VerifPlaces placesOf(const Roots& roots);
+// Stock that lies anywhere: what it names lies beside it.
+VerifPlaces placesAround(const Roots& roots, const std::string& basePath);
+
+// The shape that a shape description names.
+struct DescribedShape {
+    bool found = false;
+    std::string value; // without quotes
+    std::string tail;
+    int line = 0; // from 1
+};
 
 // What the checks of one pass share.
 struct VerifWork {
     Frame& frame;
     const VerifOptions& options;
     VerifResults& results;
+    VerifPlaces places = placesOf(frame.state.roots);
     VerifQueues queues{};
     PassFiles onDisk{frame.files};
     SimReader reader{frame.files};
+
+    std::unordered_map<std::string, DescribedShape> descriptions{}; // by path, lower case
+    bool showsQuoteFailures = true, showsMandatory = true;          // until the user has seen enough of them
+    std::unordered_set<std::string> examined{}; // owners of shapes, cab views and sound sets, lower case
+    std::string bytes{}, text{};                // of the file in hand; storage used again
 };
 
 // What a check of a consist is for: to list its faults, or only to tell whether there is one.
@@ -29,8 +56,9 @@ enum class Quiet { No, Yes };
 // fault was found.
 bool CheckConsistFile(VerifWork& work, std::string_view file, Quiet quiet = Quiet::No,
                       std::string_view fullPath = {});
-// Under TRAINSET of the primary root. Repairs quotes when the options say so. What the user must be told of
-// at once goes through Dialogs::ShowMessage.
+// Under VerifPlaces::stock. Repairs quotes when the options say so. What the user must be told of at once
+// goes through Dialogs::showRepeated. A file that can't be opened adds nothing; one that isn't stock lacks
+// all keys.
 void CheckStockFile(VerifWork& work, std::string_view folder, std::string_view file);
 // A text shape or a cab view: the textures that it names. A shape that isn't text is passed over.
 void CheckShapeFile(VerifWork& work, const CheckTarget& target);

@@ -138,6 +138,8 @@ inline constexpr Message ReportKeysMissing{573};    // as 370
 inline constexpr Message MissingItemEmptyFile{588}; // |1 the name, |2 a line break
 
 // the verifier's tab
+inline constexpr Message TabFiles{606};
+inline constexpr Message TabResults{607};
 inline constexpr Message KindConsists{610};
 inline constexpr Message KindEngines{611};
 inline constexpr Message KindWagons{612};
@@ -166,6 +168,32 @@ inline constexpr Message ShowMissing{639};
 inline constexpr Message OneSoundSetNote{640};   // ends 380
 inline constexpr Message ManySoundSetsNote{641}; // ends 381
 
+// the verifier's tab: finding one's way through lists
+inline constexpr Message FilterCandidates{900};
+inline constexpr Message CandidatesChosen{901}; // |1 how many, |2 of how many
+inline constexpr Message SearchResults{902};
+inline constexpr Message AllFaults{903};
+inline constexpr Message NextFaultButton{904};
+inline constexpr Message CorrectButton{905};
+inline constexpr Message ColumnLine{906};
+inline constexpr Message ColumnFault{907};
+inline constexpr Message ColumnFaults{908}; // how many
+inline constexpr Message NoInvalidFile{909};
+inline constexpr Message NoFileFits{910};
+inline constexpr Message NothingVerified{911};
+inline constexpr Message NoCandidates{912};
+inline constexpr Message FileUnreadable{913};
+inline constexpr Message FileText{914};
+inline constexpr Message GroupCandidates{915};
+inline constexpr Message ColumnStockFolder{916};
+inline constexpr Message VerifyStopped{917};
+inline constexpr Message FaultsInFiles{918};    // |1 faults, |2 files
+inline constexpr Message MandatoryKeyName{919}; // |1 the key
+inline constexpr Message FilesChosen{920};      // |1 how many
+inline constexpr Message GroupKind{924};
+inline constexpr Message ReportNotSaved{926}; // |1 the file, |2 a line break
+inline constexpr Message VerifyRuns{925};
+
 // the correction of faulty values
 inline constexpr Message CorrectTitle{740}; // |1 the title
 inline constexpr Message FileLabel{741};
@@ -174,5 +202,24 @@ inline constexpr Message KeyLabel{743};
 inline constexpr Message ValueLabel{744};
 inline constexpr Message OfferedLabel{745};
 inline constexpr Message NewValueLabel{746};
+
+// what is done with the files of the lists
+inline constexpr Message AskMoveSeveral{
+    850}; // |1 how many files, |2 a line break, |3 their names, |4 the backup folder
+inline constexpr Message AskDeleteSeveral{851};   // |1 how many files, |2 a line break, |3 their names
+inline constexpr Message AskGoOnUsedSeveral{852}; // as 851, of consists that services use
+inline constexpr Message SeveralMoved{853};       // |1 how many files, |2 the backup folder
+inline constexpr Message MoveFailed{854};         // |1 the file, |2 a line break, |3 where it was to be
+inline constexpr Message MoveNameTaken{855};      // |1 the file that has the name, |2 a line break
+inline constexpr Message SeveralNamesTaken{856};  // as 851
+inline constexpr Message SeveralNotMoved{857};    // as 851
+inline constexpr Message SeveralNotDeleted{858};  // as 851
+inline constexpr Message FolderNotOpened{859};    // |1 the folder, |2 a line break
+
+// kinds of fault, as filters
+inline constexpr Message KindMandatoryKey{860};
+inline constexpr Message KindMissingTexture{861};
+inline constexpr Message KindMissingSound{862};
+inline constexpr Message KindDuplicate{863};
 
 } // namespace zandor::message

@@ -34,6 +34,10 @@ struct VerifSelection {
 // the order of the folders, without default.wag. Nothing is chosen.
 VerifSelection listCandidates(Frame& frame, VerifiedKind kind, const std::vector<std::string>& consistFiles);
 
+// Adds those of one folder of `base`, which is TRAINSET or plays it and ends in "\".
+void addCandidates(FileSystem& files, VerifSelection& selection, const std::string& base,
+                   const std::string& folder);
+
 // What isn't to be done with files of this kind is off.
 VerifOptions optionsFor(VerifiedKind kind, VerifOptions options);
 

@@ -41,6 +41,9 @@ class FaultyDisk final : public FileSystem {
             return ReadResult::NoMemory;
         return name == faults_.failing ? ReadResult::Unreadable : real_->read(path, bytes, limit);
     }
+    ReadResult readStart(std::string_view path, std::string& bytes, std::size_t count) override {
+        return real_->readStart(path, bytes, count);
+    }
     bool fileExists(std::string_view path) override { return real_->fileExists(path); }
     bool folderExists(std::string_view path) override { return real_->folderExists(path); }
     bool isOwnFolder(std::string_view path) override { return real_->isOwnFolder(path); }

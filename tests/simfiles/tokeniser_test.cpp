@@ -1,3 +1,4 @@
+#include "simfiles/shape_description.h"
 #include "simfiles/sim_fixture.h"
 
 #include "simfiles/stock_keys.h"
@@ -166,6 +167,39 @@ TEST_F(SimFixture, SearchStopsCountsAndCutsComments) {
     ASSERT_TRUE(reader.readBytes("x.wag", bytes, {"Wagon", "Mass"}).found);
     EXPECT_EQ(reader.SimHits[0].FirstLine, 4);
     EXPECT_EQ(reader.SimKeys.back().Value, "30t #note");
+}
+
+TEST_F(SimFixture, ACommentBeginsOutsideOfQuotes) {
+    struct Row {
+        const char *value, *kept;
+    };
+    for (const Row& row : {Row{"\"a #1.sms\"", "\"a #1.sms\""},
+                           {"\"a #1.sms\" # old", "\"a #1.sms\""},
+                           {"\"#1.sms\"", "\"#1.sms\""},
+                           {"a #1.sms", "a"},
+                           {"\"a #1.sms", "\"a"},
+                           {"\"a\" #\"b\"", "\"a\""},
+                           {"#1", "#1"},
+                           {"", ""}})
+        EXPECT_EQ(cutComment(row.value), row.kept) << row.value;
+}
+
+TEST_F(SimFixture, ADescriptionNamesItsShapeWhereverItsBracketCloses) {
+    struct Row {
+        const char *body, *shape;
+        int line;
+    };
+    for (const Row& row : {Row{"\r\nshape ( a b.s\r\n\tESD_Detail_Level ( 0 )\r\n)\r\n", "a b.s", 3},
+                           {"Shape ( \"a.s\" )\r\nESD_Detail_Level ( 0 )\r\n", "\"a.s\"", 2},
+                           {"shape (\r\n\ta.s\r\n\tESD_Detail_Level ( 0 )\r\n)", "a.s", 3},
+                           {"ESD_Detail_Level ( 0 )\r\nOther ( shape ( b.s ) )\r\n", "", 0}}) {
+        files.put("\\a.sd", utf16(signed_(row.body, FileKind::ShapeDescription)));
+        const std::optional<SimKey> shape = shapeOfDescription(reader, "\\a.sd");
+        ASSERT_EQ(shape.has_value(), row.line > 0) << row.body;
+        EXPECT_EQ(shape ? shape->Value : "", row.shape);
+        EXPECT_EQ(shape ? shape->Line : 0, row.line);
+    }
+    EXPECT_FALSE(shapeOfDescription(reader, "\\none.sd"));
 }
 
 TEST_F(SimFixture, AnEngineIsLookedForBehindItsWagonBlock) {

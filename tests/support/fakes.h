@@ -13,6 +13,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace zandor {
@@ -26,14 +27,14 @@ class FakeDialogs final : public Dialogs {
         std::string title;
     };
     struct Asked {
-        std::string title, filter, folder, proposedName;
+        std::string title, filter, folder, proposedName, defaultExtension;
     };
     std::vector<Shown> shown;
-    std::vector<Asked> asked; // calls of askOpenFile()
+    std::vector<Asked> asked; // calls of askOpenFile() and askSaveFile()
     std::deque<int> answers;
     int defaultAnswer = answer::Ok;
-    std::function<void()> whenShown;     // while a message stands there
-    std::optional<std::string> openFile; // nothing: the user cancels
+    std::function<void()> whenShown;               // while a message stands there
+    std::optional<std::string> openFile, saveFile; // nothing: the user cancels
 
     int ShowMessage(const std::string& text, int messageStyle, const std::string& title, const std::string&,
                     int) override {
@@ -49,8 +50,14 @@ class FakeDialogs final : public Dialogs {
     std::optional<std::string> askOpenFile(const std::string& title, const std::string& filter,
                                            const std::string& folder,
                                            const std::string& proposedName) override {
-        asked.push_back({title, filter, folder, proposedName});
+        asked.push_back({title, filter, folder, proposedName, {}});
         return openFile;
+    }
+    std::optional<std::string> askSaveFile(const std::string& title, const std::string& filter,
+                                           const std::string& folder, const std::string& proposedName,
+                                           const std::string& defaultExtension) override {
+        asked.push_back({title, filter, folder, proposedName, defaultExtension});
+        return saveFile;
     }
     std::string lastText() const { return shown.empty() ? std::string() : shown.back().text; }
 };
@@ -93,18 +100,19 @@ class FakeRegistry final : public Registry {
     std::map<std::string, std::string> values_;
 };
 
-// Records what is started; nothing runs.
+// Records what is started; nothing runs, unless a test says how it ends.
 class FakeProcesses final : public Processes {
   public:
     std::vector<std::vector<std::string>> started; // program and arguments
     std::vector<std::string> opened;
     bool works = true;
+    std::function<std::optional<int>()> exitCode = [] { return 0; }; // of each, each time it is asked for
 
     std::unique_ptr<Process> start(const std::string& program,
                                    const std::vector<std::string>& arguments) override {
         started.push_back({program});
         started.back().insert(started.back().end(), arguments.begin(), arguments.end());
-        return works ? std::make_unique<Ended>() : nullptr;
+        return works ? std::make_unique<Started>(exitCode) : nullptr;
     }
     bool openFile(const std::string& path) override {
         opened.push_back(path);
@@ -112,8 +120,10 @@ class FakeProcesses final : public Processes {
     }
 
   private:
-    struct Ended final : Process {
-        std::optional<int> exitCode() override { return 0; }
+    struct Started final : Process {
+        explicit Started(std::function<std::optional<int>()> code) : code_(std::move(code)) {}
+        std::optional<int> exitCode() override { return code_(); }
+        std::function<std::optional<int>()> code_;
     };
 };
 

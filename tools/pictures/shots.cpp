@@ -19,12 +19,19 @@
 #include "frame/windows/splash.h"
 #include "frame/windows/theme.h"
 #include "frame/windows/toolkit_language.h"
+#include "options/windows/options_window.h"
 #include "support/fakes.h"
+#include "text/decode.h"
+#include "verify/messages.h"
+#include "verify/windows/faulty_value_window.h"
+#include "verify/windows/result_view.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QIcon>
 #include <QMenu>
+#include <QPushButton>
+#include <QRadioButton>
 #include <QTest>
 
 #include <cstdio>
@@ -65,6 +72,7 @@ class Shots {
         takeFrameWindows();
         takeMessages();
         takeFolders();
+        takeOptions();
     }
 
   private:
@@ -152,6 +160,67 @@ class Shots {
         save(simulator, "frmPathMSTS");
         frmPath backup(test_.frame);
         save(backup, "frmPath");
+    }
+
+    // The verifier before, during and after a pass over stock with faults.
+    void takeOptions() {
+        putFaults();
+        test_.dialogs.whenShown = nullptr;
+        VerifyChoices choices;
+        choices.kind = VerifiedKind::Wagons;
+        frmOptions window(editor_, choices);
+        window.resize(1000, 680);
+        window.findChild<ResultView*>("lstFILES")->selectAll();
+        save(window, "frmOptions-files");
+        takeDuring(window);
+        QTest::mouseClick(window.findChild<QPushButton*>("cmdVERIF"), Qt::LeftButton);
+        save(window, "frmOptions-results");
+        window.resize(window.minimumSizeHint());
+        save(window, "frmOptions-small");
+        window.resize(1000, 680);
+        for (const auto& [option, name] : {std::pair{"optDOUBLONS", "frmOptions-duplicates"},
+                                           std::pair{"optINTROUVABLES", "frmOptions-missing"}}) {
+            window.findChild<QRadioButton*>(option)->click();
+            save(window, name);
+        }
+        VerifySession& session = *window.findChild<VerifySession*>();
+        frmModifieValeur correct(session, 0, 0, &window);
+        save(correct, "frmModifieValeur");
+    }
+
+    void takeDuring(QWidget& window) {
+        auto& session = *window.findChild<VerifySession*>();
+        (void)session.carryOut([&](Editor& editor) {
+            const std::string text = editor.frame.text(message::VerifyingFile, {{"|1", "Orme_Hopper.wag"}});
+            editor.frame.progress.ShowProgress(0, 100, 60, text);
+            save(window, "frmOptions-pass");
+        });
+    }
+
+    void putFaults() {
+        const std::string folder = trainsetPath(test_.state.roots.RootMSTS) + "Wagons à revoir\\";
+        const auto wagon = [](const std::string& name, const std::string& type, const std::string& sound) {
+            return encodeText(
+                "SIMISA@@@@@@@@@@JINX0D0t______\r\n\r\nWagon ( " + name +
+                    "\r\n\tcomment( made for the pictures )\r\n\tType ( " + type + " )\r\n\tWagonShape ( " +
+                    name + ".s )\r\n\tSize ( 3m 4m 18.5m )\r\n\tMass ( 80t )\r\n\tCoupling (" +
+                    "\r\n\t\tType ( Chaine )\r\n\t)\r\n\tBrakeSystemType ( \"Air_tvin_pipe\" )\r\n" +
+                    "\tSound ( " + sound + " )\r\n)\r\n",
+                TextEncoding::Utf16);
+        };
+        for (int i = 1; i <= 24; ++i) {
+            const std::string name = "Wagon_" + std::to_string(i);
+            test_.files.put(folder + name + ".wag",
+                            wagon(name, i % 3 ? "Freight" : "Frieght", i % 4 ? "freight.sms" : "Wagon.sms"));
+        }
+        test_.files.put(trainsetPath(test_.state.roots.RootMSTS) + "Autres\\Wagon_7.wag",
+                        wagon("Wagon_7", "Freight", "freight.sms"));
+        test_.files.put(
+            folder + "Sound\\Wagon.sms",
+            encodeText(
+                "SIMISA@@@@@@@@@@JINX0x1t______\r\n\r\nTr_SMS (\r\n\tFile ( \"nowhere.wav\" -1 )\r\n)\r\n",
+                TextEncoding::Utf16));
+        test_.files.put(test_.state.ProgramFolder + "\\Skrivo", "#!/bin/sh");
     }
 
     QDir folder_;

@@ -11,8 +11,8 @@ namespace zandor {
 
 namespace {
 
-constexpr int ButtonGap = 6; // pixels
-constexpr Message NoTip{0};
+constexpr int ButtonGap = 6;              // pixels
+constexpr Message NoTip{0}, NoCaption{0}; // a flag says it
 
 struct ButtonRow {
     CommandBar::Command command;
@@ -34,7 +34,9 @@ constexpr ButtonRow Rows[] = {
      "edit-delete"},
     {CommandBar::Number, "cmdNUMEROTATION", message::CaptionNumber, "N&uméroter", message::TipNumber,
      "view-sort-ascending"},
-    {CommandBar::Options, "cmdOptions", message::CaptionOptions, "Opt&ions", NoTip, "preferences-system"},
+    {CommandBar::Language, "cmdLANGUAGE", NoCaption, "", message::TipLanguage, ""},
+    {CommandBar::Options, "cmdOptions", message::CaptionOptions, "Opt&ions", message::TipOptions,
+     "preferences-system"},
     {CommandBar::Help, "cmdHELP", message::CaptionHelp, "&Aide", NoTip, "help-contents"},
     {CommandBar::About, "cmdPROPOS", message::CaptionAbout, "A &propos", NoTip, "help-about"},
     {CommandBar::Quit, "cmdCANCEL", message::CaptionQuit, "&Quitter", NoTip, "application-exit",
@@ -52,7 +54,7 @@ CommandBar::CommandBar(QWidget& window) : ButtonBar(ButtonGap) {
                 [this, command = row.command] { emit triggered(command); });
         if (row.key != QKeySequence::UnknownKey)
             connect(new QShortcut(row.key, &window), &QShortcut::activated, button, &QPushButton::click);
-        if (row.command == Options)
+        if (row.command == Language)
             beginRightEnd();
         addWidget(button);
         buttons_[row.command] = button;
@@ -68,9 +70,13 @@ std::vector<QWidget*> CommandBar::tabOrder() const {
 
 void CommandBar::caption(const Frame& frame) {
     for (const ButtonRow& row : Rows) {
-        buttons_[row.command]->setText(textOr(frame, row.caption, row.french));
+        QPushButton& button = *buttons_[row.command];
+        if (row.caption != NoCaption)
+            button.setText(textOr(frame, row.caption, row.french));
         if (row.tip != NoTip)
-            buttons_[row.command]->setToolTip(toQt(frame.text(row.tip)));
+            button.setToolTip(toQt(frame.text(row.tip)));
+        if (row.caption == NoCaption)
+            button.setAccessibleName(button.toolTip());
     }
 }
 
@@ -80,6 +86,10 @@ void CommandBar::enable(Command command, bool on) {
 
 void CommandBar::setMenu(Command command, QMenu* menu) {
     buttons_[command]->setMenu(menu);
+}
+
+void CommandBar::setIcon(Command command, const QIcon& icon) {
+    buttons_[command]->setIcon(icon);
 }
 
 } // namespace zandor

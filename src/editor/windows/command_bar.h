@@ -16,7 +16,7 @@ namespace zandor {
 class CommandBar final : public ButtonBar {
     Q_OBJECT
   public:
-    enum Command { New, Open, Save, Delete, Number, Options, Help, About, Quit, Count };
+    enum Command { New, Open, Save, Delete, Number, Language, Options, Help, About, Quit, Count };
 
     explicit CommandBar(QWidget& window); // which owns the buttons and knows the keys
 
@@ -24,6 +24,7 @@ class CommandBar final : public ButtonBar {
     void caption(const Frame& frame);
     void enable(Command command, bool on);
     void setMenu(Command command, QMenu* menu); // opened by the button
+    void setIcon(Command command, const QIcon& icon);
 
   signals:
     void triggered(int command); // of Command

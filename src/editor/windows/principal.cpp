@@ -102,7 +102,7 @@ void frmPrincipal::connectMenus() {
     connect(actions_, &StripActions::triggered, this, &frmPrincipal::actionTriggered);
     strip_->setMenu(actions_->stripMenu());
     stock_->setMenu(actions_->stockMenu());
-    commands_->setMenu(CommandBar::Options, languages_);
+    commands_->setMenu(CommandBar::Language, languages_);
     connect(languages_, &QMenu::triggered, this,
             [this](const QAction* chosen) { chooseLanguage(fromQt(chosen->text())); });
     connect(new QShortcut(QKeySequence(Qt::SHIFT | Qt::Key_F10), this), &QShortcut::activated, this,
@@ -141,6 +141,8 @@ void frmPrincipal::captionLanguages() {
         QAction* entry = languages_->addAction(flagIcon(choice.image), toQt(choice.name));
         entry->setCheckable(true);
         entry->setChecked(choice.name == frame.state.Language);
+        if (entry->isChecked())
+            commands_->setIcon(CommandBar::Language, entry->icon());
     }
 }
 
@@ -221,6 +223,9 @@ void frmPrincipal::commandTriggered(int command) {
         return savePressed();
     case CommandBar::Number:
         return edits_.change(numberButtonPressed);
+    case CommandBar::Options:
+        emit optionsAsked();
+        return;
     case CommandBar::Help:
         emit helpAsked();
         return;
@@ -265,10 +270,18 @@ void frmPrincipal::savePressed() {
     edits_.carryOutWithFiles(SaveFileRame);
 }
 
+void frmPrincipal::catalogueChanged() {
+    stock_->takeChanges();
+    emit edits_.catalogueChanged();
+    emit edits_.documentChanged();
+}
+
 void frmPrincipal::closeEvent(QCloseEvent* event) {
     emit closeAsked();
     event->setAccepted(
         edits_.carryOut([&](Editor& editor) { return closeEditor(editor, place_->values()); }));
+    if (event->isAccepted())
+        emit closed();
 }
 
 } // namespace zandor

@@ -28,6 +28,8 @@ class frmPrincipal final : public QWidget {
     bool openFile(const std::string& path);
     // Every control as the document stands.
     void refresh();
+    // The same after another window has changed files that the catalogue knows.
+    void catalogueChanged();
 
     // A consist from outside: the question about unsaved changes comes first.
     void offerFile(const std::string& path);
@@ -35,8 +37,10 @@ class frmPrincipal final : public QWidget {
 
   signals:
     void helpAsked();
+    void optionsAsked();
     void languageChosen();
     void closeAsked();
+    void closed(); // it was, whatever it asked
 
   protected:
     void closeEvent(QCloseEvent* event) override;

@@ -159,6 +159,12 @@ void StockPane::refresh() {
     lstViewMATERIEL_->selectStock(stock);
 }
 
+void StockPane::takeChanges() {
+    const int stock = currentStock();
+    fill();
+    lstViewMATERIEL_->selectStock(stock);
+}
+
 bool StockPane::lookUp(int materielIndex) {
     const Materiel* materiel = materielAt(editor_.catalogue, materielIndex);
     if (!materiel)

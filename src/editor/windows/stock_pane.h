@@ -31,7 +31,9 @@ class StockPane final : public QFrame {
     void setMenu(QMenu* menu) { menu_ = menu; } // of what can be done with the selected stock
     void applyLanguage();
     void applyColours(); // Color7 and Color8 of the settings
-    void fill();         // the class chosen in cmbMATERIEL
+    void fill();
+    void takeChanges(); // of the stock itself: what was selected stays so while it is there         // the
+                        // class chosen in cmbMATERIEL
     // Goes to this entry of Materiels; -1: a vehicle that the catalogue lacks. False: no list has it.
     bool lookUp(int materielIndex);
 

@@ -5,6 +5,7 @@
 
 #include <QAccessible>
 #include <QApplication>
+#include <QCheckBox>
 #include <QCloseEvent>
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -97,6 +98,17 @@ void frmAlert::setHelp(std::function<void()> help) {
     showHelp_ = std::move(help);
     if (help_)
         help_->setEnabled(showHelp_ != nullptr);
+}
+
+void frmAlert::offerNoMore(const QString& caption) {
+    noMore_ = new QCheckBox(caption, this);
+    noMore_->setObjectName("chkNO_MORE");
+    constexpr int underText = 1;
+    static_cast<QVBoxLayout*>(layout())->insertWidget(underText, noMore_, 0, Qt::AlignRight);
+}
+
+bool frmAlert::noMore() const {
+    return noMore_ && noMore_->isChecked();
 }
 
 int frmAlert::ask() {

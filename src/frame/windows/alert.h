@@ -8,6 +8,7 @@
 #include <functional>
 
 class QBoxLayout;
+class QCheckBox;
 class QPushButton;
 
 namespace zandor {
@@ -25,6 +26,9 @@ class frmAlert final : public QDialog {
 
     // What Command4 does; without it that button is off.
     void setHelp(std::function<void()> help);
+    // A box under the text, for a message that may be the first of many like it.
+    void offerNoMore(const QString& caption);
+    bool noMore() const;
     // The sound of the icon and the answer that was chosen.
     int ask();
 
@@ -42,6 +46,7 @@ class frmAlert final : public QDialog {
     int answer_;
     WrappedText* text_ = nullptr;
     QPushButton* help_ = nullptr;
+    QCheckBox* noMore_ = nullptr;
     std::function<void()> showHelp_;
 };
 

@@ -22,6 +22,7 @@ inline constexpr int Messages = 1003;
 inline constexpr int Folders = 1004;
 inline constexpr int Stock = 1005;
 inline constexpr int Couplings = 1006;
+inline constexpr int Verify = 1007;
 inline constexpr int Saving = 1008;
 inline constexpr int Settings = 1013;
 inline constexpr int Keyboard = 1014;

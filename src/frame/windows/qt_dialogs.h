@@ -16,10 +16,14 @@ class QtDialogs final : public Dialogs {
 
     int ShowMessage(const std::string& text, int style, const std::string& title,
                     const std::string& helpFile = {}, int helpContext = 0) override;
+    bool showRepeated(const std::string& text, int style, const std::string& title) override;
     // Takes and gives paths in the program's form.
     std::optional<std::string> askOpenFile(const std::string& title, const std::string& filter,
                                            const std::string& folder,
                                            const std::string& proposedName) override;
+    std::optional<std::string> askSaveFile(const std::string& title, const std::string& filter,
+                                           const std::string& folder, const std::string& proposedName,
+                                           const std::string& defaultExtension) override;
 
   private:
     AppState& state_;

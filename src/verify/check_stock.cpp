@@ -1,0 +1,258 @@
+#include "catalogue/catalogue.h"
+#include "simfiles/shape_description.h"
+#include "verify/checks.h"
+#include "verify/messages.h"
+#include "verify/quote_repair.h"
+
+#include <algorithm>
+#include <array>
+#include <span>
+#include <utility>
+
+namespace zandor {
+
+namespace {
+
+using Values = std::span<const std::string_view>;
+
+constexpr std::string_view WagonTypes[] = {"carriage", "engine", "freight", "tender"};
+constexpr std::string_view CouplingTypes[] = {"bar", "automatic", "chain", "hydraulic"};
+constexpr std::string_view BrakeSystems[] = {
+    "air_twin_pipe", "air_single_pipe", "vacuum_single_pipe", "vacuum_twin_pipe", "ep",
+    "ecp",           "air_piped",       "vacuum_piped"};
+constexpr std::string_view EngineTypes[] = {"diesel", "electric", "steam"};
+
+// The keys that the simulator can't do without.
+struct MandatoryKey {
+    std::string_view path, key, name;
+};
+constexpr MandatoryKey MandatoryKeys[] = {{"Wagon", "Size", "Size"},
+                                          {"Wagon\\Coupling", "Type", "Coupling\\Type"},
+                                          {"Wagon", "Mass", "Mass"},
+                                          {"Wagon", "Type", "Type"}};
+
+// Behind the first ".s": numbers and remarks may follow a freight's shape.
+std::string_view upToShape(std::string_view value) {
+    for (std::size_t i = 0; i + 1 < value.size(); ++i)
+        if (value[i] == '.' && letterIs(value[i + 1], 's'))
+            return value.substr(0, i + 2);
+    return value;
+}
+
+const DescribedShape& describedShape(VerifWork& work, const std::string& path) {
+    const auto [found, isNew] = work.descriptions.try_emplace(lowerCase(path));
+    if (isNew)
+        if (const std::optional<SimKey> key = shapeOfDescription(work.reader, path))
+            found->second = {true, std::string(StripQuotes(key->Value)), std::string(key->Tail), key->Line};
+    return found->second;
+}
+
+// The keys of one stock file, tested in the order of the file.
+class StockCheck {
+  public:
+    StockCheck(VerifWork& work, std::string_view folder, std::string_view file)
+        : work_(work), folder_(folder), file_(file),
+          beside_(work.places.trainset + std::string(folder) + "\\") {}
+
+    void run(const std::vector<SimHit>& hits) {
+        for (const SimHit& hit : hits)
+            if (hit.Path == "Engine" && hit.Key == "Name")
+                name_ = StripQuotes(hit.Value);
+        bool couplingSeen = false;
+        for (const SimHit& hit : hits) {
+            const bool isCoupling = hit.Path == "Wagon\\Coupling";
+            if (!isCoupling || !couplingSeen)
+                test(hit);
+            couplingSeen = couplingSeen || isCoupling;
+        }
+        for (const std::string& description : descriptions_)
+            testDescription(description);
+        for (const MandatoryKey& key : MandatoryKeys)
+            if (std::ranges::none_of(
+                    hits, [&](const SimHit& hit) { return hit.Path == key.path && hit.Key == key.key; }))
+                tellMandatory(key.name);
+    }
+
+  private:
+    // A key that is tested, how, and for a closed list the values that it may have.
+    struct KeyTest {
+        std::string_view path, key;
+        void (StockCheck::*test)(const SimHit&, Values);
+        Values allowed{};
+    };
+    static const std::array<KeyTest, 19> Tests;
+
+    void test(const SimHit& hit) {
+        for (const KeyTest& row : Tests)
+            if (hit.Path == row.path && hit.Key == row.key)
+                return (this->*row.test)(hit, row.allowed);
+    }
+
+    void takeName(const SimHit& hit, Values) { name_ = StripQuotes(hit.Value); }
+
+    void testName(const SimHit& hit, Values) {
+        const std::string_view value = StripQuotes(hit.Value);
+        if (name_.empty())
+            name_ = value;
+        const std::string_view expected =
+            file_.substr(0, file_.size() - std::min<std::size_t>(file_.size(), 4));
+        if (!work_.options.CheckName || equalIgnoringCase(expected, value))
+            return;
+        report(message::NameDiffers, message::NameDiffersShort, hit, value, hit.Key.empty(),
+               {{"|1", value}, {"|2", hit.Tail}, {"|3", file_}, {"|4", std::to_string(hit.FirstLine)}});
+    }
+
+    void testAllowed(const SimHit& hit, Values allowed) {
+        const std::string tested = lowerCase(StripQuotes(cutComment(hit.Value)));
+        if (std::ranges::find(allowed, tested) != allowed.end())
+            return;
+        const std::string_view value = StripQuotes(hit.Value);
+        report(message::ValueUnknown, message::ValueUnknownShort, hit, value, false,
+               {{"|1", value}, {"|2", hit.Tail}, {"|3", std::to_string(hit.FirstLine)}});
+    }
+
+    void testFilled(const SimHit& hit, Values) {
+        const std::string_view value = StripQuotes(hit.Value);
+        if (trim(value).empty())
+            report(message::ValueEmpty, message::ValueEmptyShort, hit, value, false,
+                   {{"|1", hit.Tail}, {"|2", std::to_string(hit.FirstLine)}});
+    }
+
+    void testCabView(const SimHit& hit, Values) {
+        const std::string value(StripQuotes(hit.Value));
+        const std::string folder = beside_ + "Cabview\\";
+        if (!work_.onDisk.fileExists(folder + value))
+            reportMissing(hit, value);
+        else if (work_.options.CheckTextures)
+            work_.queues.ShapeTargets.push_back({folder, folder_ + "\\Cabview\\", value});
+    }
+
+    void testSound(const SimHit& hit, Values) {
+        const std::string value(StripQuotes(hit.Value));
+        const std::string own = beside_ + "Sound\\";
+        const std::string& common = work_.places.sounds;
+        const bool isOwn = work_.onDisk.fileExists(own + value);
+        if (!isOwn && (common.empty() || !work_.onDisk.fileExists(common + value)))
+            reportMissing(hit, value);
+        else if (work_.options.CheckSounds)
+            work_.queues.SoundTargets.push_back({isOwn ? own : common, folder_ + "\\Sound\\", value});
+    }
+
+    void testThumbnail(const SimHit& hit, Values) {
+        const std::string_view value = StripQuotes(hit.Value);
+        if (!work_.onDisk.fileExists(beside_ + std::string(value)))
+            reportMissing(hit, value);
+    }
+
+    void testShape(const SimHit& hit, Values) { testShapeFile(hit, StripQuotes(hit.Value)); }
+    void testFreight(const SimHit& hit, Values) { testShapeFile(hit, upToShape(StripQuotes(hit.Value))); }
+
+    void testShapeFile(const SimHit& hit, std::string_view value) {
+        const std::string path = beside_ + std::string(value);
+        if (work_.onDisk.fileExists(path + "d"))
+            descriptions_.push_back(path + "d");
+        if (!work_.onDisk.fileExists(path))
+            reportMissing(hit, value);
+        else if (work_.options.CheckTextures)
+            work_.queues.ShapeTargets.push_back({beside_, folder_ + "\\", std::string(value)});
+    }
+
+    void testDescription(const std::string& path) {
+        const DescribedShape& shape = describedShape(work_, path);
+        if (!shape.found || work_.onDisk.fileExists(beside_ + shape.value))
+            return;
+        SimHit hit;
+        hit.Tail = shape.tail;
+        hit.FirstLine = shape.line;
+        reportMissing(hit, shape.value, true);
+    }
+
+    void reportMissing(const SimHit& hit, std::string_view value, bool bare = false) {
+        report(message::NamedFileMissing, message::NamedFileMissingShort, hit, value, bare,
+               {{"|1", value}, {"|2", hit.Tail}, {"|3", std::to_string(hit.FirstLine)}});
+    }
+
+    // `bare`: the key's block goes without saying. The summary's |1 is that of the long text.
+    void report(Message longText, Message summary, const SimHit& hit, std::string_view value, bool bare,
+                std::initializer_list<TextParam> params) {
+        const Frame& frame = work_.frame;
+        if (!std::exchange(isInvalid_, true))
+            AddInvalidFile(work_.results, {work_.places.stock, folder_, std::string(file_), name_, {}});
+        AddErrorLine(work_.results, {frame.text(summary, {*params.begin()}), frame.text(longText, params),
+                                     std::string(value), bare ? hit.Tail : hit.Path + "\\" + hit.Tail,
+                                     hit.FirstLine, summary.number, longText.number});
+    }
+
+    void tellMandatory(std::string_view key) {
+        work_.results.mandatory.push_back({folder_, std::string(file_), std::string(key)});
+        if (!work_.showsMandatory)
+            return;
+        Frame& frame = work_.frame;
+        const std::string path =
+            frame.files.nativePath(work_.places.stock + folder_ + "\\" + std::string(file_));
+        const std::string text =
+            frame.text(message::MandatoryKeyMissing, {{"|1", "\r\n\r\n" + path + "\r\n\r\n"},
+                                                      {"|2", "'" + std::string(key) + "'"},
+                                                      {"|3", "'Wagon'"},
+                                                      {"|4", "\r\n\r\n"},
+                                                      {"|5", frame.state.Title}});
+        work_.showsMandatory = frame.dialogs.showRepeated(text, style::Exclamation, frame.state.Title);
+    }
+
+    VerifWork& work_;
+    std::string folder_;
+    std::string_view file_;
+    std::string beside_; // where the files lie that this stock names
+    std::string name_;
+    bool isInvalid_ = false;
+    std::vector<std::string> descriptions_; // paths
+};
+
+const std::array<StockCheck::KeyTest, 19> StockCheck::Tests{{
+    {"Wagon", "Name", &StockCheck::takeName},
+    {"Wagon", "", &StockCheck::testName},
+    {"Wagon", "Type", &StockCheck::testAllowed, WagonTypes},
+    {"Wagon", "Mass", &StockCheck::testFilled},
+    {"Wagon", "Size", &StockCheck::testFilled},
+    {"Wagon\\Coupling", "Type", &StockCheck::testAllowed, CouplingTypes},
+    {"Wagon", "BrakeSystemType", &StockCheck::testAllowed, BrakeSystems},
+    {"Engine", "", &StockCheck::testName},
+    {"Engine", "Wagon", &StockCheck::testName},
+    {"Engine", "Type", &StockCheck::testAllowed, EngineTypes},
+    {"Engine", "CabView", &StockCheck::testCabView},
+    {"Engine", "Sound", &StockCheck::testSound},
+    {"Wagon", "Sound", &StockCheck::testSound},
+    {"Engine\\Inside", "Sound", &StockCheck::testSound},
+    {"Wagon\\Inside", "Sound", &StockCheck::testSound},
+    {"Wagon", "Thumbnail", &StockCheck::testThumbnail},
+    {"Wagon", "WagonShape", &StockCheck::testShape},
+    {"Wagon\\Inside", "PassengerCabinFile", &StockCheck::testShape},
+    {"Wagon", "FreightAnim", &StockCheck::testFreight},
+}};
+
+} // namespace
+
+VerifPlaces placesOf(const Roots& roots) {
+    const std::string& simulator = roots.RootMSTS.empty() ? roots.RootPrimary() : roots.RootMSTS;
+    return {trainsetPath(roots.RootPrimary()), trainsetPath(simulator), simulator + "\\Sound\\"};
+}
+
+VerifPlaces placesAround(const Roots& roots, const std::string& basePath) {
+    return {basePath, basePath, roots.RootMSTS.empty() ? std::string() : roots.RootMSTS + "\\Sound\\"};
+}
+
+void CheckStockFile(VerifWork& work, std::string_view folder, std::string_view file) {
+    const std::string path = work.places.stock + std::string(folder) + "\\" + std::string(file);
+    ReadRequest request;
+    request.count = 0;
+    request.stockMode = true;
+    const ReadAnswer answer = work.reader.ReadSimFile(path, request);
+    if (answer.outcome == ReadOutcome::NoFile || answer.outcome == ReadOutcome::Unreadable)
+        return;
+    std::vector<SimHit> hits = std::move(work.reader.SimHits);
+    if (work.options.RepairQuotes && std::ranges::any_of(hits, lacksQuotes))
+        repairQuotes(work, path, hits);
+    StockCheck(work, folder, file).run(hits);
+}
+
+} // namespace zandor
