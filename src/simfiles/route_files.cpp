@@ -159,6 +159,14 @@ constexpr std::string_view HeaderPath = "Tr_Activity\\Tr_Activity_Header";
 constexpr std::string_view EnginePath = "Train_Config\\TrainCfg\\Engine";
 constexpr std::string_view WagonPath = "Train_Config\\TrainCfg\\Wagon";
 
+// True when these blocks stand anywhere in the path, markers left out; mostly they are its end.
+bool hasBlocks(std::string_view path, std::string_view blocks) {
+    std::size_t end = path.rfind('\\');
+    for (int component = 0; component < 2 && end != std::string_view::npos && end > 0; ++component)
+        end = path.rfind('\\', end - 1);
+    return pathIs(path.substr(end + 1), blocks) || containsIgnoringCase(StripOccurrence(path), blocks);
+}
+
 void takeKey(ActivityParts& parts, const SimKey& key) {
     if (nameIs(key.Key, "name")) {
         if (pathIs(key.Path, HeaderPath))
@@ -166,8 +174,7 @@ void takeKey(ActivityParts& parts, const SimKey& key) {
         return;
     }
     const bool isEngine = nameIs(key.Key, "enginedata");
-    if ((isEngine || nameIs(key.Key, "wagondata")) &&
-        containsIgnoringCase(StripOccurrence(key.Path), isEngine ? EnginePath : WagonPath))
+    if ((isEngine || nameIs(key.Key, "wagondata")) && hasBlocks(key.Path, isEngine ? EnginePath : WagonPath))
         parts.add(isEngine, key.Value, key.Tail, key.Line);
 }
 
