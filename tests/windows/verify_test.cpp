@@ -159,7 +159,7 @@ TEST_F(VerifyTest, TheFilterNarrowsTheCandidatesAndAllOfThemAreSelectedAtOnce) {
 }
 
 TEST_F(VerifyTest, APassIsStoppedAndWhatItFoundIsShown) {
-    putWagons(3000);
+    putWagons(12000);
     open();
     bool off = true, bar = false;
     duringPass([&] {
@@ -175,14 +175,14 @@ TEST_F(VerifyTest, APassIsStoppedAndWhatItFoundIsShown) {
     verifyAll();
     EXPECT_TRUE(off) << "all other controls are off during a pass";
     EXPECT_TRUE(bar);
-    EXPECT_LT(invalid().rows().rowCount(), 1500);
+    EXPECT_LT(invalid().rows().rowCount(), 6000);
     for (const char* on : {"lstFILES", "optRAMES", "cmdHELP", "cmdCANCEL", "cmdVERIF", "tbsVERIF"})
         EXPECT_TRUE(isOn(on)) << on;
     EXPECT_FALSE(test.dialogs.shown.empty()) << "the closing report";
 }
 
 TEST_F(VerifyTest, ClosingTheWindowEndsThePass) {
-    putWagons(3000);
+    putWagons(12000);
     open();
     const QPointer<frmOptions> watched = window;
     duringPass([this] { window->close(); });
@@ -240,10 +240,10 @@ TEST_F(VerifyTest, SeveralFilesAreDeletedAfterOneQuestionAndTheListGoesOnBehindT
     QTest::keyClick(&invalid(), Qt::Key_Down, Qt::ShiftModifier);
     QTest::keyClick(&invalid(), Qt::Key_Delete);
     EXPECT_EQ(test.dialogs.shown.size(), 1u) << test.dialogs.lastText();
+    EXPECT_FALSE(test.files.fileExists(wagonPath("w11")));
     EXPECT_FALSE(test.files.fileExists(wagonPath("w3")));
-    EXPECT_FALSE(test.files.fileExists(wagonPath("w5")));
-    EXPECT_EQ(shown("lstFILES_INVALIDES"), (Names{"w1.wag", "w7.wag", "w9.wag", "w11.wag"}));
-    EXPECT_GE(invalid().currentNumber(), 1) << "not back to the first one";
+    EXPECT_EQ(shown("lstFILES_INVALIDES"), (Names{"w1.wag", "w5.wag", "w7.wag", "w9.wag"}));
+    EXPECT_EQ(invalid().currentNumber(), 1) << "the one behind them";
     EXPECT_EQ(changes, 1);
     test.dialogs.defaultAnswer = answer::No;
     QTest::keyClick(&invalid(), Qt::Key_Delete);
@@ -271,6 +271,7 @@ TEST_F(VerifyTest, AValueIsCorrectedByTheKeyboardAndTheFileLeavesTheList) {
     QTimer::singleShot(10, window, [this] {
         QWidget* const dialog = QApplication::activeModalWidget();
         ASSERT_TRUE(dialog);
+        QTimer::singleShot(200, dialog, [dialog] { dialog->close(); }); // if it is still there
         auto& offered = *dialog->findChild<QComboBox*>("cmbREPLACE");
         EXPECT_EQ(dialog->findChild<QLineEdit*>("tbVALUE")->text(), "Fright");
         EXPECT_EQ(offered.count(), 4) << "the types of wagon";

@@ -47,6 +47,12 @@ void RowView::sizeColumn(int column, int width) {
     sizing_ = false;
 }
 
+void RowView::showColumn(int column, bool shown) {
+    sizing_ = true;
+    setColumnHidden(column, !shown);
+    sizing_ = false;
+}
+
 void RowView::keyboardSearch(const QString& text) {
     if (currentIndex().column() > NameColumn)
         setCurrentIndex(currentIndex().siblingAtColumn(NameColumn));

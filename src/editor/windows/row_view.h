@@ -18,6 +18,7 @@ class RowView : public QTreeView {
     // From then on the columns stay as they are.
     bool sizedByUser() const { return sizedByUser_; }
     void sizeColumn(int column, int width);
+    void showColumn(int column, bool shown);
     // Typed letters look for names, also after a click on another column of the row.
     void keyboardSearch(const QString& text) override;
 

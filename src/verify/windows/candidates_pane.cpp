@@ -177,7 +177,7 @@ void CandidatesPane::applyLanguage() {
     tbFILTER_->setAccessibleName(tbFILTER_->placeholderText());
     lstFILES_->setAccessibleName(grpFILES_->title());
     lstFILES_->rows().setTitles(
-        {toQt(frame.text(message::ColumnFile)), toQt(frame.text(message::ColumnStockFolder))});
+        {toQt(frame.text(message::ColumnFile)), toQt(frame.text(message::ColumnCandidateFolder))});
     showRows();
 }
 
@@ -237,7 +237,7 @@ void CandidatesPane::fill() {
         tbFILTER_->clear();
     }
     lstFILES_->rows().setRows({}); // the rows of another kind have other numbers
-    lstFILES_->setColumnHidden(1, candidates_.kind == VerifiedKind::Consists);
+    lstFILES_->showColumn(1, candidates_.kind != VerifiedKind::Consists);
     showRows();
     enableAll();
 }

@@ -22,7 +22,7 @@ namespace zandor {
 
 namespace {
 constexpr int Columns = 2, LineColumn = 1;
-constexpr int WidestField = 44; // letters
+constexpr int WidestField = 56; // letters
 } // namespace
 
 frmModifieValeur::frmModifieValeur(VerifySession& session, int file, int line, QWidget* parent)

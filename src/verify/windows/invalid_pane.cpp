@@ -30,6 +30,7 @@ constexpr int FileColumns = 3, CountColumn = 2, FaultColumns = 2, LineColumn = 1
 constexpr int ButtonGap = 6;      // pixels
 constexpr int LongestFolder = 24; // letters of its column
 constexpr int LongestWord = 30;   // letters without a place to break
+constexpr int FaultLines = 2;     // of a fault told at length
 constexpr int FaultRows = 4;      // of the list of faults, in sight at least
 
 // A line can be broken behind each "\" of a path, which has no blanks.
@@ -111,6 +112,8 @@ QWidget* InvalidPane::buildFaults() {
     lblERREURS_ = named(new QLabel(pane), "lblERREURS");
     lblERREURS_->setTextFormat(Qt::PlainText);
     lblERREURS_->setWordWrap(true);
+    lblERREURS_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    lblERREURS_->setMinimumHeight(FaultLines * fontMetrics().lineSpacing()); // the text stays where it is
     lblERREURS_->setTextInteractionFlags(Qt::TextSelectableByMouse);
     txtFILE_ = named(new FileView(session_.frame(), pane), "txtFILE");
     txtFILE_->setMinimumSize(260, 4 * row);
@@ -183,12 +186,12 @@ void InvalidPane::applyLanguage() {
     captionInput(*lblFILES_, textOr(frame, message::InvalidFilesLabel, "Fichiers invalides :"));
     captionInput(*lblLINES_, textOr(frame, message::InvalidKeysLabel, "Clés invalides :"));
     lstFILES_INVALIDES_->rows().setTitles({toQt(frame.text(message::ColumnFile)),
-                                           toQt(frame.text(message::ColumnStockFolder)),
+                                           toQt(frame.text(message::ColumnCandidateFolder)),
                                            toQt(frame.text(message::ColumnFaults))});
     lstLINES_ERROR_->rows().setTitles(
         {toQt(frame.text(message::ColumnFault)), toQt(frame.text(message::ColumnLine))});
     txtFILE_->setAccessibleName(toQt(frame.text(message::FileText)));
-    txtFILE_->setUnreadableHint(toQt(frame.text(message::FileUnreadable)));
+    txtFILE_->setUnreadableHint(toQt(frame.text(message::FileTextUnreadable)));
     cmdCORRECT_->setToolTip(QKeySequence(Qt::Key_Return).toString(QKeySequence::NativeText));
     cmdNEXT_->setToolTip(QKeySequence(Qt::Key_F8).toString(QKeySequence::NativeText));
     cmdDELETE_->setToolTip(QKeySequence(Qt::Key_Delete).toString(QKeySequence::NativeText));
@@ -223,7 +226,7 @@ void InvalidPane::showFiles(std::vector<FaultyFile> files, const std::optional<F
                          QString::number(faultsOf(results, files_[i]).size())}});
     }
     going_ = true;
-    lstFILES_INVALIDES_->setColumnHidden(1, longest.isEmpty());
+    lstFILES_INVALIDES_->showColumn(1, !longest.isEmpty());
     lstFILES_INVALIDES_->rows().setRows(std::move(rows));
     lstFILES_INVALIDES_->fitColumns({longest.left(LongestFolder), "999"});
     going_ = false;
@@ -255,11 +258,12 @@ const FileFault* InvalidPane::currentFault() const {
 const ErrorLine* InvalidPane::currentLine() const {
     const FaultyFile* const file = currentFile();
     const FileFault* const fault = currentFault();
-    if (!file || !fault || fault->line < 0)
+    const std::vector<InvalidFile>& records = session_.results().InvalidFiles;
+    if (!file || !fault || fault->line < 0 || file->invalid >= static_cast<int>(records.size()))
         return nullptr;
-    return &session_.results()
-                .InvalidFiles[static_cast<std::size_t>(file->invalid)]
-                .Lines[static_cast<std::size_t>(fault->line)];
+    const std::vector<ErrorLine>& lines = records[static_cast<std::size_t>(file->invalid)].Lines;
+    return fault->line < static_cast<int>(lines.size()) ? &lines[static_cast<std::size_t>(fault->line)]
+                                                        : nullptr;
 }
 
 std::vector<int> InvalidPane::chosenRecords() const {
@@ -344,10 +348,16 @@ void InvalidPane::enableButtons() {
     cmdNEXT_->setEnabled(any);
     cmdSAVE_->setEnabled(gone);
     cmdDELETE_->setEnabled(gone);
+    showChosen();
+}
+
+// How many files a command goes for, or what else can be done with one.
+void InvalidPane::showChosen() {
     const int chosen = lstFILES_INVALIDES_->chosenCount();
     const std::string count = std::to_string(chosen);
-    lblINFOS_->setText(chosen > 1 ? toQt(session_.frame().text(message::FilesChosen, {{"|1", count}}))
-                                  : QString());
+    if (chosen < 2)
+        return showHint(ResultList::Files);
+    lblINFOS_->setText(toQt(session_.frame().text(message::FilesChosen, {{"|1", count}})));
 }
 
 void InvalidPane::nextFault() {
@@ -362,17 +372,15 @@ void InvalidPane::nextFault() {
 // The pointer over one of the lists.
 bool InvalidPane::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::Enter)
-        showHint(watched == lstFILES_INVALIDES_->viewport());
+        showHint(watched == lstFILES_INVALIDES_->viewport() ? ResultList::Files : ResultList::Keys);
     if (event->type() == QEvent::Leave)
-        enableButtons();
+        showChosen();
     return QWidget::eventFilter(watched, event);
 }
 
-void InvalidPane::showHint(bool files) {
-    if (files_.empty())
-        return;
-    const Message hint = resultHint(session_.verifiedKind(), files ? ResultList::Files : ResultList::Keys);
-    lblINFOS_->setText(toQt(session_.frame().text(hint)));
+void InvalidPane::showHint(ResultList list) {
+    const Message hint = resultHint(session_.verifiedKind(), list);
+    lblINFOS_->setText(files_.empty() ? QString() : toQt(session_.frame().text(hint)));
 }
 
 // ---- what is done with them
@@ -401,8 +409,12 @@ void InvalidPane::carryAway(FilesGone (*operation)(Editor&, VerifResults&, const
     const bool here = session_.carryOut([&](Editor& editor) { gone = operation(editor, results, chosen); });
     if (!here)
         return;
-    if (gone.gone > 0)
+    if (gone.gone > 0) {
+        going_ = true; // what comes behind those that went is shown next
+        lstFILES_INVALIDES_->showRow(lstFILES_INVALIDES_->chosenNumbers().front());
+        going_ = false;
         session_.tellChange();
+    }
     showFindings(session_.frame(), gone.told);
 }
 

@@ -60,7 +60,8 @@ class InvalidPane final : public QWidget {
     void editFile(bool atFault);
     void correct();
     void carryAway(FilesGone (*operation)(Editor&, VerifResults&, const std::vector<int>&));
-    void showHint(bool files);
+    void showChosen();
+    void showHint(ResultList list);
 
     VerifySession& session_;
     std::vector<FaultyFile> files_;

@@ -4,6 +4,7 @@
 #include "frame/windows/qt_text.h"
 #include "verify/messages.h"
 
+#include <QButtonGroup>
 #include <QToolButton>
 
 #include <algorithm>
@@ -20,7 +21,8 @@ QString counted(const QString& name, int count) {
 
 } // namespace
 
-KindBar::KindBar(QWidget* parent) : QWidget(parent), row_(new ButtonBar(ButtonGap)) {
+KindBar::KindBar(QWidget* parent)
+    : QWidget(parent), row_(new ButtonBar(ButtonGap)), group_(new QButtonGroup(this)) {
     setObjectName("kinds");
     row_->setContentsMargins(0, 0, 0, 0);
     setLayout(row_);
@@ -34,11 +36,11 @@ void KindBar::add(const QString& text, const QString& tip, const std::optional<F
     button->setText(text);
     button->setToolTip(plainTip(tip));
     button->setCheckable(true);
-    button->setAutoExclusive(true);
     button->setFocusPolicy(Qt::StrongFocus);
     button->setChecked(down);
     connect(button, &QToolButton::clicked, this, [this, kind] { emit chosen(kind); });
     row_->addWidget(button);
+    group_->addButton(button);
     button->show();
     buttons_.push_back(button);
 }
@@ -48,6 +50,7 @@ void KindBar::showCounts(const Frame& frame, const std::vector<FaultCount>& coun
     const bool focused = std::ranges::any_of(buttons_, &QToolButton::hasFocus);
     for (QToolButton* button : std::exchange(buttons_, {})) {
         row_->removeWidget(button);
+        group_->removeButton(button);
         button->hide();
         button->deleteLater(); // it may be the one that was clicked
     }

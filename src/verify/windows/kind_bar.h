@@ -9,6 +9,7 @@
 #include <optional>
 #include <vector>
 
+class QButtonGroup;
 class QToolButton;
 
 namespace zandor {
@@ -31,6 +32,7 @@ class KindBar final : public QWidget {
     void add(const QString& text, const QString& tip, const std::optional<FaultKind>& kind, bool down);
 
     ButtonBar* row_;
+    QButtonGroup* group_;
     std::vector<QToolButton*> buttons_;
 };
 

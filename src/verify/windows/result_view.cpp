@@ -2,6 +2,7 @@
 
 #include "frame/windows/qt_text.h"
 
+#include <QApplication>
 #include <QHeaderView>
 #include <QItemSelectionModel>
 #include <QPainter>
@@ -10,6 +11,10 @@
 
 namespace zandor {
 
+namespace {
+constexpr int RowGap = 5; // pixels
+} // namespace
+
 QVariant ResultModel::data(const QModelIndex& index, int role) const {
     if (!index.isValid() || index.row() >= rowCount())
         return {};
@@ -17,6 +22,8 @@ QVariant ResultModel::data(const QModelIndex& index, int role) const {
         return plainTip(rowAt(index).texts[static_cast<std::size_t>(index.column())]);
     if (role == Qt::TextAlignmentRole && index.column() == figures_)
         return int(Qt::AlignRight | Qt::AlignVCenter);
+    if (role == Qt::SizeHintRole)
+        return QSize(0, QFontMetrics(QApplication::font("QAbstractItemView")).height() + RowGap);
     return RowModel::data(index, role);
 }
 

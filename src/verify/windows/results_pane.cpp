@@ -7,6 +7,7 @@
 #include "verify/windows/report_pane.h"
 
 #include <QBoxLayout>
+#include <QButtonGroup>
 #include <QLineEdit>
 #include <QRadioButton>
 #include <QStackedWidget>
@@ -53,6 +54,10 @@ void ResultsPane::build() {
         lists_[i] = named(new QRadioButton(this), Lists[i].name);
         choice->addWidget(lists_[i]);
     }
+    // Not by themselves: they would take the buttons of the kinds for their own.
+    auto* group = new QButtonGroup(this);
+    for (QRadioButton* list : lists_)
+        group->addButton(list);
     lists_[Invalid]->setChecked(true);
     choice->addStretch(1);
     shown_ = new QStackedWidget(this);
