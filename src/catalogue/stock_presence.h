@@ -1,5 +1,4 @@
-// Whether stock files stand on the disk. Each is looked for once, so that thousands of consists and
-// activities may ask for the same ones.
+// Whether stock files stand on the disk, for thousands of consists and activities that ask for the same ones.
 #pragma once
 
 #include "frame/roots.h"
@@ -15,7 +14,8 @@ namespace zandor {
 
 class StockPresence {
   public:
-    // Looks in these folders, one after another; an empty path is none.
+    // Looks in these folders, one after another; an empty path is none. What a folder of stock holds is asked
+    // of the disk once; a file that is listed there counts, also one that can't be read.
     StockPresence(FileSystem& files, std::vector<std::string> roots)
         : files_(files), roots_(std::move(roots)) {}
 
@@ -23,12 +23,14 @@ class StockPresence {
     bool has(std::string_view folder, std::string_view file);
 
   private:
-    bool isIn(std::string_view root, std::string_view folder, std::string_view file) const;
+    using Names = std::vector<std::string>; // of stock files, in the order of a listing
+    bool isIn(const std::string& root, std::string_view folder, std::string_view file) const;
+    const Names& namesIn(std::string_view folder);
+    void addNames(const std::string& path, Names& names) const;
 
     FileSystem& files_;
     std::vector<std::string> roots_;
-    std::unordered_map<std::string, bool, TextHash, std::equal_to<>> known_;
-    std::string key_;
+    std::unordered_map<std::string, Names, TextHash, std::equal_to<>> folders_; // as spelled; of all roots
 };
 
 // Where the stock of services and activities is looked for: in the root in use and, when that is the Train

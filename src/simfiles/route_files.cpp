@@ -26,6 +26,13 @@ bool holdsWord(std::string_view line, std::string_view word) {
     return false;
 }
 
+// The line as its values are taken from it: tabs count as blanks. `room` holds it.
+std::string_view withoutTabs(std::string_view line, std::string& room) {
+    room.assign(line);
+    std::replace(room.begin(), room.end(), '\t', ' ');
+    return room;
+}
+
 // What stands behind the line's first bracket up to its ")"; when more brackets open behind the first one, up
 // to the second ")", so that a value may hold one pair. Nothing: they don't close.
 std::optional<std::string_view> bracketValue(std::string_view line) {
@@ -47,7 +54,7 @@ std::optional<std::string_view> quotedValue(std::string_view line) {
 // Takes lines until one gives the name.
 class TrackLines {
   public:
-    explicit TrackLines(std::string& nom) : nom_(nom) {}
+    TrackLines(std::string& nom, std::string& room) : nom_(nom), room_(room) {}
 
     // False: no more are wanted.
     bool take(std::string_view line, int) {
@@ -55,17 +62,18 @@ class TrackLines {
         const std::size_t end = begin == 0 ? std::string_view::npos : line.find(')', begin);
         if (end == std::string_view::npos || end == begin || !holdsWord(line, "name"))
             return true;
-        nom_ = StripQuotes(line.substr(begin, end - begin));
+        nom_ = StripQuotes(withoutTabs(line.substr(begin, end - begin), room_));
         return false;
     }
 
   private:
     std::string& nom_;
+    std::string& room_; // for one line
 };
 
 class ServiceLines {
   public:
-    explicit ServiceLines(ServiceRoute& service) : service_(service) {}
+    ServiceLines(ServiceRoute& service, std::string& room) : service_(service), room_(room) {}
 
     bool take(std::string_view line, int number) {
         service_.Ligne = number;
@@ -77,13 +85,14 @@ class ServiceLines {
     }
 
   private:
-    static void takeValue(std::string_view line, std::string_view word, std::string& field) {
+    void takeValue(std::string_view line, std::string_view word, std::string& field) {
         if (holdsWord(line, word))
-            if (const auto value = quotedValue(line))
+            if (const auto value = quotedValue(withoutTabs(line, room_)))
                 field = *value;
     }
 
     ServiceRoute& service_;
+    std::string& room_; // for one line
 };
 
 // Collects the names and vehicles of an activity file.
@@ -113,13 +122,14 @@ class ActivityParts {
 
 class ActivityLines {
   public:
-    ActivityLines(ActivityParts& parts, std::string& source) : parts_(parts), source_(source) {}
+    ActivityLines(ActivityParts& parts, std::string& room, std::string& source)
+        : parts_(parts), room_(room), source_(source) {}
 
     bool take(std::string_view line, int number) {
         if (line.find('(') == std::string_view::npos)
             return true;
         if (!parts_.hasName() && holdsWord(line, "name"))
-            if (const auto value = quotedValue(line); value && !value->empty())
+            if (const auto value = quotedValue(withoutTabs(line, room_)); value && !value->empty())
                 parts_.open(*value);
         if (!holdsWord(line, "data")) // as few lines do
             return true;
@@ -132,7 +142,7 @@ class ActivityLines {
 
   private:
     void add(bool isEngine, std::string_view line, int number) {
-        const std::optional<std::string_view> value = bracketValue(line);
+        const std::optional<std::string_view> value = bracketValue(withoutTabs(line, room_));
         if (!value)
             return;
         source_ = line;
@@ -141,12 +151,21 @@ class ActivityLines {
     }
 
     ActivityParts& parts_;
-    std::string& source_; // room for one line
+    std::string& room_;   // for one line
+    std::string& source_; // for one in its normal form
 };
 
 constexpr std::string_view HeaderPath = "Tr_Activity\\Tr_Activity_Header";
 constexpr std::string_view EnginePath = "Train_Config\\TrainCfg\\Engine";
 constexpr std::string_view WagonPath = "Train_Config\\TrainCfg\\Wagon";
+
+// True when these blocks stand anywhere in the path, markers left out; mostly they are its end.
+bool hasBlocks(std::string_view path, std::string_view blocks) {
+    std::size_t end = path.rfind('\\');
+    for (int component = 0; component < 2 && end != std::string_view::npos && end > 0; ++component)
+        end = path.rfind('\\', end - 1);
+    return pathIs(path.substr(end + 1), blocks) || containsIgnoringCase(StripOccurrence(path), blocks);
+}
 
 void takeKey(ActivityParts& parts, const SimKey& key) {
     if (nameIs(key.Key, "name")) {
@@ -155,8 +174,7 @@ void takeKey(ActivityParts& parts, const SimKey& key) {
         return;
     }
     const bool isEngine = nameIs(key.Key, "enginedata");
-    if ((isEngine || nameIs(key.Key, "wagondata")) &&
-        containsIgnoringCase(StripOccurrence(key.Path), isEngine ? EnginePath : WagonPath))
+    if ((isEngine || nameIs(key.Key, "wagondata")) && hasBlocks(key.Path, isEngine ? EnginePath : WagonPath))
         parts.add(isEngine, key.Value, key.Tail, key.Line);
 }
 
@@ -198,12 +216,11 @@ template <typename Take> ReadOutcome RouteFilesReader::readLines(std::string_vie
         return unreadAnswer(files_, path, result).outcome;
     try {
         decodeSimulatorText(bytes_, text_);
-        std::replace(text_.begin(), text_.end(), '\t', ' ');
         int number = 0;
         bool wanted = true;
         forEachLine(text_, [&](std::string_view line) { wanted = wanted && take(line, ++number); });
     } catch (const std::bad_alloc&) {
-        bytes_ = text_ = line_ = std::string();
+        bytes_ = text_ = line_ = source_ = std::string();
         return ReadOutcome::NoMemory;
     }
     return ReadOutcome::Read;
@@ -211,14 +228,14 @@ template <typename Take> ReadOutcome RouteFilesReader::readLines(std::string_vie
 
 ReadOutcome RouteFilesReader::readTrack(std::string_view path, std::string& nom) {
     nom.clear();
-    TrackLines lines(nom);
+    TrackLines lines(nom, line_);
     return readLines(path, [&](std::string_view line, int number) { return lines.take(line, number); });
 }
 
 ReadOutcome RouteFilesReader::readService(std::string_view path, ServiceRoute& service) {
     service = ServiceRoute();
     service.Fichier = path;
-    ServiceLines lines(service);
+    ServiceLines lines(service, line_);
     return readLines(path, [&](std::string_view line, int number) { return lines.take(line, number); });
 }
 
@@ -228,7 +245,7 @@ ReadOutcome RouteFilesReader::readActivity(std::string_view path, ActivityReadin
     activity.named.clear();
     ActivityParts parts(activity, path);
     if (reading == ActivityReading::ByLines) {
-        ActivityLines lines(parts, line_);
+        ActivityLines lines(parts, line_, source_);
         return readLines(path, [&](std::string_view line, int number) { return lines.take(line, number); });
     }
     const ReadAnswer answer = reader_.ReadSimFile(path);

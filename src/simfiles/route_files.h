@@ -40,7 +40,7 @@ class RouteFilesReader {
 
     FileSystem& files_;
     SimReader reader_;
-    std::string bytes_, text_, line_;
+    std::string bytes_, text_, line_, source_;
 };
 
 } // namespace zandor

@@ -217,12 +217,24 @@ TEST_F(RoutesTest, StockOfTheOtherRootCountsInTheTrainStoreAlone) {
     EXPECT_EQ(activities(), (Names{"A", "E sim|Parc|12", "E STORE|Parc|15"}));
 }
 
-TEST_F(RoutesTest, EachStockFileIsLookedForOnce) {
-    activitiesOf(activityNamed("A", Names(500, "EngineData ( a b )")), true);
-    int looks = 0;
-    for (const std::string& call : files.log)
-        looks += call.find("a.eng") != std::string::npos ? 1 : 0;
-    EXPECT_EQ(looks, 1);
+TEST_F(RoutesTest, EachFolderOfStockIsListedOnceAndPathsLeadWhereTheyLead) {
+    for (const char* name :
+         {"Parc\\B.ENG", "Parc\\a.wag", "Parc\\c.eng", "Parc\\deep\\d.eng", "Parc\\e.eng\\f.eng"})
+        putStock(name);
+    putStock("Parc\\b2.eng", {}, StoreRoot);
+    state.roots.first = Root::Store;
+    StockPresence stock(files, rootsInReach(state.roots));
+    files.log.clear();
+    std::string found;
+    for (int round = 0; round < 100; ++round)
+        for (const char* name : {"b.eng", "A.wag", "B2.eng", "c.eng", "b.wag", "d.eng", "e.eng"})
+            found += stock.has("Parc", name) ? 'y' : 'n';
+    EXPECT_EQ(found.substr(693), "yyyynnn");
+    EXPECT_EQ(files.log.size(), 2u) << "a listing in each root";
+    EXPECT_TRUE(stock.has("Parc\\deep", "d.eng"));
+    EXPECT_TRUE(stock.has("parc", "deep\\..\\c.eng"));
+    EXPECT_FALSE(stock.has("", ".eng"));
+    EXPECT_FALSE(stock.has("Nowhere", "a.wag"));
 }
 
 TEST_F(RoutesTest, FilesThatCannotBeReadGiveNoRecordAndNoEnd) {
