@@ -2,6 +2,7 @@
 
 #include "catalogue/messages.h"
 #include "catalogue/name_key.h"
+#include "catalogue/routes.h"
 #include "editor/consist_summaries.h"
 #include "editor/editor_parts.h"
 #include "editor/files_changed.h"
@@ -149,11 +150,10 @@ bool agreesForUsed(Editor& editor, const VerifResults& results, const std::vecto
         return true;
     if (chosen.size() > 1)
         return ask(editor.frame, ofSeveral(editor.frame, message::AskGoOnUsedSeveral, used));
-    const std::string route =
-        routeUsing(editor.catalogue, recordOf(results, used.front()).File).value_or(std::string());
+    const RouteMSTS* route = findRouteUsing(editor.catalogue.here(), recordOf(results, used.front()).File);
     return ask(editor.frame, {.message = askOne,
                               .params = {{"|1", shownPath(editor.frame, used.front())},
-                                         {"|2", route},
+                                         {"|2", route ? route->Nom : std::string()},
                                          {"|3", std::string(LineBreak)}}});
 }
 
@@ -346,13 +346,6 @@ std::string selectionCaption(const Frame& frame, const InvalidFile& file) {
 
 Message resultHint(VerifiedKind kind, ResultList list) {
     return list == ResultList::Files ? rowOf(kind).fileHint : rowOf(kind).keyHint;
-}
-
-std::optional<std::string> routeUsing(const Catalogue& catalogue, std::string_view file) {
-    const auto& used = catalogue.here().RamesEnService;
-    const bool isUsed =
-        std::ranges::any_of(used, [file](const std::string& name) { return equalIgnoringCase(name, file); });
-    return isUsed ? std::optional<std::string>("") : std::nullopt;
 }
 
 FilesGone moveInvalidFiles(Editor& editor, VerifResults& results, const std::vector<int>& chosen) {

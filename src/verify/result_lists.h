@@ -26,10 +26,6 @@ std::string selectionCaption(const Frame& frame, const InvalidFile& file);
 enum class ResultList { Files, Keys };
 Message resultHint(VerifiedKind kind, ResultList list);
 
-// The route a service of which runs this consist (its file's name, any case); an empty name when it isn't
-// known which. Nothing: none does.
-std::optional<std::string> routeUsing(const Catalogue& catalogue, std::string_view file);
-
 // What became of the files that were to be moved or deleted.
 struct [[nodiscard]] FilesGone {
     int gone = 0; // files that are no longer where they were, and no longer in the lists

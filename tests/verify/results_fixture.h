@@ -41,6 +41,7 @@ struct ResultsTest : ::testing::Test, TestFrame {
         work.places = placesOf(state.roots);
         LoadCatalogue(frame, catalogue, ReadOnlyLoad);
         catalogue.here().RamesEnService = {"USED.con"};
+        catalogue.here().Routes = {{"The line", "LINE\\", {{"", "s", "used"}}, {}}};
         initialiseDocument(editor);
         dialogs.shown.clear();
         for (const char* name : {"a.wag", "b.wag", "c.wag", "sound.wag"})
