@@ -95,6 +95,7 @@ TEST_F(ResultLists, NoLeavesEverythingAsItWas) {
     EXPECT_EQ(move({used}), 0);
     dialogs.answers = {answer::Yes, answer::No}; // deleted, but not while a service runs it
     EXPECT_EQ(remove({used}), 0);
+    EXPECT_NE(dialogs.shown.back().text.find("The line"), std::string::npos) << "the route that needs it";
     EXPECT_EQ(files.allFiles(), before);
     EXPECT_EQ(invalid(), listed);
     EXPECT_TRUE(told.empty());
