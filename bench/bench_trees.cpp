@@ -1,9 +1,13 @@
 #include "bench_trees.h"
 
+#include "bench_sizes.h"
+
 #include <algorithm>
+#include <atomic>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
+#include <thread>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -33,15 +37,17 @@ std::vector<std::string> filesBelow(const std::filesystem::path& folder) {
 
 Tree makeMeasuredTree(const std::string& root, int stock, int consists) {
     std::fprintf(stderr, "making a tree of %d stock files and %d consists\n", stock, consists);
-    if (!makeTree(root, {stock, consists})) {
+    if (!makeTree(root, {stock, consists, consists > 0 ? RouteCount : 0})) {
         std::fprintf(stderr, "zandor-bench: cannot write below %s\n", root.c_str());
         std::exit(1);
     }
     const std::filesystem::path trains = std::filesystem::path(root) / "TRAINS";
-    Tree tree{root, filesBelow(trains / "TRAINSET"), filesBelow(trains / "CONSISTS")};
+    Tree tree{root, filesBelow(trains / "TRAINSET"), filesBelow(trains / "CONSISTS"),
+              filesBelow(std::filesystem::path(root) / "ROUTES")};
     sync(); // the writing of the new files would disturb what is measured next
     readPlainly(tree.stockFiles);
     readPlainly(tree.consistFiles);
+    readPlainly(tree.routeFiles);
     return tree;
 }
 
@@ -83,6 +89,32 @@ std::size_t readPlainly(const std::vector<std::string>& paths) {
     for (const std::string& path : paths)
         total += readOne(path, bytes);
     return total;
+}
+
+std::size_t readPlainly(const std::vector<std::string>& paths, int threads) {
+    std::atomic<std::size_t> next = 0, total = 0;
+    std::vector<std::thread> readers;
+    for (int i = 0; i < threads; ++i)
+        readers.emplace_back([&] {
+            std::string bytes;
+            for (std::size_t at = next++; at < paths.size(); at = next++)
+                total += readOne(paths[at], bytes);
+        });
+    for (std::thread& reader : readers)
+        reader.join();
+    return total;
+}
+
+bool emptyCache(const std::vector<std::string>& paths) {
+    for (const std::string& path : paths) {
+        const int file = open(path.c_str(), O_RDONLY | O_CLOEXEC);
+        posix_fadvise(file, 0, 0, POSIX_FADV_DONTNEED);
+        close(file);
+    }
+    const int all = open("/proc/sys/vm/drop_caches", O_WRONLY | O_CLOEXEC);
+    const bool emptied = write(all, "3", 1) == 1;
+    close(all);
+    return emptied;
 }
 
 } // namespace zandor::bench

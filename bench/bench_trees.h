@@ -15,6 +15,7 @@ struct Tree {
     std::string root;
     std::vector<std::string> stockFiles;
     std::vector<std::string> consistFiles;
+    std::vector<std::string> routeFiles; // of a tree that has consists
 };
 
 class Trees {
@@ -34,5 +35,11 @@ class Trees {
 
 // What any reader of these files must pay: open, size, read, close. Returns the number of bytes read.
 std::size_t readPlainly(const std::vector<std::string>& paths);
+// The same with so many threads, each of which takes the next file.
+std::size_t readPlainly(const std::vector<std::string>& paths, int threads);
+
+// Takes these files out of the system's cache, so that they come from the disk when they are read next.
+// False: their folders stayed in it, as only an administrator may have those taken out too.
+bool emptyCache(const std::vector<std::string>& paths);
 
 } // namespace zandor::bench

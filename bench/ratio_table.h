@@ -14,7 +14,18 @@ inline constexpr const char* PlainStock = "PlainReadStock";
 inline constexpr const char* PlainConsists = "PlainReadConsists";
 inline constexpr const char* LoadFull = "LoadCatalogueFull";
 inline constexpr const char* LoadQuick = "LoadCatalogueQuick";
+inline constexpr const char* LoadFullAlone = "LoadFullOneThread";
+inline constexpr const char* LoadQuickAlone = "LoadQuickOneThread";
 inline constexpr const char* Consists = "ScanConsists";
+inline constexpr const char* PlainRoutes = "PlainReadRoutes";
+inline constexpr const char* IndexFull = "IndexFullTwoThreads";
+inline constexpr const char* IndexLines = "IndexLinesTwoThreads";
+inline constexpr const char* IndexFullAlone = "IndexFullOneThread";
+inline constexpr const char* IndexLinesAlone = "IndexLinesOneThread";
+// From the disk itself.
+inline constexpr const char* ColdStockRead = "ColdReadFourThreads";
+inline constexpr const char* ColdFull = "ColdLoadFull";
+inline constexpr const char* ColdQuick = "ColdLoadQuick";
 
 std::string benchmarkName(const std::string& operation, int files);
 
@@ -25,10 +36,11 @@ class RatioTable final : public benchmark::BenchmarkReporter {
     void Finalize() override;
 
   private:
-    // Seconds of the fastest repetition on the clock, and of the one that took least of the processor: the
-    // latter stays steady while the machine has other work to do.
+    // Seconds of the fastest repetition on the clock, and of the one that took least of the processor, all
+    // threads together: the latter stays steadier while the machine has other work to do.
     struct Best {
         double clock = 0, processor = 0; // 0: wasn't run
+        std::string label = {};
     };
     void printRow(const std::string& operation, const std::string& baseLine, int files) const;
     void printGrowth(const std::string& operation) const;

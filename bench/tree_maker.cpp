@@ -2,6 +2,7 @@
 
 #include "text/decode.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <initializer_list>
@@ -14,9 +15,13 @@ namespace zandor::bench {
 namespace {
 
 constexpr int StockPerFolder = 10;
+constexpr int NamedPerFolder = 2, TexturesPerShape = 10, WavesPerSet = 5;
+constexpr int ServicesPerRoute = 100, ActivitiesPerRoute = 25;
+constexpr int VehiclesStanding = 30, VehiclesPerTrain = 6; // in an activity
 // In characters of the text; a file has two bytes a character.
 constexpr std::size_t EngineLength = 12000;
 constexpr std::size_t WagonLength = 1820;
+constexpr std::size_t ShapeLength = 30000;
 
 // The standard library's distributions differ between systems; this doesn't.
 class Dice {
@@ -65,12 +70,18 @@ struct StockName {
     std::string folder;
     std::string name; // without extension
     bool isEngine = false;
+    std::string shape, sounds; // without extension
+    bool hasCabView = true;
 };
 
 // Lines of a bracketed file at the depth in hand.
 class Lines {
   public:
-    std::string text = "SIMISA@@@@@@@@@@JINX0D0t______\r\n\r\n";
+    std::string text;
+
+    // The letter that tells the kind of file: D for consists and stock.
+    explicit Lines(char kind = 'D')
+        : text(std::string("SIMISA@@@@@@@@@@JINX0") + kind + "0t______\r\n\r\n") {}
 
     // The pieces, which are evaluated in their order, make one text.
     using Pieces = std::initializer_list<std::string_view>;
@@ -165,7 +176,7 @@ void addLights(Lines& lines, Dice& dice, int count) {
 void addWagonHead(Lines& lines, Dice& dice, const StockName& stock) {
     lines.line({"comment( ", dice.pick(Sentences), " )"});
     lines.key("Type", stock.isEngine ? "Engine" : dice.pick(WagonTypes));
-    lines.key("WagonShape", {stock.name, ".s"});
+    lines.key("WagonShape", {stock.shape, ".s"});
     lines.key("Size", {dice.decimal(260, 310, 100), "m ", dice.decimal(340, 430, 100), "m ",
                        dice.decimal(900, 2650, 100), "m"});
     lines.key("Mass", {dice.decimal(120, 900, 10), "t", dice.chance(20) ? " #empty" : ""});
@@ -192,7 +203,7 @@ std::string wagonText(const StockName& stock, Dice& dice) {
     lines.open("Wagon", stock.name);
     addWagonHead(lines, dice, stock);
     addWagonRunning(lines, dice);
-    lines.key("Sound", {"\"", stock.name, ".sms\""});
+    lines.key("Sound", {"\"", stock.sounds, ".sms\""});
     lines.key("Name", {"\"", stock.name, " ", std::to_string(dice.between(100, 999)), "\""});
     while (lines.text.size() + 150 < wanted)
         lines.line({"comment( ", dice.pick(Sentences), " ", dice.pick(Sentences), " )"});
@@ -244,9 +255,10 @@ void addEngineHead(Lines& lines, Dice& dice, const StockName& stock) {
     lines.key("WheelRadius", {dice.decimal(45, 65, 100), "m"});
     for (const std::string_view effect : {"ExhaustFX", "StackFX", "CylindersFX"})
         lines.key(effect, {vector3(dice), " 0 1 0 ", dice.decimal(5, 30, 100)});
-    lines.key("CabView", {stock.name, ".cvf"});
+    if (stock.hasCabView)
+        lines.key("CabView", {stock.name, ".cvf"});
     lines.key("HeadOut", {"-1.4 3.1 ", dice.decimal(400, 1100, 100)});
-    lines.key("Sound", {"\"", stock.name, "eng.sms\""});
+    lines.key("Sound", {"\"", stock.sounds, stock.hasCabView ? "eng.sms\"" : ".sms\""});
 }
 
 void addEngineBlock(Lines& lines, Dice& dice, const StockName& stock, std::size_t wanted) {
@@ -273,13 +285,21 @@ std::string engineText(const StockName& stock, Dice& dice) {
     addWagonHead(lines, dice, stock);
     addWagonRunning(lines, dice);
     lines.open("Inside");
-    lines.key("Sound", {stock.name, "cab.sms"});
+    lines.key("Sound", {stock.sounds, stock.hasCabView ? "cab.sms" : ".sms"});
     lines.close();
     addLights(lines, dice, dice.between(14, 18));
     lines.close();
     lines.line({""});
     addEngineBlock(lines, dice, stock, wanted);
     return std::move(lines.text);
+}
+
+void addVehicle(Lines& lines, Dice& dice, const std::vector<StockName>& stock, int number) {
+    const StockName& vehicle = stock[dice.roll(static_cast<int>(stock.size()))];
+    lines.open(vehicle.isEngine ? "Engine" : "Wagon");
+    lines.key(vehicle.isEngine ? "EngineData" : "WagonData", {vehicle.name, " ", vehicle.folder});
+    lines.key("UiD", std::to_string(number));
+    lines.close();
 }
 
 std::string consistText(const std::string& name, const std::vector<StockName>& stock, Dice& dice) {
@@ -292,19 +312,92 @@ std::string consistText(const std::string& name, const std::vector<StockName>& s
     lines.key("MaxVelocity", "40.00000 1.00000");
     lines.key("NextWagonUID", std::to_string(vehicles));
     lines.key("Durability", "1.00000");
-    for (int i = 0; i < vehicles && !stock.empty(); ++i) {
-        const StockName& vehicle = stock[dice.roll(static_cast<int>(stock.size()))];
-        lines.open(vehicle.isEngine ? "Engine" : "Wagon");
-        lines.key(vehicle.isEngine ? "EngineData" : "WagonData", {vehicle.name, " ", vehicle.folder});
-        lines.key("UiD", std::to_string(i));
-        lines.close();
-    }
+    for (int i = 0; i < vehicles && !stock.empty(); ++i)
+        addVehicle(lines, dice, stock, i);
     lines.close();
     lines.close();
     return std::move(lines.text);
 }
 
-std::vector<StockName> nameStock(int count, Dice& dice) {
+std::string serviceText(const std::string& name, int consists, Dice& dice) {
+    Lines lines('v');
+    lines.open("Service_Definition");
+    lines.key("Serial", "1");
+    lines.key("Name", {"\"Service ", name, "\""});
+    lines.key("Train_Config", {"rame", std::to_string(dice.roll(consists))});
+    lines.key("PathID", {"path", std::to_string(dice.roll(40))});
+    lines.key("MaxWheelAcceleration", dice.decimal(200, 900, 1000));
+    lines.key("Efficiency", dice.decimal(70, 99, 100));
+    lines.key("TimeTable", "0");
+    lines.close();
+    return std::move(lines.text);
+}
+
+void addStandingTrain(Lines& lines, Dice& dice, const std::vector<StockName>& stock, int vehicles) {
+    lines.open("ActivityObject");
+    lines.key("ObjectType", "WagonsList");
+    lines.open("Train_Config");
+    lines.open("TrainCfg", "\"\"");
+    lines.key("MaxVelocity", "0 0.001");
+    lines.key("Durability", "1");
+    for (int i = 0; i < vehicles; ++i)
+        addVehicle(lines, dice, stock, i);
+    lines.close();
+    lines.close();
+    lines.key("Direction", std::to_string(dice.roll(2)));
+    lines.key("ID", std::to_string(dice.between(32768, 65000)));
+    lines.key("Tile", {"-6079 14925 ", dice.decimal(0, 99999, 100), " ", dice.decimal(0, 99999, 100)});
+    lines.close();
+}
+
+void addTraffic(Lines& lines, Dice& dice, int services) {
+    lines.open("Traffic_Definition", "traffic");
+    for (int i = 0; i < services; ++i) {
+        lines.open("Service_Definition", {"service"});
+        lines.key("Time", std::to_string(dice.between(0, 86000)));
+        lines.key("UiD", std::to_string(i + 1));
+        lines.close();
+    }
+    lines.close();
+}
+
+void addEvents(Lines& lines, Dice& dice, int events) {
+    lines.open("Events");
+    for (int i = 0; i < events; ++i) {
+        lines.open("EventCategoryLocation");
+        lines.key("EventTypeLocation", "");
+        lines.key("ID", std::to_string(i));
+        lines.key("Activation_Level", "1");
+        lines.key("Outcomes", {"DisplayMessage ( \"", dice.pick(Sentences), "\" )"});
+        lines.key("Location", {"-6079 14925 ", dice.decimal(0, 99999, 100), " 10"});
+        lines.close();
+    }
+    lines.close();
+}
+
+std::string activityText(const std::string& name, const std::vector<StockName>& stock, Dice& dice) {
+    Lines lines('a');
+    lines.open("Tr_Activity");
+    lines.key("Serial", "1");
+    lines.open("Tr_Activity_Header");
+    lines.key("RouteID", "route");
+    lines.key("Name", {"\"Activity ", name, "\""});
+    addDescription(lines, dice);
+    lines.key("StartTime", "8 30 0");
+    lines.close();
+    lines.open("Tr_Activity_File");
+    addTraffic(lines, dice, dice.between(8, 16));
+    addEvents(lines, dice, dice.between(6, 12));
+    lines.open("ActivityObjects");
+    for (int train = 0; train < VehiclesStanding / VehiclesPerTrain; ++train)
+        addStandingTrain(lines, dice, stock, VehiclesPerTrain);
+    lines.close();
+    lines.close();
+    lines.close();
+    return std::move(lines.text);
+}
+
+std::vector<StockName> nameStock(int count, Dice& dice, bool withNamedFiles) {
     std::vector<StockName> stock;
     std::string folder;
     for (int i = 0; i < count; ++i) {
@@ -312,7 +405,12 @@ std::vector<StockName> nameStock(int count, Dice& dice) {
             folder = std::string(dice.pick(FolderWords)) + std::to_string(i / StockPerFolder);
         const bool isEngine = i % 2 == 0;
         const std::string_view word = isEngine ? dice.pick(EngineWords) : dice.pick(WagonWords);
-        stock.push_back({folder, std::string(word) + std::to_string(i), isEngine});
+        const std::string name = std::string(word) + std::to_string(i),
+                          number = std::to_string(i % NamedPerFolder);
+        if (withNamedFiles)
+            stock.push_back({folder, name, isEngine, "forme" + number, "sons" + number, false});
+        else
+            stock.push_back({folder, name, isEngine, name, name});
     }
     return stock;
 }
@@ -333,6 +431,80 @@ bool writeStock(const std::filesystem::path& trainset, const std::vector<StockNa
     return true;
 }
 
+std::string shapeText(const std::string& name, Dice& dice) {
+    Lines lines;
+    lines.text = "SIMISA@@@@@@@@@@JINX0s1t______\r\n\r\n";
+    lines.open("shape");
+    lines.open("images", std::to_string(TexturesPerShape));
+    for (int i = 0; i < TexturesPerShape; ++i)
+        lines.key("image", {name, "_", std::to_string(i), ".ace"});
+    lines.close();
+    lines.open("points");
+    while (lines.text.size() < ShapeLength)
+        lines.key("point", vector3(dice));
+    lines.close();
+    lines.close();
+    return std::move(lines.text);
+}
+
+std::string soundSetText(const std::string& name) {
+    Lines lines;
+    lines.text = "SIMISA@@@@@@@@@@JINX0x1t______\r\n\r\n";
+    lines.open("Tr_SMS");
+    for (int i = 0; i < WavesPerSet; ++i) {
+        lines.open("Stream");
+        lines.key("Priority", "4");
+        lines.open("Triggers", "1");
+        lines.key("File", {"\"", name, "_", std::to_string(i), ".wav\" -1"});
+        lines.close();
+        lines.key("Volume", "0.8");
+        lines.close();
+    }
+    lines.close();
+    return std::move(lines.text);
+}
+
+// What only has to be there is empty.
+bool writeNamedFiles(const std::filesystem::path& folder, Dice& dice) {
+    std::error_code error;
+    std::filesystem::create_directory(folder / "Sound", error);
+    bool written = !error;
+    for (int i = 0; i < NamedPerFolder; ++i) {
+        const std::string shape = "forme" + std::to_string(i), sounds = "sons" + std::to_string(i);
+        written = written && writeUtf16(folder / (shape + ".s"), shapeText(shape, dice)) &&
+                  writeUtf16(folder / "Sound" / (sounds + ".sms"), soundSetText(sounds));
+        for (int j = 0; j < TexturesPerShape; ++j)
+            written = written && std::ofstream(folder / (shape + "_" + std::to_string(j) + ".ace"));
+        for (int j = 0; j < WavesPerSet; ++j)
+            written =
+                written && std::ofstream(folder / "Sound" / (sounds + "_" + std::to_string(j) + ".wav"));
+    }
+    return written;
+}
+
+std::string numbered(std::string_view word, int number, std::string_view extension) {
+    return std::string(word).append(std::to_string(number)).append(extension);
+}
+
+bool writeRoute(const std::filesystem::path& folder, const std::string& name, const TreeSize& size,
+                const std::vector<StockName>& stock, Dice& dice) {
+    std::filesystem::create_directories(folder / "SERVICES");
+    std::filesystem::create_directories(folder / "ACTIVITIES");
+    Lines track('r');
+    track.open("Tr_RouteFile");
+    track.key("RouteID", name);
+    track.key("Name", {"\"The line of ", name, "\""});
+    track.close();
+    bool written = writeUtf16(folder / (name + ".trk"), track.text);
+    for (int i = 0; i < ServicesPerRoute; ++i)
+        written = written && writeUtf16(folder / "SERVICES" / numbered("s", i, ".srv"),
+                                        serviceText(std::to_string(i), std::max(size.consists, 1), dice));
+    for (int i = 0; i < ActivitiesPerRoute && !stock.empty(); ++i)
+        written = written && writeUtf16(folder / "ACTIVITIES" / numbered("a", i, ".act"),
+                                        activityText(std::to_string(i), stock, dice));
+    return written;
+}
+
 } // namespace
 
 bool makeTree(const std::string& root, const TreeSize& size) {
@@ -340,13 +512,22 @@ bool makeTree(const std::string& root, const TreeSize& size) {
     std::error_code error;
     std::filesystem::create_directories(trains / "TRAINSET", error);
     std::filesystem::create_directories(trains / "CONSISTS", error);
+    std::filesystem::create_directories(std::filesystem::path(root) / "ROUTES", error);
     Dice dice(size.seed);
-    const std::vector<StockName> stock = nameStock(size.stock, dice);
+    const std::vector<StockName> stock = nameStock(size.stock, dice, size.withNamedFiles);
     if (error || !writeStock(trains / "TRAINSET", stock, dice))
         return false;
+    for (std::size_t i = 0; size.withNamedFiles && i < stock.size(); i += StockPerFolder)
+        if (!writeNamedFiles(trains / "TRAINSET" / stock[i].folder, dice))
+            return false;
     for (int i = 0; i < size.consists; ++i) {
         const std::string name = "rame" + std::to_string(i);
         if (!writeUtf16(trains / "CONSISTS" / (name + ".con"), consistText(name, stock, dice)))
+            return false;
+    }
+    for (int i = 0; i < size.routes; ++i) {
+        const std::string name = numbered("route", i, "");
+        if (!writeRoute(std::filesystem::path(root) / "ROUTES" / name, name, size, stock, dice))
             return false;
     }
     return true;

@@ -3,6 +3,7 @@
 #include "bench_session.h"
 #include "bench_sizes.h"
 #include "bench_trees.h"
+#include "catalogue/routes.h"
 #include "ratio_table.h"
 
 #include <optional>
@@ -17,17 +18,42 @@ void measurePlainRead(benchmark::State& state, const std::vector<std::string>& p
         benchmark::DoNotOptimize(readPlainly(paths));
 }
 
+// How a load is measured.
+struct LoadCase {
+    bool full = true;
+    int threads = 0; // 0: as many as the machine runs
+    bool cold = false;
+};
+
+void makeCold(benchmark::State& state, const Tree& tree) {
+    if (!emptyCache(tree.stockFiles))
+        state.SetLabel("(folders in the cache)");
+}
+
 // The operation alone is timed, not what surrounds a run of the program.
-void measureLoad(benchmark::State& state, const Tree& tree, bool full) {
+void measureLoad(benchmark::State& state, const Tree& tree, LoadCase load) {
+    LoadOptions options = ReadOnlyLoad;
+    options.threads = load.threads;
     std::optional<Session> run;
     for (auto _ : state) {
         state.PauseTiming();
         Session& session = run.emplace(tree.root);
-        session.state.Optimize = full;
+        session.state.Optimize = load.full;
+        if (load.cold)
+            makeCold(state, tree);
         state.ResumeTiming();
-        if (!LoadCatalogue(session.frame, session.catalogue, ReadOnlyLoad) ||
+        if (!LoadCatalogue(session.frame, session.catalogue, options) ||
             session.catalogue.here().Materiels.size() != tree.stockFiles.size())
             state.SkipWithError("the load isn't complete");
+    }
+}
+
+void measureColdRead(benchmark::State& state, const Tree& tree) {
+    for (auto _ : state) {
+        state.PauseTiming();
+        makeCold(state, tree);
+        state.ResumeTiming();
+        benchmark::DoNotOptimize(readPlainly(tree.stockFiles, 4));
     }
 }
 
@@ -42,27 +68,72 @@ void measureConsists(benchmark::State& state, const Tree& tree) {
     }
 }
 
+// Not with the load: the index alone, as the commands on routes read it.
+void measureIndex(benchmark::State& state, const Tree& tree, LoadCase load) {
+    LoadOptions options = ReadOnlyLoad;
+    options.threads = load.threads;
+    std::optional<Session> run;
+    for (auto _ : state) {
+        state.PauseTiming();
+        Session& session = run.emplace(tree.root);
+        session.state.Optimize = load.full;
+        state.ResumeTiming();
+        if (!ReadRoutes(session.frame, session.catalogue, options) ||
+            !ReadServicesActivites(session.frame, session.catalogue, options) ||
+            session.catalogue.here().Routes.back().Activites.back().Vehicules.size() != 30)
+            state.SkipWithError("the index isn't complete");
+    }
+}
+
 template <typename Measure> void add(const char* operation, int files, Measure measure) {
     benchmark::RegisterBenchmark(benchmarkName(operation, files).c_str(), measure)
         ->Iterations(1)
+        ->MeasureProcessCPUTime()
         ->UseRealTime();
 }
 
-void addAll(Trees& trees) {
+void addLoad(Trees& trees, const char* operation, int files, LoadCase load) {
+    add(operation, files,
+        [&trees, files, load](benchmark::State& state) { measureLoad(state, trees.get(files, 0), load); });
+}
+
+void addStock(Trees& trees) {
     for (const int count : StockCounts) {
         add(PlainStock, count, [&trees, count](benchmark::State& state) {
             measurePlainRead(state, trees.get(count, 0).stockFiles);
         });
-        add(LoadFull, count,
-            [&trees, count](benchmark::State& state) { measureLoad(state, trees.get(count, 0), true); });
-        add(LoadQuick, count,
-            [&trees, count](benchmark::State& state) { measureLoad(state, trees.get(count, 0), false); });
+        addLoad(trees, LoadFull, count, {.full = true});
+        addLoad(trees, LoadQuick, count, {.full = false});
+        addLoad(trees, LoadFullAlone, count, {.full = true, .threads = 1});
+        addLoad(trees, LoadQuickAlone, count, {.full = false, .threads = 1});
     }
+}
+
+void addConsists(Trees& trees) {
     add(PlainConsists, ConsistCount, [&trees](benchmark::State& state) {
         measurePlainRead(state, trees.get(ConsistStock, ConsistCount).consistFiles);
     });
     add(Consists, ConsistCount,
         [&trees](benchmark::State& state) { measureConsists(state, trees.get(ConsistStock, ConsistCount)); });
+}
+
+void addIndex(Trees& trees) {
+    const auto tree = [&trees]() -> const Tree& { return trees.get(ConsistStock, ConsistCount); };
+    add(PlainRoutes, RouteFiles,
+        [tree](benchmark::State& state) { measurePlainRead(state, tree().routeFiles); });
+    for (const auto& [operation, load] : {std::pair{IndexFull, LoadCase{.full = true, .threads = 2}},
+                                          std::pair{IndexLines, LoadCase{.full = false, .threads = 2}},
+                                          std::pair{IndexFullAlone, LoadCase{.full = true, .threads = 1}},
+                                          std::pair{IndexLinesAlone, LoadCase{.full = false, .threads = 1}}})
+        add(operation, RouteFiles,
+            [tree, load = load](benchmark::State& state) { measureIndex(state, tree(), load); });
+}
+
+void addCold(Trees& trees) {
+    add(ColdStockRead, ColdStock,
+        [&trees](benchmark::State& state) { measureColdRead(state, trees.get(ColdStock, 0)); });
+    addLoad(trees, ColdFull, ColdStock, {.full = true, .cold = true});
+    addLoad(trees, ColdQuick, ColdStock, {.full = false, .cold = true});
 }
 
 int run(int argc, char** argv) {
@@ -72,7 +143,10 @@ int run(int argc, char** argv) {
     arguments.insert(arguments.end(), argv + 1, argv + argc); // given ones come last and win
     int count = static_cast<int>(arguments.size());
     Trees trees;
-    addAll(trees);
+    addStock(trees);
+    addConsists(trees);
+    addIndex(trees);
+    addCold(trees);
     benchmark::Initialize(&count, arguments.data());
     if (benchmark::ReportUnrecognizedArguments(count, arguments.data()))
         return 2;

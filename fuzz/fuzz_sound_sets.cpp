@@ -1,6 +1,7 @@
 // Sound sets: the scan for waves, and the repair, after which the set names the same waves by their new
 // places and every other character is as it was.
 #include "fuzz_frame.h"
+#include "platform/sim_path.h"
 #include "simfiles/text_edit.h"
 #include "verify/repair_sounds.h"
 #include "verify/sound_scan.h"

@@ -21,7 +21,7 @@ check() {
 # test or ends with an error after its last test has failed.
 run_tests() {
     local status log started good skips bad
-    say "--- $1"
+    say "--- $*"
     log=$(mktemp)
     set +e
     timeout --kill-after=10 600 "$@" --gtest_color=no 2>&1 </dev/null | tee "$log" |
@@ -35,7 +35,7 @@ run_tests() {
     bad=$((started - good - skips))
     if ((bad < 0)); then bad=0; fi
     if ((bad == 0 && (status != 0 || good == 0))); then bad=1; fi
-    if ((bad > 0)); then say "FAILED: $1 ($bad of $started, exit code $status)"; fi
+    if ((bad > 0)); then say "FAILED: $* ($bad of $started, exit code $status)"; fi
     passed=$((passed + good))
     skipped=$((skipped + skips))
     failed=$((failed + bad))
@@ -86,6 +86,16 @@ test_asan() {
     # what the toolkit and the libraries below it never give back is not ours
     LSAN_OPTIONS=suppressions=tests/windows/leaks.txt:print_suppressions=0 QT_QPA_PLATFORM=offscreen \
         run_tests build/asan/bin/zandor_window_tests
+}
+
+# What several threads do, and nothing else. The sanitizer wants its memory where some systems put other things,
+# unless they are asked not to.
+test_tsan() {
+    local fixed=()
+    install_packages build test clang
+    build_preset tsan build/tsan zandor_thread_tests || return 0
+    if setarch -R true 2>/dev/null; then fixed=(setarch -R); fi
+    run_tests ${fixed[@]+"${fixed[@]}"} build/tsan/bin/zandor_thread_tests
 }
 
 # The files of the demonstration tree that a reader may meet, all in one folder.

@@ -6,6 +6,7 @@
 #include "frame/frame.h"
 #include "simfiles/consist_file.h"
 #include "simfiles/materiel.h"
+#include "simfiles/route.h"
 #include "simfiles/sim_file.h"
 #include "simfiles/stock_reader.h"
 #include "text/text.h"
@@ -31,12 +32,14 @@ struct ConsistEntry {
     std::string FolderPath;       // root + "\TRAINS\CONSISTS\"
     std::vector<StockPair> Items; // one per vehicle, duplicates kept
     bool Used = false;
+    bool operator==(const ConsistEntry&) const = default;
 };
 
 struct StockUse {
     std::string Folder;
     std::string FileName; // with extension
     int Count = 0;
+    bool operator==(const StockUse&) const = default;
 };
 
 // One row of the open-consist dialog.
@@ -72,6 +75,7 @@ struct RootCatalogue {
     std::vector<Materiel>
         Materiels; // engines first, then wagons, in folder and directory order; never sorted
     std::vector<std::string> ConsistFiles;
+    std::vector<RouteMSTS> Routes;           // by the names of their folders
     std::vector<std::string> RamesEnService; // the consist files that services name
     std::vector<ConsistSummary> ConsistSummaries;
     bool summariesRead = false; // ConsistSummaries has a row for every consist
@@ -101,6 +105,7 @@ struct Catalogue {
 struct LoadOptions {
     NameRepair repair = NameRepair::Allowed;
     PictureFolders pictureFolders = PictureFolders::MadeAsNeeded; // LeftAlone: no thumbnail is moved either
+    int threads = 0; // that read the files: see readAhead(); what comes of it is the same with any number
 };
 inline constexpr LoadOptions ReadOnlyLoad{NameRepair::Never, PictureFolders::LeftAlone}; // writes no file
 
@@ -112,8 +117,9 @@ void ListConsistFiles(Frame& frame, Catalogue& catalogue, std::string_view root)
 // At most as many as positions can number; the user is told when there are more.
 std::vector<std::string> ListStockFolders(Frame& frame, std::string_view trainsetPath, bool stopAtLimit);
 // False: the user ended it.
-bool ScanStockFiles(Frame& frame, Catalogue& catalogue, const std::vector<std::string>& folders);
-bool ScanConsists(Frame& frame, Catalogue& catalogue);
+bool ScanStockFiles(Frame& frame, Catalogue& catalogue, const std::vector<std::string>& folders,
+                    LoadOptions options = {});
+bool ScanConsists(Frame& frame, Catalogue& catalogue, LoadOptions options = {});
 // The reading of every stock file, the last step of the load. False: the user ended it.
 bool readAllStock(Frame& frame, Catalogue& catalogue, LoadOptions options = {});
 

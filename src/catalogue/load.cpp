@@ -1,32 +1,18 @@
 #include "catalogue/catalogue.h"
 #include "catalogue/messages.h"
 #include "catalogue/passed_over.h"
+#include "catalogue/routes.h"
 #include "catalogue/thumbnails.h"
 
 namespace zandor {
 
 namespace {
 
-// A path and a progress text that keep their storage from one stock file to the next.
-struct ReadingTexts {
-    std::string path;
-    std::string shown;
-    std::size_t shownPrefix = 0;
-
-    explicit ReadingTexts(const std::string& prefix) : shown(prefix + " "), shownPrefix(shown.size()) {}
-
-    void moveTo(const Materiel& materiel) {
-        path.assign(materiel.BasePath).append(materiel.Folder).append(1, '\\').append(materiel.FileName);
-        shown.resize(shownPrefix);
-        shown += materiel.FileName;
-    }
-};
-
 // At the start the consists are read only for those who want to see what is unused; a later reload keeps what
 // that scan found.
-bool loadConsists(Frame& frame, Catalogue& catalogue, const std::string& stepDone) {
+bool loadConsists(Frame& frame, Catalogue& catalogue, LoadOptions options, const std::string& stepDone) {
     const bool scan = !frame.state.MainReady && frame.state.PrintGreen;
-    if (scan && !ScanConsists(frame, catalogue))
+    if (scan && !ScanConsists(frame, catalogue, options))
         return false;
     if (!scan)
         ListConsistFiles(frame, catalogue, frame.state.roots.RootPrimary());
@@ -44,14 +30,20 @@ bool wantsThumbnailControl(Frame& frame, const Catalogue& catalogue) {
 bool loadSteps(Frame& frame, Catalogue& catalogue, LoadOptions options) {
     const std::string stepDone = frame.text(message::StepDone);
     const auto markStep = [&] { frame.progress.ShowProgress(0, 255, 0, stepDone); };
+    if (!ReadRoutes(frame, catalogue, options))
+        return false;
+    markStep();
+    if (!ReadServicesActivites(frame, catalogue, options))
+        return false;
+    markStep();
     ReadBitmapList(frame, catalogue);
     markStep();
-    if (!loadConsists(frame, catalogue, stepDone))
+    if (!loadConsists(frame, catalogue, options, stepDone))
         return false;
     const std::vector<std::string> folders =
         ListStockFolders(frame, trainsetPath(frame.state.roots.RootPrimary()), true);
     markStep();
-    if (!ScanStockFiles(frame, catalogue, folders))
+    if (!ScanStockFiles(frame, catalogue, folders, options))
         return false;
     markStep();
     if (wantsThumbnailControl(frame, catalogue)) {
@@ -96,29 +88,6 @@ bool LoadCatalogue(Frame& frame, Catalogue& catalogue, LoadOptions options) {
     return complete;
 }
 
-bool readAllStock(Frame& frame, Catalogue& catalogue, LoadOptions options) {
-    SimReader reader(frame.files);
-    QuickStockReader quick(frame.files);
-    ReadingTexts texts(frame.text(message::ReadingStock));
-    std::vector<Materiel>& materiels = catalogue.here().Materiels;
-    const int last = static_cast<int>(materiels.size()) - 1;
-    int index = 0;
-    for (Materiel& materiel : materiels) {
-        if (!frame.progress.yield())
-            return false;
-        texts.moveTo(materiel);
-        frame.progress.atFile(texts.path);
-        // What is wrong with a file is the verifier's business; its entry keeps what could be read.
-        if (frame.state.Optimize)
-            notePassedOver(catalogue, texts.path,
-                           ReadStockFile(reader, texts.path, materiel, options.repair).answer.outcome);
-        else
-            notePassedOver(catalogue, texts.path, quick.QuickReadStock(materiel));
-        frame.progress.ShowProgress(0, last, index++, texts.shown);
-    }
-    return true;
-}
-
 bool reloadCatalogue(Frame& frame, Catalogue& catalogue) {
     const RootCatalogue& wanted = catalogue.of(frame.state.roots.first);
     if (!wanted.loadedFrom.empty() && equalIgnoringCase(wanted.loadedFrom, frame.state.roots.RootPrimary())) {
@@ -126,7 +95,6 @@ bool reloadCatalogue(Frame& frame, Catalogue& catalogue) {
         frame.state.Busy = false;
         return true;
     }
-    catalogue.of(frame.state.roots.first).RamesEnService.clear();
     if (!LoadCatalogue(frame, catalogue))
         return false;
     frame.progress.ShowProgress(0, 255, 0, frame.text(message::StepDone));

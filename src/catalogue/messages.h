@@ -22,6 +22,10 @@ inline constexpr Message ClassCarriage{423};
 inline constexpr Message ClassFreight{424};
 inline constexpr Message ClassTender{425};
 
+// routes
+inline constexpr Message ReadingServices{446}; // stands between a route and a file
+inline constexpr Message Activities{450};      // a column, and as 446
+
 // the thumbnails control
 inline constexpr Message CheckingThumbnails{455}; // |1 the title
 inline constexpr Message OneThumbnailMoved{
@@ -34,6 +38,7 @@ inline constexpr Message ThumbnailsOf{460}; // followed by "... Train Simulator"
 // loading, deleting, exporting
 inline constexpr Message StepDone{498};
 inline constexpr Message ReadingConsists{502};
+inline constexpr Message ReadingRoute{503}; // followed by a blank and the route's name
 inline constexpr Message TooManyFiles{586}; // |1 the path, |2 the limit
 
 // files that aren't read

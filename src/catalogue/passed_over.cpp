@@ -12,13 +12,21 @@ constexpr std::size_t MostNamed = 5;
 
 } // namespace
 
+bool isPassedOver(ReadResult result) {
+    return result == ReadResult::TooLarge || result == ReadResult::NoMemory;
+}
+
+bool isPassedOver(ReadOutcome outcome) {
+    return outcome == ReadOutcome::TooLarge || outcome == ReadOutcome::NoMemory;
+}
+
 void notePassedOver(Catalogue& catalogue, std::string_view path, ReadResult result) {
-    if (result == ReadResult::TooLarge || result == ReadResult::NoMemory)
+    if (isPassedOver(result))
         catalogue.passedOver.emplace_back(path);
 }
 
 void notePassedOver(Catalogue& catalogue, std::string_view path, ReadOutcome outcome) {
-    if (outcome == ReadOutcome::TooLarge || outcome == ReadOutcome::NoMemory)
+    if (isPassedOver(outcome))
         catalogue.passedOver.emplace_back(path);
 }
 

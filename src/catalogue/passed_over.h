@@ -7,7 +7,10 @@
 
 namespace zandor {
 
-// A file that is too large to be read, or for which no memory is left, is noted for tellPassedOver().
+// A file that is too large to be read, or for which no memory is left.
+bool isPassedOver(ReadResult result);
+bool isPassedOver(ReadOutcome outcome);
+// Such a file is noted for tellPassedOver().
 void notePassedOver(Catalogue& catalogue, std::string_view path, ReadResult result);
 void notePassedOver(Catalogue& catalogue, std::string_view path, ReadOutcome outcome);
 

@@ -1,20 +1,14 @@
 #include "catalogue/catalogue.h"
 #include "catalogue/messages.h"
 #include "catalogue/passed_over.h"
+#include "platform/read_ahead.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace zandor {
 
 namespace {
-
-// What one read of a consist needs, kept from consist to consist.
-struct ConsistScratch {
-    SimReader reader;
-    Rame rame;
-    std::vector<RameItem> items;
-    std::vector<int> known; // positions in StockUsage
-};
 
 void forgetConsists(Catalogue& catalogue) {
     catalogue.ConsistIndex.clear();
@@ -49,45 +43,100 @@ void countUse(Catalogue& catalogue, const StockPair& used, int known) {
         ++catalogue.StockUsage[static_cast<std::size_t>(known)].Count;
 }
 
-void takeItems(Catalogue& catalogue, ConsistEntry& entry, ConsistScratch& scratch) {
-    entry.Items.reserve(scratch.items.size());
-    for (RameItem& item : scratch.items)
-        entry.Items.push_back({stockFileOf(item), std::move(item.Folder)});
-    catalogue.stockUseIndex.findExact(catalogue.StockUsage, entry.Items, scratch.known);
-    std::size_t next = 0;
-    for (const StockPair& used : entry.Items)
-        countUse(catalogue, used, scratch.known[next++]);
-}
+// What was found in a consist whose turn may not have come yet.
+struct ConsistAhead {
+    std::vector<StockPair> items;
+    std::string displayName;
+    ReadOutcome outcome = ReadOutcome::Read;
+};
 
-// A consist without vehicles keeps an empty name.
-void readEntry(Catalogue& catalogue, ConsistEntry& entry, ConsistScratch& scratch) {
+// Reads consists. Keeps its storage from file to file.
+class ConsistFilesReader {
+  public:
+    explicit ConsistFilesReader(FileSystem& files) : reader_(files) {}
+
     // What the reader objects to is the verifier's business; the vehicles read until then count. The
     // durability isn't looked at.
-    const std::string path = entry.FolderPath + entry.FileName;
-    const ReadAnswer answer = ReadConsistFile(scratch.reader, scratch.rame, scratch.items, path);
-    notePassedOver(catalogue, path, answer.outcome);
-    takeItems(catalogue, entry, scratch);
-    if (!entry.Items.empty())
-        entry.DisplayName = scratch.rame.Name.empty() ? scratch.rame.CfgName : scratch.rame.Name;
-}
+    void read(const ConsistEntry& entry, ConsistAhead& ahead) {
+        path_.assign(entry.FolderPath).append(entry.FileName);
+        ahead.outcome = ReadConsistFile(reader_, rame_, items_, path_).outcome;
+        ahead.items.clear();
+        ahead.items.reserve(items_.size());
+        for (RameItem& item : items_)
+            ahead.items.push_back({stockFileOf(item), std::move(item.Folder)});
+        ahead.displayName = rame_.Name.empty() ? rame_.CfgName : rame_.Name;
+    }
+
+  private:
+    SimReader reader_;
+    Rame rame_;
+    std::vector<RameItem> items_;
+    std::string path_;
+};
+
+class ConsistThread final : public AheadReader {
+  public:
+    ConsistThread(FileSystem& door, const std::vector<ConsistEntry>& entries, std::vector<ConsistAhead>& ring)
+        : files_(door), entries_(entries), ring_(ring) {}
+
+    void read(std::size_t file) override { files_.read(entries_[file], ring_[file % ring_.size()]); }
+
+  private:
+    ConsistFilesReader files_;
+    const std::vector<ConsistEntry>& entries_; // of which it looks at the path
+    std::vector<ConsistAhead>& ring_;
+};
+
+class ConsistScan final : public AheadWork {
+  public:
+    ConsistScan(Frame& frame, Catalogue& catalogue)
+        : frame_(frame), catalogue_(catalogue), ring_(std::min(catalogue.ConsistIndex.size(), MostAhead)),
+          shown_(frame.text(message::ReadingConsists)) {}
+
+    std::unique_ptr<AheadReader> makeReader(FileSystem& door) override {
+        return std::make_unique<ConsistThread>(door, catalogue_.ConsistIndex, ring_);
+    }
+    bool goOn() override { return frame_.progress.yield(); }
+    void turnOf(std::size_t) override {}
+    void take(std::size_t file) override {
+        ConsistEntry& entry = catalogue_.ConsistIndex[file];
+        ConsistAhead& ahead = ring_[file % ring_.size()];
+        if (ahead.outcome == ReadOutcome::NoMemory) // there may be some when fewer are read
+            ConsistFilesReader(frame_.files).read(entry, ahead);
+        notePassedOver(catalogue_, entry.FolderPath + entry.FileName, ahead.outcome);
+        takeItems(entry, ahead);
+        frame_.progress.ShowProgress(0, static_cast<int>(catalogue_.ConsistIndex.size()) - 1,
+                                     static_cast<int>(file), shown_);
+    }
+
+  private:
+    // A consist without vehicles keeps an empty name.
+    void takeItems(ConsistEntry& entry, ConsistAhead& ahead) {
+        entry.Items = std::move(ahead.items);
+        if (!entry.Items.empty())
+            entry.DisplayName = std::move(ahead.displayName);
+        catalogue_.stockUseIndex.findExact(catalogue_.StockUsage, entry.Items, known_);
+        std::size_t next = 0;
+        for (const StockPair& used : entry.Items)
+            countUse(catalogue_, used, known_[next++]);
+    }
+
+    Frame& frame_;
+    Catalogue& catalogue_;
+    std::vector<ConsistAhead> ring_;
+    std::vector<int> known_; // positions in StockUsage; storage used again
+    std::string shown_;
+};
 
 } // namespace
 
-bool ScanConsists(Frame& frame, Catalogue& catalogue) {
+bool ScanConsists(Frame& frame, Catalogue& catalogue, LoadOptions options) {
     forgetConsists(catalogue);
     indexConsists(frame, catalogue, frame.state.roots.RootPrimary());
     copyConsistFiles(catalogue);
     indexConsists(frame, catalogue, frame.state.roots.RootSecondary());
-    ConsistScratch scratch{SimReader(frame.files), {}, {}, {}};
-    const std::string shown = frame.text(message::ReadingConsists);
-    const int last = static_cast<int>(catalogue.ConsistIndex.size()) - 1;
-    for (int index = 0; index <= last; ++index) {
-        if (!frame.progress.yield())
-            return false;
-        readEntry(catalogue, catalogue.ConsistIndex[index], scratch);
-        frame.progress.ShowProgress(0, last, index, shown);
-    }
-    return true;
+    ConsistScan scan(frame, catalogue);
+    return readAhead(frame.files, catalogue.ConsistIndex.size(), options.threads, scan);
 }
 
 StockUse* findStockUse(Catalogue& catalogue, std::string_view folder, std::string_view file) {

@@ -1,8 +1,8 @@
 #include "catalogue/catalogue.h"
 #include "catalogue/messages.h"
 #include "catalogue/stock_files.h"
-
-#include <algorithm>
+#include "platform/letter_case.h"
+#include "platform/read_ahead.h"
 
 namespace zandor {
 
@@ -22,34 +22,89 @@ void addMateriel(std::vector<Materiel>& materiels, const std::string& basePath, 
     added.FileName = StripQuotes(file);
 }
 
-// False: the array is full.
-bool scanFolder(Frame& frame, std::vector<Materiel>& materiels, const std::string& basePath,
-                const std::string& folder, std::string_view extension) {
-    for (const std::string& file : listStockFiles(frame.files, basePath + folder + "\\", extension)) {
-        if (materiels.size() >= MaxEntries) {
-            showLimit(frame, basePath);
-            return false;
-        }
-        addMateriel(materiels, basePath, folder, file);
-    }
-    return true;
-}
+// Lists folders on one thread.
+class FolderThread final : public AheadReader {
+  public:
+    FolderThread(FileSystem& door, const std::string& basePath, const std::vector<std::string>& folders,
+                 std::vector<StockNames>& names)
+        : door_(door), basePath_(basePath), folders_(folders), names_(names) {}
 
-// False: the user ended it.
-bool scanPass(Frame& frame, std::vector<Materiel>& materiels, const std::vector<std::string>& folders,
-              const std::string& basePath, const StockPass& pass) {
-    const std::string shown = frame.text(pass.listing);
-    const int last = static_cast<int>(folders.size()) - 1;
-    int index = 0;
-    for (const std::string& folder : folders) {
-        if (!frame.progress.yield())
-            return false;
-        if (!scanFolder(frame, materiels, basePath, folder, pass.extension))
-            return true; // full: what fits is there
-        frame.progress.ShowProgress(0, last, index++, shown);
+    void read(std::size_t folder) override {
+        path_.assign(basePath_).append(folders_[folder]).append(1, '\\');
+        names_[folder] = listStockFiles(door_, path_);
     }
-    return true;
-}
+
+  private:
+    FileSystem& door_;
+    const std::string& basePath_;
+    const std::vector<std::string>& folders_;
+    std::vector<StockNames>& names_;
+    std::string path_;
+};
+
+// One look at each folder serves both passes: the first one takes the folders as they are listed.
+class StockScan final : public AheadWork {
+  public:
+    StockScan(Frame& frame, std::vector<Materiel>& materiels, const std::vector<std::string>& folders)
+        : frame_(frame), materiels_(materiels), folders_(folders),
+          basePath_(trainsetPath(frame.state.roots.RootPrimary())), names_(folders.size()) {}
+
+    // False: the user ended it.
+    bool run(int threads) {
+        beginPass(0);
+        if (!readAhead(frame_.files, folders_.size(), threads, *this) && !full_)
+            return false;
+        beginPass(1);
+        for (std::size_t folder = 0; folder < folders_.size() && !full_; ++folder) {
+            if (!goOn())
+                return false;
+            takeListed(folder);
+        }
+        return true;
+    }
+
+    std::unique_ptr<AheadReader> makeReader(FileSystem& door) override {
+        return std::make_unique<FolderThread>(door, basePath_, folders_, names_);
+    }
+    bool goOn() override { return !full_ && frame_.progress.yield(); }
+    void turnOf(std::size_t) override {}
+    void take(std::size_t folder) override {
+        listed_ = folder + 1;
+        add(folder);
+    }
+
+  private:
+    void beginPass(std::size_t pass) {
+        pass_ = pass;
+        shown_ = frame_.text(StockPasses[pass].listing);
+        full_ = false;
+    }
+    void takeListed(std::size_t folder) {
+        if (folder >= listed_) // engines had filled the array before it was listed
+            FolderThread(frame_.files, basePath_, folders_, names_).read(folder);
+        add(folder);
+    }
+    void add(std::size_t folder) {
+        for (const std::string& file : names_[folder][pass_]) {
+            full_ = materiels_.size() >= MaxEntries;
+            if (full_)
+                return showLimit(frame_, basePath_);
+            addMateriel(materiels_, basePath_, folders_[folder], file);
+        }
+        frame_.progress.ShowProgress(0, static_cast<int>(folders_.size()) - 1, static_cast<int>(folder),
+                                     shown_);
+    }
+
+    Frame& frame_;
+    std::vector<Materiel>& materiels_;
+    const std::vector<std::string>& folders_;
+    const std::string basePath_;
+    std::vector<StockNames> names_; // by folder
+    std::size_t listed_ = 0;        // folders
+    std::size_t pass_ = 0;
+    std::string shown_;
+    bool full_ = false; // what fits is there
+};
 
 } // namespace
 
@@ -57,6 +112,18 @@ std::vector<std::string> listStockFiles(FileSystem& files, std::string_view fold
                                         std::string_view extension) {
     std::vector<std::string> names = listFiles(files, folder, extension);
     std::erase(names, UncataloguedWagon);
+    return names;
+}
+
+StockNames listStockFiles(FileSystem& files, std::string_view folder) {
+    StockNames names;
+    for (FolderEntry& entry : files.listFolder(folder))
+        for (std::size_t pass = 0; pass < names.size(); ++pass)
+            if (!entry.isFolder && endsWithIgnoringCase(entry.name, StockPasses[pass].extension) &&
+                entry.name != UncataloguedWagon) {
+                names[pass].push_back(std::move(entry.name));
+                break;
+            }
     return names;
 }
 
@@ -78,14 +145,11 @@ std::vector<std::string> ListStockFolders(Frame& frame, std::string_view trainse
     return folders;
 }
 
-bool ScanStockFiles(Frame& frame, Catalogue& catalogue, const std::vector<std::string>& folders) {
-    std::vector<Materiel>& materiels = catalogue.here().Materiels;
-    materiels.clear();
+bool ScanStockFiles(Frame& frame, Catalogue& catalogue, const std::vector<std::string>& folders,
+                    LoadOptions options) {
+    catalogue.here().Materiels.clear();
     catalogue.here().finder.forget();
-    const std::string basePath = trainsetPath(frame.state.roots.RootPrimary());
-    return std::ranges::all_of(StockPasses, [&](const StockPass& pass) {
-        return scanPass(frame, materiels, folders, basePath, pass);
-    });
+    return StockScan(frame, catalogue.here().Materiels, folders).run(options.threads);
 }
 
 } // namespace zandor

@@ -9,12 +9,23 @@ const Argument& Argument::excludes(const Argument& other) const {
     return *this;
 }
 
+const Argument& Argument::needs(const Argument& other) const {
+    option_->needs(other.option_);
+    return *this;
+}
+
 bool Argument::given() const {
     return option_->count() > 0;
 }
 
 Argument Arguments::one(const char* name, std::string& value, const char* help) {
     return Argument(app_.add_option(name, value, help)->required());
+}
+
+Argument Arguments::oneOf(const char* name, std::string& value, const std::vector<std::string>& words,
+                          const char* help) {
+    return Argument(
+        app_.add_option(name, value, help)->required()->check(CLI::IsMember(words, CLI::ignore_case)));
 }
 
 Argument Arguments::several(const char* name, std::vector<std::string>& values, const char* help) {

@@ -19,7 +19,8 @@ class Argument {
     explicit Argument(CLI::Option* option) : option_(option) {}
 
     const Argument& excludes(const Argument& other) const; // not both on one line
-    bool given() const;                                    // on the line that was parsed
+    const Argument& needs(const Argument& other) const;
+    bool given() const; // on the line that was parsed
 
   private:
     CLI::Option* option_ = nullptr;
@@ -29,8 +30,10 @@ class Arguments {
   public:
     explicit Arguments(CLI::App& app) : app_(app) {}
 
-    // By their place; one value, one or more, or any number.
+    // By their place; one value, one of a few words, one or more, or any number.
     Argument one(const char* name, std::string& value, const char* help);
+    Argument oneOf(const char* name, std::string& value, const std::vector<std::string>& words,
+                   const char* help);
     Argument several(const char* name, std::vector<std::string>& values, const char* help);
     Argument any(const char* name, std::vector<std::string>& values, const char* help);
     // By name: with a text (`type` is what the help shows for it), one of a few words, a number, or alone.

@@ -25,6 +25,8 @@ class Command {
     virtual const char* help() const = 0;
     // True: the command works on a simulator folder, and takes the options that name it.
     virtual bool usesRoots() const { return false; }
+    // Whether it can't run without such a folder; asked when its arguments are known.
+    virtual bool needsRoots() const { return usesRoots(); }
     virtual void addArguments(Arguments& line) = 0;
     // Prints to the session; returns an exit code.
     virtual int run(Session& session) = 0;
@@ -36,5 +38,9 @@ std::unique_ptr<Command> makeConsistCommand();
 std::unique_ptr<Command> makeCatalogueCommand();
 std::unique_ptr<Command> makeComposeCommand();
 std::unique_ptr<Command> makeOpenCommand();
+std::unique_ptr<Command> makeVerifyCommand();
+std::unique_ptr<Command> makeRoutesCommand();
+std::unique_ptr<Command> makeServicesCommand();
+std::unique_ptr<Command> makeActivitiesCommand();
 
 } // namespace zandor

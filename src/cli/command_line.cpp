@@ -22,8 +22,9 @@ constexpr const char* ExitCodes = "Exit code: 0 done, 1 faults found, 2 could no
 
 std::vector<std::unique_ptr<Command>> makeCommands() {
     std::vector<std::unique_ptr<Command>> commands;
-    for (auto make : {makeKeysCommand, makeStockCommand, makeConsistCommand, makeCatalogueCommand,
-                      makeComposeCommand, makeOpenCommand})
+    for (auto make :
+         {makeKeysCommand, makeStockCommand, makeConsistCommand, makeCatalogueCommand, makeComposeCommand,
+          makeOpenCommand, makeVerifyCommand, makeRoutesCommand, makeServicesCommand, makeActivitiesCommand})
         commands.push_back(make());
     return commands;
 }
@@ -97,7 +98,10 @@ class CommandLine {
 
 int runCommand(Command& command, Session& session) {
     try {
-        if (!session.prepare(command.usesRoots()))
+        const auto roots = command.needsRoots()  ? Session::Folders::Needed
+                           : command.usesRoots() ? Session::Folders::IfKnown
+                                                 : Session::Folders::None;
+        if (!session.prepare(roots))
             return exitcode::CannotRun;
         return command.run(session);
     } catch (const std::bad_alloc&) {

@@ -37,6 +37,11 @@ std::string Json::quoted(std::string_view text) {
     return withoutHighControls(value.dump(-1, ' ', false, nlohmann::json::error_handler_t::replace));
 }
 
+Json::Json(const std::vector<std::string>& texts) : Json(list()) {
+    for (const std::string& text : texts)
+        add(text);
+}
+
 Json::Json(std::initializer_list<JsonMember> members) : Json(object()) {
     for (const JsonMember& member : members)
         set(member.name, member.value);

@@ -8,6 +8,7 @@
 #include <initializer_list>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace zandor {
 
@@ -22,6 +23,7 @@ class Json {
     requires(!std::same_as<Number, bool>) Json(Number value) : text_(std::to_string(value)) {}
     template <std::convertible_to<std::string_view> Text>
     Json(const Text& text) : text_(quoted(std::string_view(text))) {}
+    Json(const std::vector<std::string>& texts);     // a list
     Json(std::initializer_list<JsonMember> members); // an object
 
     static Json list() { return Json(Raw{}, "[]"); }

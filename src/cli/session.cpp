@@ -30,14 +30,14 @@ Session::Session(const Surroundings& surroundings, const CommonOptions& options,
     atWork = state.IniPath = settingsPath(folders_, options);
 }
 
-bool Session::prepare(bool withRoots) {
+bool Session::prepare(Folders roots) {
     if (!options_.settings.empty() && !FileExists(frame.files, state.IniPath))
         return refuse("There is no settings file " + shown(state.IniPath));
     if (isProfileTooLarge(frame.files, state.IniPath))
         return refuse("The settings file is too large (" + megabytesOf(frame.files, state.IniPath) +
                       " MB): " + shown(state.IniPath));
     readSettings(frame);
-    return prepareLanguage() && (!withRoots || prepareRoots());
+    return prepareLanguage() && (roots == Folders::None || prepareRoots(roots));
 }
 
 int Session::cannotRun(std::string_view text) {
@@ -84,7 +84,7 @@ bool Session::prepareLanguage() {
     return refuse("There is no language \"" + options_.language + "\", but: " + known);
 }
 
-bool Session::prepareRoots() {
+bool Session::prepareRoots(Folders roots) {
     if (!takeGivenFolder("--root", options_.root, state.roots.RootMSTS) ||
         !takeGivenFolder("--tstore", options_.tstore, state.roots.RootTStore))
         return false;
@@ -94,8 +94,11 @@ bool Session::prepareRoots() {
     else
         state.roots.first = equalIgnoringCase(options_.primary, "tstore") ? Root::Store : Root::Simulator;
     if (!state.roots.RootPrimary().empty())
-        return FolderExists(frame.files, state.roots.RootPrimary() + "\\TRAINS") ||
+        return roots == Folders::IfKnown ||
+               FolderExists(frame.files, state.roots.RootPrimary() + "\\TRAINS") ||
                refuse("There is no TRAINS folder in " + shown(state.roots.RootPrimary()));
+    if (roots == Folders::IfKnown)
+        return true;
     const bool simulatorWanted =
         state.roots.RootMSTS.empty() && !equalIgnoringCase(options_.primary, "tstore");
     return refuse(std::string(simulatorWanted

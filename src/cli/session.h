@@ -33,7 +33,8 @@ class Session {
 
     // Settings, language and, for a command that uses them, the root folders. False: the user was told why
     // the command can't run.
-    bool prepare(bool withRoots);
+    enum class Folders { None, IfKnown, Needed };
+    bool prepare(Folders roots);
 
     // Tell in one line what is wrong, and return the exit code that goes with it. Controls are escaped.
     int cannotRun(std::string_view text);
@@ -52,7 +53,7 @@ class Session {
 
   private:
     bool prepareLanguage();
-    bool prepareRoots();
+    bool prepareRoots(Folders roots);
     bool takeGivenFolder(std::string_view option, const std::string& given, std::string& root);
     void takeRootsOfSettings();
     bool refuse(std::string_view text); // false, once the user was told

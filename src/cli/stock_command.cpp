@@ -62,7 +62,10 @@ class StockCommand final : public Command {
         if (!isStockKind(path)) {
             fault = "Not an engine or a wagon file";
         } else if (quick_) {
-            QuickStockReader(session.frame.files).QuickReadStock(materiel);
+            const ReadResult result = QuickStockReader(session.frame.files).QuickReadStock(materiel);
+            if (result != ReadResult::Done)
+                reading.answer = unreadAnswer(session.frame.files, path, result);
+            fault = faultOf(session, reading.answer);
         } else {
             reading =
                 ReadStockFile(reader, path, materiel, repair_ ? NameRepair::Allowed : NameRepair::Never);

@@ -13,8 +13,6 @@ inline constexpr Message ServiceConsistNotFound{
     411}; // |1 the consist's file, |2 a line break, |3 the file looked for
 
 // routes
-inline constexpr Message ReadingServices{446}; // stands between a route and a file
-inline constexpr Message Activities{450};      // a column, and as 446
 inline constexpr Message ColumnLooseStock{451};
 
 // the stock search and the stock list
@@ -43,7 +41,6 @@ inline constexpr Message MenuOpenConsist{493}; // |1 the consist's file, |2 its 
 
 // loading, deleting, exporting
 inline constexpr Message ColumnConsist{499};
-inline constexpr Message ReadingRoute{503}; // followed by a blank and the route's name
 
 // the tab of routes, and replacements
 inline constexpr Message RouteNamesLabel{650};

@@ -1,7 +1,6 @@
 #include "editor/consist_summaries.h"
 
 #include "catalogue/messages.h"
-#include "catalogue/name_key.h"
 #include "editor/messages.h"
 
 namespace zandor {
@@ -30,28 +29,10 @@ std::string_view ServiceConsists::markOf(std::string_view fileName) const {
     return names_.contains(lowerCase(fileName)) ? RouteMarkYes : RouteMarkNo;
 }
 
-bool StockPresence::has(std::string_view folder, std::string_view file) {
-    makeNameKey(folder, file, key_);
-    const auto known = known_.find(key_);
-    if (known != known_.end())
-        return known->second;
-    const bool found =
-        isIn(state_.roots.RootMSTS, folder, file) || isIn(state_.roots.RootTStore, folder, file);
-    known_.emplace(key_, found);
-    return found;
-}
-
-bool StockPresence::isIn(std::string_view root, std::string_view folder, std::string_view file) {
-    if (root.empty())
-        return false;
-    std::string path = trainsetPath(root);
-    path.append(folder).append(1, '\\').append(file);
-    return FileExists(files_, path);
-}
-
 SummaryReader::SummaryReader(Frame& frame, const Catalogue& catalogue)
     : folder_(consistsPath(frame.state.roots.RootPrimary())), reader_(frame.files),
-      stock_(frame.files, frame.state), services_(catalogue), compositions_(frame) {}
+      stock_(frame.files, {frame.state.roots.RootMSTS, frame.state.roots.RootTStore}), services_(catalogue),
+      compositions_(frame) {}
 
 void SummaryReader::takeItem(const RameItem& item, ConsistSummary& summary) {
     ++(item.IsEngine ? summary.Engines : summary.Wagons);

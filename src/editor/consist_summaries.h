@@ -3,6 +3,7 @@
 #pragma once
 
 #include "catalogue/catalogue.h"
+#include "catalogue/stock_presence.h"
 
 #include <map>
 #include <string>
@@ -33,21 +34,6 @@ class ServiceConsists {
 
   private:
     std::unordered_set<std::string> names_; // in lower case
-};
-
-// Whether stock files stand in one of the roots. Each is looked for on the disk once.
-class StockPresence {
-  public:
-    StockPresence(FileSystem& files, const AppState& state) : files_(files), state_(state) {}
-    bool has(std::string_view folder, std::string_view file);
-
-  private:
-    bool isIn(std::string_view root, std::string_view folder, std::string_view file);
-
-    FileSystem& files_;
-    const AppState& state_;
-    std::unordered_map<std::string, bool, TextHash, std::equal_to<>> known_;
-    std::string key_;
 };
 
 // Reads one consist of the root in use after another.

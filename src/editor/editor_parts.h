@@ -42,6 +42,11 @@ Finding stripFull(const ConsistDocument& document);
 // The empty editor and a Rame with the defaults of a new consist; asks nothing.
 void beginNewConsist(Editor& editor);
 
+// The use counts after the stock of a consist has changed: once per entry of a list; what stands in both
+// lists, however often, is left alone.
+void countDifference(Catalogue& catalogue, const std::vector<StockPair>& before,
+                     const std::vector<StockPair>& now);
+
 // True when both name one folder, whatever their case, separators, end and drive.
 bool sameFolder(FileSystem& files, std::string_view a, std::string_view b);
 

@@ -185,7 +185,9 @@ Finding notOpened(Frame& frame, std::string_view path, const ReadAnswer& answer)
 Finding openedFaulty(Frame& frame, std::string_view path, const ReadAnswer& answer) {
     const Message message =
         answer.flaw == Flaw::VehicleNameless ? message::OpenedWithoutVehicle : message::OpenedFaulty;
-    return aboutFile(frame.files, path, message, faultText(frame.language, answer));
+    Finding finding = aboutFile(frame.files, path, message, faultText(frame.language, answer));
+    finding.line = answer.line;
+    return finding;
 }
 
 std::string folderOf(std::string_view path) {

@@ -41,18 +41,6 @@ void lowerCount(Catalogue& catalogue, const StockPair& pair) {
         --use->Count;
 }
 
-// Once per entry of a list; what stands in both lists, however often, is left alone.
-void countDifference(Catalogue& catalogue, const std::vector<StockPair>& before,
-                     const std::vector<StockPair>& now) {
-    const PairSet oldSet = foldedSet(before), newSet = foldedSet(now);
-    for (const StockPair& pair : before)
-        if (!newSet.contains(foldedPair(pair)))
-            lowerCount(catalogue, pair);
-    for (const StockPair& pair : now)
-        if (!oldSet.contains(foldedPair(pair)))
-            raiseCount(catalogue, pair);
-}
-
 ConsistEntry& entryOf(Editor& editor, const std::string& fileName, const std::string& folder) {
     std::vector<ConsistEntry>& index = editor.catalogue.ConsistIndex;
     for (ConsistEntry& entry : index)
@@ -63,6 +51,17 @@ ConsistEntry& entryOf(Editor& editor, const std::string& fileName, const std::st
 }
 
 } // namespace
+
+void countDifference(Catalogue& catalogue, const std::vector<StockPair>& before,
+                     const std::vector<StockPair>& now) {
+    const PairSet oldSet = foldedSet(before), newSet = foldedSet(now);
+    for (const StockPair& pair : before)
+        if (!newSet.contains(foldedPair(pair)))
+            lowerCount(catalogue, pair);
+    for (const StockPair& pair : now)
+        if (!oldSet.contains(foldedPair(pair)))
+            raiseCount(catalogue, pair);
+}
 
 bool sameFolder(FileSystem& files, std::string_view a, std::string_view b) {
     const auto plain = [](std::string_view path) {

@@ -5,6 +5,7 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -35,6 +36,10 @@ enum class ReadOnly { Refused, Kept };
 class FileSystem {
   public:
     virtual ~FileSystem() = default;
+
+    // The same files for another thread, which may use it while this one is used: no other door serves two
+    // threads. nullptr: there is this one only.
+    virtual std::unique_ptr<FileSystem> anotherDoor() { return nullptr; }
 
     // Reads a whole file into `bytes` (its storage is used again), which stay empty unless it is done. A file
     // of more than `limit` bytes is too large, and takes no memory.

@@ -127,9 +127,12 @@ bool containsAscii(std::string_view text, std::string_view part) {
 } // namespace
 
 std::string lowerCase(std::string_view text) {
-    std::string lower;
-    lower.reserve(text.size());
-    for (std::size_t at = 0; at < text.size();) {
+    std::string lower(text);
+    std::size_t at = 0;
+    for (; at < lower.size() && isAscii(lower[at]); ++at) // most texts are ASCII to their end
+        lower[at] = static_cast<char>(asciiLower(lower[at]));
+    lower.resize(at);
+    while (at < text.size()) {
         if (isAscii(text[at]))
             lower += static_cast<char>(asciiLower(text[at++]));
         else

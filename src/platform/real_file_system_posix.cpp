@@ -61,9 +61,13 @@ std::string followLinks(const std::string& path) {
 class RealFileSystem final : public FileSystem {
   public:
     RealFileSystem(const std::string& winePrefix, NamelessFiles nameless)
-        : resolver_(winePrefix), nameless_(nameless),
+        : winePrefix_(winePrefix), resolver_(winePrefix), nameless_(nameless),
           buffer_(std::make_unique_for_overwrite<char[]>(kReadBuffer)) {}
 
+    // It learns of the folders anew: what this one keeps of them can't be looked at by another thread.
+    std::unique_ptr<FileSystem> anotherDoor() override {
+        return std::make_unique<RealFileSystem>(winePrefix_, nameless_);
+    }
     ReadResult read(std::string_view path, std::string& bytes, std::uint64_t limit) override;
     ReadResult readStart(std::string_view path, std::string& bytes, std::size_t count) override;
     bool fileExists(std::string_view path) override;
@@ -88,6 +92,7 @@ class RealFileSystem final : public FileSystem {
     ReadResult readRest(int file, std::string& bytes, std::uint64_t limit);
     bool isFolder(const KeptFolder& folder, const KeptName& name) const;
 
+    const std::string winePrefix_;
     PathResolver resolver_;
     const NamelessFiles nameless_;
     ResolvedPath place_;             // of the last look-up; storage used again

@@ -40,4 +40,7 @@ std::string GetTempFolder(); // without a trailing separator, in upper case wher
 // A path that a person or the shell gave, made absolute against the current folder.
 std::string ExpandLongPath(std::string_view path);
 
+// True when what goes to the standard error output is seen at once, by a person.
+bool errorsGoToTerminal();
+
 } // namespace zandor

@@ -127,4 +127,8 @@ std::string ExpandLongPath(std::string_view path) {
                                                      : (here / path).string();
 }
 
+bool errorsGoToTerminal() {
+    return isatty(STDERR_FILENO) != 0;
+}
+
 } // namespace zandor

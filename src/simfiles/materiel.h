@@ -26,6 +26,7 @@ struct Materiel {
     std::string MaxPower;
     std::string DisplayName; // filled by the stock lists
     std::string Length;      // filled by the stock lists
+    bool operator==(const Materiel&) const = default;
 };
 
 // The name that a vehicle shows everywhere: EngineName, else WagonName.

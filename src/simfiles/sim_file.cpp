@@ -106,7 +106,7 @@ ReadAnswer SimReader::ReadSimFile(std::string_view path, const ReadRequest& requ
     }
     SimKeys.clear();
     SimHits.clear();
-    return unread(path, result);
+    return unreadAnswer(files_, path, result);
 }
 
 void SimReader::giveBackMemory() {
@@ -116,7 +116,7 @@ void SimReader::giveBackMemory() {
     work_ = std::make_unique<Work>(*this);
 }
 
-ReadAnswer SimReader::unread(std::string_view path, ReadResult result) {
+ReadAnswer unreadAnswer(FileSystem& files, std::string_view path, ReadResult result) {
     ReadAnswer answer;
     switch (result) {
     case ReadResult::Missing:
@@ -127,7 +127,7 @@ ReadAnswer SimReader::unread(std::string_view path, ReadResult result) {
         break;
     case ReadResult::TooLarge:
         answer.outcome = ReadOutcome::TooLarge;
-        if (const auto stamp = files_.stamp(path))
+        if (const auto stamp = files.stamp(path))
             answer.size = stamp->size;
         break;
     default:

@@ -36,6 +36,9 @@ inline constexpr std::string_view ConsistSignature = "SIMISA@@@@@@@@@@JINX0D0t__
 // where all do. Shapes and cab views are large, and little of them is of use.
 std::string_view textureLines(FileKind kind);
 
+// What a file that couldn't be read is answered with.
+ReadAnswer unreadAnswer(FileSystem& files, std::string_view path, ReadResult result);
+
 // One read after another of simulator text files. SimKeys and SimHits are valid until the next call, and
 // empty when nothing was read or found; the reader keeps its storage between calls, so use one reader for
 // many files. Not reentrant: take a second reader for a read within a read.
@@ -55,7 +58,6 @@ class SimReader {
 
   private:
     void giveBackMemory();
-    ReadAnswer unread(std::string_view path, ReadResult result);
 
     struct Work;
     FileSystem& files_;

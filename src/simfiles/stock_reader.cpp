@@ -155,13 +155,22 @@ bool rewriteNames(FileSystem& files, std::string_view path, const std::vector<Wa
 
 } // namespace
 
+void clearReadFields(Materiel& materiel) {
+    for (Field field : ReadFields)
+        (materiel.*field).clear();
+}
+
+void moveReadFields(Materiel& from, Materiel& to) {
+    for (Field field : ReadFields)
+        (to.*field).swap(from.*field);
+}
+
 StockReading ReadStockFile(SimReader& reader, std::string_view path, Materiel& materiel, NameRepair repair) {
     StockReading reading;
     reading.answer = reader.ReadSimFile(path);
     if (!reading.answer.accepted())
         return reading;
-    for (Field field : ReadFields)
-        (materiel.*field).clear();
+    clearReadFields(materiel);
     const bool isWagonFile = kindOfFile(path) == FileKind::Wagon;
     int shapeLine = 0;
     CouplingTypes couplings;

@@ -24,6 +24,10 @@ struct StockReading {
     bool repaired = false;
 };
 
+// The fields that come from the file: emptied; moved into a record of the same file, where they were empty.
+void clearReadFields(Materiel& materiel);
+void moveReadFields(Materiel& from, Materiel& to);
+
 // Fills the fields of `materiel`; a file that isn't accepted leaves it as it was. With Allowed, a .wag with
 // several Name keys, each alone on its line, is rewritten on the spot with the one that stays: in UTF-16, all
 // other lines to the last character as they were. Its attributes are kept.

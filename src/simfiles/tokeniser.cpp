@@ -613,7 +613,15 @@ bool Tokeniser::matchLast() {
 
 bool Tokeniser::matchStockKey() {
     constexpr unsigned all = (1u << StockKeys.size()) - 1;
+    constexpr unsigned lengths = [] {
+        unsigned bits = 0;
+        for (const StockKey& wanted : StockKeys)
+            bits |= 1u << wanted.key.size();
+        return bits;
+    }();
     const SimKey& last = keys_.back();
+    if (last.Key.size() >= 32 || (lengths >> last.Key.size() & 1) == 0)
+        return false; // most keys end here
     for (std::size_t i = 0; i < StockKeys.size(); ++i) {
         const StockKey& wanted = StockKeys[i];
         if (!nameIs(last.Key, wanted.key) || !pathIs(last.Path, wanted.path))

@@ -156,6 +156,21 @@ void NormalizeLine(std::string& line) {
         shortenStretches(line, next - blank);
 }
 
+std::string properCase(std::string_view text) {
+    const std::string lower = lowerCase(text);
+    std::string_view rest = lower;
+    std::string proper;
+    while (!rest.empty()) {
+        const std::size_t word = std::min(rest.find_first_not_of(" \t"), rest.size());
+        const std::size_t end = std::min(rest.find_first_of(" \t", word), rest.size());
+        const std::string_view first = firstCharacters(rest.substr(word), 1);
+        proper.append(rest.substr(0, word)).append(upperCase(first));
+        proper.append(rest.substr(word + first.size(), end - word - first.size()));
+        rest.remove_prefix(end);
+    }
+    return proper;
+}
+
 std::string_view lastToken(std::string_view text) {
     text = trim(text);
     return text.substr(text.rfind(' ') + 1); // npos + 1 is 0: a single token

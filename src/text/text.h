@@ -40,6 +40,9 @@ std::string_view CleanValue(std::string_view text);
 // bracket become one.
 void NormalizeLine(std::string& line);
 
+// Lower case, with a capital at the beginning of each word; words end at blanks and tabs.
+std::string properCase(std::string_view text);
+
 // Last blank-separated token, as the length stands in a size text: "3m 4m 18.5m" gives "18.5m".
 std::string_view lastToken(std::string_view text);
 

@@ -15,7 +15,7 @@ namespace {
 class WaveCheck {
   public:
     WaveCheck(VerifWork& work, const CheckTarget& target)
-        : work_(work), target_(target), places_(work.onDisk, work.frame.state.roots.RootMSTS, target) {}
+        : work_(work), target_(target), places_(work.onDisk, work.places.sounds, target) {}
 
     void test(const std::string& name, const WaveName& wave) {
         if (const std::string_view folder = folderPart(name); !folder.empty())

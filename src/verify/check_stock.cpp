@@ -1,4 +1,5 @@
 #include "catalogue/catalogue.h"
+#include "simfiles/shape_description.h"
 #include "verify/checks.h"
 #include "verify/messages.h"
 #include "verify/quote_repair.h"
@@ -38,25 +39,11 @@ std::string_view upToShape(std::string_view value) {
     return value;
 }
 
-// Real descriptions open a block with the shape's name and close it lines later, or not at all.
-DescribedShape shapeIn(const std::vector<SimKey>& keys) {
-    for (auto key = keys.begin(); key != keys.end(); ++key) {
-        const bool isKey = key->Path.empty() && nameIs(key->Key, "Shape");
-        if (!isKey && !(key->Key.empty() && pathIs(key->Path, "Shape")))
-            continue;
-        std::string_view value = key->Value;
-        const auto next = std::next(key);
-        if (value.empty() && next != keys.end() && pathIs(next->Path, "Shape"))
-            value = next->Key.substr(0, next->Key.rfind(' ')); // shape ( a.s ESD_Detail_Level ( 0 )
-        return {true, std::string(StripQuotes(value)), std::string(key->Tail), key->Line};
-    }
-    return {};
-}
-
 const DescribedShape& describedShape(VerifWork& work, const std::string& path) {
     const auto [found, isNew] = work.descriptions.try_emplace(lowerCase(path));
-    if (isNew && work.reader.ReadSimFile(path).accepted())
-        found->second = shapeIn(work.reader.SimKeys);
+    if (isNew)
+        if (const std::optional<SimKey> key = shapeOfDescription(work.reader, path))
+            found->second = {true, std::string(StripQuotes(key->Value)), std::string(key->Tail), key->Line};
     return found->second;
 }
 
@@ -137,7 +124,7 @@ class StockCheck {
         if (!work_.onDisk.fileExists(folder + value))
             reportMissing(hit, value);
         else if (work_.options.CheckTextures)
-            queue(work_.queues.ShapeTargets, {folder, folder_ + "\\Cabview\\", value});
+            work_.queues.ShapeTargets.push_back({folder, folder_ + "\\Cabview\\", value});
     }
 
     void testSound(const SimHit& hit, Values) {
@@ -148,7 +135,7 @@ class StockCheck {
         if (!isOwn && (common.empty() || !work_.onDisk.fileExists(common + value)))
             reportMissing(hit, value);
         else if (work_.options.CheckSounds)
-            queue(work_.queues.SoundTargets, {isOwn ? own : common, folder_ + "\\Sound\\", value});
+            work_.queues.SoundTargets.push_back({isOwn ? own : common, folder_ + "\\Sound\\", value});
     }
 
     void testThumbnail(const SimHit& hit, Values) {
@@ -167,7 +154,7 @@ class StockCheck {
         if (!work_.onDisk.fileExists(path))
             reportMissing(hit, value);
         else if (work_.options.CheckTextures)
-            queue(work_.queues.ShapeTargets, {beside_, folder_ + "\\", std::string(value)});
+            work_.queues.ShapeTargets.push_back({beside_, folder_ + "\\", std::string(value)});
     }
 
     void testDescription(const std::string& path) {
@@ -178,11 +165,6 @@ class StockCheck {
         hit.Tail = shape.tail;
         hit.FirstLine = shape.line;
         reportMissing(hit, shape.value, true);
-    }
-
-    void queue(std::vector<CheckTarget>& targets, CheckTarget target) {
-        if (work_.queued.insert(lowerCase(target.Dir + '\n' + target.RelDir + target.File)).second)
-            targets.push_back(std::move(target));
     }
 
     void reportMissing(const SimHit& hit, std::string_view value, bool bare = false) {

@@ -43,7 +43,6 @@ struct VerifWork {
     PassFiles onDisk{frame.files};
     SimReader reader{frame.files};
 
-    std::unordered_set<std::string> queued{}; // what the queues hold or held: a file is looked into once
     std::unordered_map<std::string, DescribedShape> descriptions{}; // by path, lower case
     bool showsQuoteFailures = true, showsMandatory = true;          // until the user has seen enough of them
     std::unordered_set<std::string> examined{}; // owners of shapes, cab views and sound sets, lower case

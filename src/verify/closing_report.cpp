@@ -1,9 +1,8 @@
-#include "platform/letter_case.h"
 #include "verify/messages.h"
+#include "verify/missing_list.h"
 #include "verify/verification.h"
 
-#include <algorithm>
-#include <unordered_set>
+#include <utility>
 
 namespace zandor {
 
@@ -12,9 +11,9 @@ namespace {
 constexpr const char* LineBreak = "\r\n";
 
 // The report as it grows: each message takes the text so far.
-class Report {
+class ClosingText {
   public:
-    Report(const Frame& frame, const VerifResults& results) : frame_(frame), results_(results) {
+    ClosingText(const Frame& frame, const VerifResults& results) : frame_(frame), results_(results) {
         text_ = frame.text(message::VerifyDone, {{"|1", LineBreak}});
     }
 
@@ -41,7 +40,7 @@ class Report {
         const int sounds = results_.counters.MissingSounds;
         if (sounds == 0)
             return;
-        const int names = distinctSounds();
+        const int names = countDistinctNames(results_, MissingKind::Sound);
         const Message shown = sounds == 1  ? message::ReportOneSound
                               : names == 1 ? message::ReportOneSoundOften
                                            : message::ReportManySounds;
@@ -82,18 +81,8 @@ class Report {
             text_ += LineBreak;
     }
 
-    int distinctSounds() const {
-        std::unordered_set<std::string> names;
-        for (const MissingEntry& entry : results_.MissingEntries)
-            if (entry.Kind == MissingKind::Sound)
-                for (const MissingItem& item : entry.Items)
-                    names.insert(lowerCase(item.Name));
-        return static_cast<int>(names.size());
-    }
-
     void tellSoundSets() {
-        const auto sets =
-            std::ranges::count(results_.MissingEntries, MissingKind::Sound, &MissingEntry::Kind);
+        const int sets = countMissingOwners(results_, MissingKind::Sound);
         const std::string note =
             frame_.text(sets == 1 ? message::OneSoundSetNote : message::ManySoundSetsNote);
         text_ = frame_.text(sets == 1 ? message::ReportInOneSoundSet : message::ReportInManySoundSets,
@@ -110,7 +99,7 @@ class Report {
 std::string closingReport(const Frame& frame, const VerifSelection& selection, const VerifOptions& options,
                           const VerifResults& results) {
     const VerifOptions done = optionsFor(selection.kind, options);
-    Report report(frame, results);
+    ClosingText report(frame, results);
     report.tellInvalid();
     report.tellCount(static_cast<int>(results.DuplicateEntries.size()), message::ReportOneDuplicate,
                      message::ReportManyDuplicates);

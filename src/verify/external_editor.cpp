@@ -2,6 +2,7 @@
 
 #include "verify/messages.h"
 
+#include <iterator>
 #include <memory>
 #include <optional>
 
@@ -12,7 +13,7 @@ namespace {
 #ifdef _WIN32
 constexpr std::string_view EditorFiles[] = {"Skrivo.exe"};
 #else
-constexpr std::string_view EditorFiles[] = {"Skrivo.exe", "Skrivo"};
+constexpr std::string_view EditorFiles[] = {"Skrivo.exe", EditorName};
 #endif
 constexpr std::string_view PositionMark = "/§", NumberMark = "/", ReloadMark = "-1";
 constexpr std::string_view LineBreak = "\r\n";
@@ -26,7 +27,7 @@ std::vector<std::string> editorFolders(const AppState& state) {
 
 Findings editorMissing(Frame& frame) {
     return {{.message = message::EditorMissing,
-             .params = {{"|1", std::string(EditorFiles[0])},
+             .params = {{"|1", std::string(std::end(EditorFiles)[-1])},
                         {"|2", std::string(LineBreak)},
                         {"|3", frame.files.nativePath(frame.state.ProgramFolder)}}}};
 }

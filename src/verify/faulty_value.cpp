@@ -247,15 +247,18 @@ std::optional<OldValue> findOld(FileSystem& files, const std::string& path, cons
         return holdsNothing ? std::optional(OldValue{*place, false}) : std::nullopt;
     }
     const bool folder = namesVehicle(line) && line.summaryText == message::StockFolderMissingShort.number;
-    const TextSpan within = place.value_or(whole);
-    const auto span = findValue(file.text, {within, value, folder});
-    return span ? std::optional(withQuotes(file.text, within, *span)) : std::nullopt;
+    for (const TextSpan within : {place.value_or(whole), whole})
+        if (const auto span = findValue(file.text, {within, value, folder}))
+            return withQuotes(file.text, within, *span);
+    return std::nullopt;
 }
 
 // ---- writing
 
 std::string displayedKey(const ErrorLine& line) {
-    return std::string(trim(std::string_view(line.Key).substr(0, line.Key.find('('))));
+    std::string key = line.Key.substr(0, line.Key.find('('));
+    std::ranges::replace(key, '\t', ' ');
+    return std::string(trim(key));
 }
 
 Outcome notChanged(Frame& frame, const std::string& path, const ErrorLine& line) {
@@ -281,7 +284,9 @@ std::string written(const ErrorLine& line, const std::string& value, bool quoted
 // A value put between brackets that hold none stands apart from them.
 TextEdit editOf(std::string_view text, const OldValue& old, std::string value) {
     if (old.span.size() == 0) {
-        const auto isBlank = [text](std::size_t at) { return at < text.size() && trim(text.substr(at, 1)).empty(); };
+        const auto isBlank = [text](std::size_t at) {
+            return at < text.size() && trim(text.substr(at, 1)).empty();
+        };
         value.insert(0, isBlank(old.span.begin - 1) ? "" : " ");
         value.append(isBlank(old.span.end) ? "" : " ");
     }

@@ -182,10 +182,10 @@ inline constexpr Message NoInvalidFile{909};
 inline constexpr Message NoFileFits{910};
 inline constexpr Message NothingVerified{911};
 inline constexpr Message NoCandidates{912};
-inline constexpr Message FileUnreadable{913};
+inline constexpr Message FileTextUnreadable{913};
 inline constexpr Message FileText{914};
 inline constexpr Message GroupCandidates{915};
-inline constexpr Message ColumnStockFolder{916};
+inline constexpr Message ColumnCandidateFolder{916};
 inline constexpr Message VerifyStopped{917};
 inline constexpr Message FaultsInFiles{918};    // |1 faults, |2 files
 inline constexpr Message MandatoryKeyName{919}; // |1 the key

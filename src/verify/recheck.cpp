@@ -1,5 +1,6 @@
 #include "verify/recheck.h"
 
+#include "editor/files_changed.h"
 #include "verify/result_lists.h"
 
 #include <algorithm>
@@ -34,10 +35,9 @@ void forgetMandatory(VerifResults& results, const StockName& name) {
 }
 
 void checkStock(VerifWork& work, Catalogue& catalogue, const StockName& name, std::string_view path) {
-    const std::string& root = work.frame.state.roots.RootPrimary();
     forgetMandatory(work.results, name);
-    // The check looks under the root in use alone.
-    if (!equalIgnoringCase(trainsetPath(root) + name.folder + "\\" + name.file, path))
+    // The check looks there alone.
+    if (!equalIgnoringCase(work.places.stock + name.folder + "\\" + name.file, path))
         return;
     CheckStockFile(work, name.folder, name.file);
     rereadStock(work.frame, catalogue, name.folder, name.file);
@@ -46,13 +46,16 @@ void checkStock(VerifWork& work, Catalogue& catalogue, const StockName& name, st
 // A file that has vanished has no faults.
 void check(VerifWork& work, Catalogue& catalogue, const StockName& name, std::string_view path) {
     work.onDisk.forget();
+    work.descriptions.clear();
     if (!isThere(work.frame.files, path))
         forgetMandatory(work.results, name);
-    else if (endsWithIgnoringCase(path, ".con"))
+    else if (endsWithIgnoringCase(path, ".con")) {
         CheckConsistFile(work, name.file, Quiet::No, path);
-    else
+        rereadConsist(work.frame, catalogue, path);
+    } else
         checkStock(work, catalogue, name, path);
     work.queues = {}; // what the file names isn't looked into
+    work.examined.clear();
     compactInvalidFiles(work.results.InvalidFiles);
 }
 

@@ -16,8 +16,6 @@ namespace zandor {
 
 namespace {
 
-constexpr std::size_t TrainsetDepth = 2; // components of TRAINS\TRAINSET
-
 // The same for every spelling of one path.
 std::string pathKey(std::string_view path) {
     const SimPath parsed = parseSimPath(path);
@@ -33,7 +31,7 @@ class WaveIndex {
   public:
     // False: the user ended it.
     bool fill(VerifWork& work) {
-        const std::string trainset = work.frame.state.roots.RootMSTS + "\\TRAINS\\TRAINSET\\";
+        const std::string& trainset = work.places.trainset;
         for (const FolderEntry& entry : work.frame.files.listFolder(trainset)) {
             if (!entry.isFolder)
                 continue;
@@ -56,8 +54,7 @@ class WaveIndex {
 
 // The way from a folder to TRAINSET as sound sets write it, with "/" at its end: "../../" from the Sound
 // folder of stock, "../TRAINS/TRAINSET/" from the simulator's own.
-std::string wayToTrainset(std::string_view folder, const std::string& simulator) {
-    const std::string trainset = simulator + "\\TRAINS\\TRAINSET";
+std::string wayToTrainset(std::string_view folder, std::string_view trainset) {
     const SimPath from = parseSimPath(folder), to = parseSimPath(trainset);
     std::size_t shared = 0;
     while (shared < from.parts.size() && shared < to.parts.size() &&
@@ -67,9 +64,7 @@ std::string wayToTrainset(std::string_view folder, const std::string& simulator)
     for (std::size_t i = shared; i < from.parts.size(); ++i)
         way += "../";
     for (std::size_t i = shared; i < to.parts.size(); ++i)
-        way.append(i + TrainsetDepth < to.parts.size() ? to.parts[i]
-                   : i + 1 == to.parts.size()          ? "TRAINSET"
-                                                       : "TRAINS") += '/';
+        way.append(to.parts[i]) += '/';
     return way;
 }
 
@@ -77,9 +72,9 @@ std::string wayToTrainset(std::string_view folder, const std::string& simulator)
 class SetRepair {
   public:
     SetRepair(VerifWork& work, const WaveIndex& waves, const CheckTarget& target)
-        : waves_(waves), places_(work.onDisk, work.frame.state.roots.RootMSTS, target),
-          toTrainset_(wayToTrainset(target.Dir + std::string(folderPart(target.File)),
-                                    work.frame.state.roots.RootMSTS)) {}
+        : waves_(waves), places_(work.onDisk, work.places.sounds, target),
+          toTrainset_(
+              wayToTrainset(target.Dir + std::string(folderPart(target.File)), work.places.trainset)) {}
 
     std::vector<TextEdit> editsOf(std::string_view text) {
         std::vector<TextEdit> edits;
@@ -117,6 +112,16 @@ bool mayWrite(const VerifWork& work, const CheckTarget& target) {
     return liesIn(path, roots.RootMSTS) || liesIn(path, roots.RootTStore) || liesIn(path, target.Dir);
 }
 
+// A place could hold what changes the meaning of its line, such as a bracket where no quotes are.
+bool namesTheSame(std::string_view before, std::string_view after) {
+    const std::vector<WaveName> old = findWaves(before), now = findWaves(after);
+    return std::equal(old.begin(), old.end(), now.begin(), now.end(),
+                      [&](const WaveName& one, const WaveName& other) {
+                          const std::string oldName = textOf(before, one), newName = textOf(after, other);
+                          return lastComponent(oldName) == lastComponent(newName);
+                      });
+}
+
 EditOutcome repairSet(VerifWork& work, const WaveIndex& waves, const CheckTarget& target) {
     const std::string path = target.Dir + target.File;
     std::string bytes;
@@ -126,7 +131,8 @@ EditOutcome repairSet(VerifWork& work, const WaveIndex& waves, const CheckTarget
     const std::vector<TextEdit> edits = SetRepair(work, waves, target).editsOf(file.text);
     if (edits.empty())
         return EditOutcome::Same;
-    if (!mayWrite(work, target) || !replaceSpans(file.text, edits))
+    const std::string before = file.text;
+    if (!mayWrite(work, target) || !replaceSpans(file.text, edits) || !namesTheSame(before, file.text))
         return EditOutcome::Refused;
     return writeEdited(work.frame.files, path, file);
 }

@@ -24,8 +24,9 @@ class ReportText {
     void add(std::string_view text, TextStyle style = {}) {
         for (;;) {
             const std::size_t end = text.find_first_of("\r\n");
+            Paragraph& paragraph = last();
             if (end != 0 && !text.empty())
-                last().runs.push_back({std::string(text.substr(0, end)), style});
+                paragraph.runs.push_back({std::string(text.substr(0, end)), style});
             if (end == std::string_view::npos)
                 return;
             text.remove_prefix(end + (text.substr(end).starts_with(LineBreak) ? 2 : 1));

@@ -2,9 +2,10 @@
 
 #include "catalogue/messages.h"
 #include "catalogue/name_key.h"
+#include "catalogue/routes.h"
 #include "editor/consist_summaries.h"
 #include "editor/editor_parts.h"
-#include "editor/files_gone.h"
+#include "editor/files_changed.h"
 #include "editor/messages.h"
 #include "verify/messages.h"
 
@@ -83,9 +84,10 @@ Moving moveFile(FileSystem& files, const std::string& source, const std::string&
     return moveBytes(files, source, target, bytes, isNew);
 }
 
-// True when the file isn't there any more.
+// True when the file isn't there any more; a disk that doesn't answer doesn't say so.
 bool removeFile(FileSystem& files, const std::string& path) {
-    return files.deleteFile(path) || !isThere(files, path);
+    std::string none;
+    return files.deleteFile(path) || files.read(path, none, 0) == ReadResult::Missing;
 }
 
 // ---- the files that were chosen
@@ -148,11 +150,10 @@ bool agreesForUsed(Editor& editor, const VerifResults& results, const std::vecto
         return true;
     if (chosen.size() > 1)
         return ask(editor.frame, ofSeveral(editor.frame, message::AskGoOnUsedSeveral, used));
-    const std::string route =
-        routeUsing(editor.catalogue, recordOf(results, used.front()).File).value_or(std::string());
+    const RouteMSTS* route = findRouteUsing(editor.catalogue.here(), recordOf(results, used.front()).File);
     return ask(editor.frame, {.message = askOne,
                               .params = {{"|1", shownPath(editor.frame, used.front())},
-                                         {"|2", route},
+                                         {"|2", route ? route->Nom : std::string()},
                                          {"|3", std::string(LineBreak)}}});
 }
 
@@ -238,12 +239,18 @@ struct MovedFiles {
     std::vector<Chosen> moved, vanished, taken, failed;
 };
 
-// False in `yield`: the user ends it, and what is left stays.
+// False: the user ends it, and what is left stays.
+bool goesOn(Frame& frame, const std::vector<Chosen>& chosen, const Chosen& next) {
+    const int count = static_cast<int>(chosen.size());
+    frame.progress.ShowProgress(0, count, static_cast<int>(&next - chosen.data()), next.path);
+    return frame.progress.yield();
+}
+
 MovedFiles moveEach(Editor& editor, const VerifResults& results, const std::vector<Chosen>& chosen) {
     MovedFiles sorted;
     std::string folders[std::size(Kinds)];
     for (const Chosen& file : chosen) {
-        if (!editor.frame.progress.yield())
+        if (!goesOn(editor.frame, chosen, file))
             break;
         const InvalidFile& record = recordOf(results, file);
         std::string& folder = folders[static_cast<std::size_t>(kindOf(record))];
@@ -341,13 +348,6 @@ Message resultHint(VerifiedKind kind, ResultList list) {
     return list == ResultList::Files ? rowOf(kind).fileHint : rowOf(kind).keyHint;
 }
 
-std::optional<std::string> routeUsing(const Catalogue& catalogue, std::string_view file) {
-    const auto& used = catalogue.here().RamesEnService;
-    const bool isUsed =
-        std::ranges::any_of(used, [file](const std::string& name) { return equalIgnoringCase(name, file); });
-    return isUsed ? std::optional<std::string>("") : std::nullopt;
-}
-
 FilesGone moveInvalidFiles(Editor& editor, VerifResults& results, const std::vector<int>& chosen) {
     const std::vector<Chosen> files = chosenFiles(results, chosen);
     if (files.empty())
@@ -361,7 +361,7 @@ FilesGone deleteInvalidFiles(Editor& editor, VerifResults& results, const std::v
         return {};
     std::vector<Chosen> gone, failed;
     for (const Chosen& file : files) {
-        if (!editor.frame.progress.yield())
+        if (!goesOn(editor.frame, files, file))
             break;
         (removeFile(editor.frame.files, file.path) ? gone : failed).push_back(file);
     }

@@ -26,10 +26,6 @@ std::string selectionCaption(const Frame& frame, const InvalidFile& file);
 enum class ResultList { Files, Keys };
 Message resultHint(VerifiedKind kind, ResultList list);
 
-// The route a service of which runs this consist (its file's name, any case); an empty name when it isn't
-// known which. Nothing: none does.
-std::optional<std::string> routeUsing(const Catalogue& catalogue, std::string_view file);
-
 // What became of the files that were to be moved or deleted.
 struct [[nodiscard]] FilesGone {
     int gone = 0; // files that are no longer where they were, and no longer in the lists
@@ -38,7 +34,8 @@ struct [[nodiscard]] FilesGone {
 
 // `chosen`: positions in InvalidFiles, from 0; those that went are taken out of it. One file is asked for in
 // a file dialog, several go to the folders "Rames", "Motrices" and "Wagons" of the backup folder after one
-// question. A copy is read back before its original is deleted; whatever fails leaves the original.
+// question. A copy is read back before its original is deleted; whatever fails leaves the original. Yields
+// once a file: nobody else may change the results meanwhile.
 FilesGone moveInvalidFiles(Editor& editor, VerifResults& results, const std::vector<int>& chosen);
 // The same without a copy, after one question.
 FilesGone deleteInvalidFiles(Editor& editor, VerifResults& results, const std::vector<int>& chosen);

@@ -11,9 +11,9 @@ namespace zandor {
 
 class SoundPlaces {
   public:
-    // `simulator`: its folder, without "\" at its end. The set's own path may lead out of the target's
-    // folder.
-    SoundPlaces(PassFiles& onDisk, const std::string& simulator, const CheckTarget& target);
+    // `sounds`: the simulator's own, with "\" at its end, or empty. The set's own path may lead out of the
+    // target's folder.
+    SoundPlaces(PassFiles& onDisk, const std::string& sounds, const CheckTarget& target);
 
     // By a name as the set has it, from the target's folder or from the set's own.
     bool reaches(const std::string& name);

@@ -144,12 +144,6 @@ class Passages {
     std::size_t nextClosing_ = 0; // the first ")" behind the last bracket that was taken; npos: none
 };
 
-// A line counts when a quote stands behind its first "file".
-bool namesFile(std::string_view line) {
-    const std::size_t file = findWord(line, "file");
-    return file != npos && line.find('"', file) != npos;
-}
-
 // Where the name that ends at the end of `stretch` begins: behind the quote that is open there, otherwise
 // behind the bracket of the last "file".
 std::optional<std::size_t> beginOfName(std::string_view stretch) {
@@ -169,6 +163,30 @@ std::size_t behindName(std::string_view line, std::size_t end) {
     return next != npos && line[next] == '"' ? next + 1 : end;
 }
 
+// The names of one line, which counts from its first "file" on, if a quote follows that. What looks like the
+// word in a name is none.
+void readLine(std::string_view text, const LineCursor::Line& line, Passages& passages,
+              std::vector<WaveName>& waves) {
+    bool counts = false;
+    std::size_t from = static_cast<std::size_t>(line.text.data() - text.data());
+    text = text.substr(0, from + line.text.size());
+    const std::size_t lastQuote = text.rfind('"');
+    for (std::size_t wave; (wave = findWave(text, from)) != npos;) {
+        const std::size_t end = wave + WaveEnding.size();
+        const std::optional<std::size_t> begin = beginOfName(text.substr(from, wave - from));
+        if (!counts) {
+            const std::size_t file = findWord(text.substr(0, from + begin.value_or(0)), "file", from);
+            counts = file != npos && lastQuote != npos && lastQuote > file;
+        }
+        if (counts && begin && !passages.hold(wave))
+            waves.push_back({{static_cast<std::uint32_t>(text.find_first_not_of(" \t", from + *begin)),
+                              static_cast<std::uint32_t>(end)},
+                             line.text,
+                             line.number});
+        from = behindName(text, end);
+    }
+}
+
 } // namespace
 
 std::vector<WaveName> findWaves(std::string_view text) {
@@ -180,23 +198,8 @@ std::vector<WaveName> findWaves(std::string_view text) {
     LineCursor lines(text);
     while (wave != npos) {
         const LineCursor::Line line = lines.lineOf(wave);
-        const auto lineBegin = static_cast<std::size_t>(line.text.data() - text.data());
-        const std::size_t lineEnd = lineBegin + line.text.size();
-        const bool counts = namesFile(line.text);
-        for (std::size_t from = lineBegin; wave < lineEnd;
-             wave = std::min(findWave(text, from), text.size())) {
-            const std::size_t end = wave + WaveEnding.size();
-            const std::optional<std::size_t> begin = beginOfName(text.substr(from, wave - from));
-            if (counts && begin && !passages.hold(wave)) {
-                const std::size_t first = text.find_first_not_of(" \t", from + *begin);
-                waves.push_back({{static_cast<std::uint32_t>(first), static_cast<std::uint32_t>(end)},
-                                 line.text,
-                                 line.number});
-            }
-            from = counts ? behindName(text.substr(0, lineEnd), end) : lineEnd;
-        }
-        if (wave >= text.size())
-            break;
+        readLine(text, line, passages, waves);
+        wave = findWave(text, line.next);
     }
     return waves;
 }

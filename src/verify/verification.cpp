@@ -47,10 +47,8 @@ class Pass {
 
     PassEnd run() {
         const bool complete = checkFiles() && checkShapes() && checkSounds() && repairSounds();
-        for (const MissingEntry& entry : results_.MissingEntries)
-            (entry.Kind == MissingKind::Texture ? results_.counters.MissingTextures
-                                                : results_.counters.MissingSounds) +=
-                static_cast<int>(entry.Items.size());
+        results_.counters.MissingTextures = countMissing(results_, MissingKind::Texture);
+        results_.counters.MissingSounds = countMissing(results_, MissingKind::Sound);
         frame_.progress.ShowProgress(0, 1, 1, frame_.text(message::VerifyDone, {{"|1", ""}}));
         return complete ? PassEnd::Complete : PassEnd::Cancelled;
     }

@@ -21,7 +21,8 @@ struct CatalogueTest : ::testing::Test, TestFrame {
 
     CatalogueTest() {
         files.put(state.LanguagePath, "[Test]\r\n214=reading\r\n389=engines\r\n390=wagons\r\n498=step\r\n"
-                                      "502=consists\r\n586=limit |2 in |1\r\n804=passed over|1\r\n"
+                                      "446=services\r\n450=activities\r\n502=consists\r\n503=route\r\n586="
+                                      "limit |2 in |1\r\n804=passed over|1\r\n"
                                       "805=|1 of |2 MB\r\n806=and |1 more\r\n");
         state.Language = "Test";
         state.roots.RootMSTS = MstsRoot;

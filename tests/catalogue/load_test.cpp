@@ -10,11 +10,15 @@ constexpr const char* WagonBody =
 TEST_F(CatalogueTest, LoadComesInItsOrderWithItsMarks) {
     putStock("Parc\\loco.eng");
     putConsist("train.con", "train", {"EngineData ( loco Parc )"});
+    files.put(std::string(MstsRoot) + "\\Routes\\Valley\\valley.trk", "Name ( Valley )");
+    files.put(std::string(MstsRoot) + "\\Routes\\Valley\\Services\\up.srv", "Train_Config ( train )");
     state.PrintGreen = true;
     ASSERT_TRUE(LoadCatalogue(frame, catalogue));
-    EXPECT_EQ(progressShown(),
-              (Names{"0-255:0 step", "0-0:0 consists", "0-255:0 step", "0-255:0 step", "0-0:0 engines",
-                     "0-0:0 wagons", "0-255:0 step", "0-0:0 reading loco.eng", "0-255:0 step"}));
+    EXPECT_EQ(
+        progressShown(),
+        (Names{"0-0:0 route Valley", "0-255:0 step", "0-0:0 Valley - services --> up.srv", "0-255:0 step",
+               "0-255:0 step", "0-0:0 consists", "0-255:0 step", "0-255:0 step", "0-0:0 engines",
+               "0-0:0 wagons", "0-255:0 step", "0-0:0 reading loco.eng", "0-255:0 step"}));
     EXPECT_EQ(usage(), Names{"Parc\\loco.eng 1"});
 }
 

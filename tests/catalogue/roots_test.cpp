@@ -9,6 +9,8 @@ struct RootsTest : CatalogueTest {
         putStock("Parc\\voit.wag");
         putStock("Depot\\store.eng", {}, StoreRoot);
         putConsist("train.con", "train", {});
+        files.put(std::string(MstsRoot) + "\\ROUTES\\Valley\\valley.trk", "Name ( Valley )");
+        files.put(std::string(MstsRoot) + "\\ROUTES\\Valley\\SERVICES\\up.srv", "Train_Config ( train )");
         state.MainReady = true;
         LoadCatalogue(frame, catalogue);
     }
@@ -21,12 +23,13 @@ struct RootsTest : CatalogueTest {
 
 TEST_F(RootsTest, GoingToTheOtherRootAndBackReadsNoFileAndCopiesNothing) {
     catalogue.here().ConsistSummaries = {{"A train", "train.con", "1 engine", "ROUTE_YES", true, 1, 0}};
-    catalogue.here().RamesEnService = {"Train.con"};
     catalogue.here().summariesRead = true;
     const Materiel* const stock = catalogue.here().Materiels.data();
     ASSERT_TRUE(goToOther());
     EXPECT_EQ(stockNames(), Names{"Depot\\store.eng"});
     EXPECT_TRUE(catalogue.here().ConsistSummaries.empty());
+    EXPECT_TRUE(catalogue.here().Routes.empty());
+    EXPECT_TRUE(catalogue.here().RamesEnService.empty());
     EXPECT_FALSE(catalogue.here().summariesRead);
 
     files.log.clear();
@@ -37,6 +40,7 @@ TEST_F(RootsTest, GoingToTheOtherRootAndBackReadsNoFileAndCopiesNothing) {
     EXPECT_EQ(catalogue.here().Materiels.data(), stock);
     EXPECT_EQ(catalogue.here().ConsistFiles, Names{"train.con"});
     EXPECT_EQ(catalogue.here().ConsistSummaries[0].Composition, "1 engine");
+    EXPECT_EQ(catalogue.here().Routes[0].Services[0].Rame, "train");
     EXPECT_EQ(catalogue.here().RamesEnService, Names{"Train.con"});
 }
 

@@ -145,6 +145,16 @@ TEST_F(ReadCommands, StockPrintsTheFieldsOfEachFile) {
     }
 }
 
+TEST_F(ReadCommands, StockTellsOfAFileTooLargeToReadInBothWays) {
+    putSim(at("huge.wag"), "Wagon ( Huge\r\n)\r\n");
+    std::filesystem::resize_file(at("huge.wag"), LargestSimFile + 1);
+    for (const Args& args : {Args{"stock", at("huge.wag")}, Args{"stock", "--quick", at("huge.wag")}}) {
+        const Ran ran = run(args);
+        EXPECT_EQ(ran.exitCode, 1);
+        EXPECT_EQ(ran.json()[0]["error"]["number"], FileTooLarge);
+    }
+}
+
 TEST_F(ReadCommands, StockTellsWhatIsWrongWithAFileAndGoesOn) {
     putSim(at("poor.wag"), "Wagon ( Poor\r\n Type ( Freight )\r\n Coupling ( Type ( Bar ) )\r\n)\r\n");
     putBytes(at("binary.eng"), std::string("\0\1\2SIMISA", 9));

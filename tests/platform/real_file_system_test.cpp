@@ -260,6 +260,33 @@ TEST_F(RealDisk, AReadTellsWhatStandsAgainstIt) {
     EXPECT_EQ(megabytesOf(*files, sim("small")), "1");
 }
 
+TEST_F(RealDisk, TheBeginningOfAFileIsReadAlone) {
+    disk::create_directory(native("folder"));
+    ASSERT_EQ(mkfifo(native("pipe").c_str(), 0600), 0);
+    disk::create_symlink("/dev/null", native("null"));
+    make("empty", "");
+    make("large", std::string(1 << 20, 'a') + std::string(2 << 20, 'b'));
+    const struct {
+        const char* name;
+        std::size_t count;
+        ReadResult result;
+        std::size_t size;
+    } cases[] = {{"LARGE", 10, ReadResult::Done, 10},
+                 {"large", (1 << 20) + 1, ReadResult::Done, (1 << 20) + 1},
+                 {"large", 4 << 20, ReadResult::Done, 3 << 20},
+                 {"empty", 10, ReadResult::Done, 0},
+                 {"folder", 10, ReadResult::Unreadable, 0},
+                 {"pipe", 10, ReadResult::Unreadable, 0},
+                 {"null", 10, ReadResult::Unreadable, 0},
+                 {"none", 10, ReadResult::Missing, 0}};
+    for (const auto& c : cases) {
+        std::string bytes = "rest of an earlier file";
+        EXPECT_EQ(files->readStart(sim(c.name), bytes, c.count), c.result) << c.name;
+        EXPECT_EQ(bytes.size(), c.size) << c.name;
+        EXPECT_TRUE(bytes.empty() || bytes.back() == (c.size > (1 << 20) ? 'b' : 'a'));
+    }
+}
+
 TEST_F(RealDisk, WritingKeepsTheSpellingOnTheDisk) {
     make("Dir/Old.con", "old");
     EXPECT_TRUE(replaceFile(*files, sim("DIR/OLD.CON"), "1"));

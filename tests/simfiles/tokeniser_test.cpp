@@ -191,14 +191,13 @@ TEST_F(SimFixture, ADescriptionNamesItsShapeWhereverItsBracketCloses) {
     };
     for (const Row& row : {Row{"\r\nshape ( a b.s\r\n\tESD_Detail_Level ( 0 )\r\n)\r\n", "a b.s", 3},
                            {"Shape ( \"a.s\" )\r\nESD_Detail_Level ( 0 )\r\n", "\"a.s\"", 2},
-                           {"SHAPE ( a.s ESD_Detail_Level ( 0 )\r\n)", "a.s", 2},
                            {"shape (\r\n\ta.s\r\n\tESD_Detail_Level ( 0 )\r\n)", "a.s", 3},
                            {"ESD_Detail_Level ( 0 )\r\nOther ( shape ( b.s ) )\r\n", "", 0}}) {
         files.put("\\a.sd", utf16(signed_(row.body, FileKind::ShapeDescription)));
-        const std::optional<SimHit> shape = shapeOfDescription(reader, "\\a.sd");
+        const std::optional<SimKey> shape = shapeOfDescription(reader, "\\a.sd");
         ASSERT_EQ(shape.has_value(), row.line > 0) << row.body;
         EXPECT_EQ(shape ? shape->Value : "", row.shape);
-        EXPECT_EQ(shape ? shape->FirstLine : 0, row.line);
+        EXPECT_EQ(shape ? shape->Line : 0, row.line);
     }
     EXPECT_FALSE(shapeOfDescription(reader, "\\none.sd"));
 }

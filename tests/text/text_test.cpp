@@ -130,6 +130,21 @@ TEST(Lines, EveryKindOfLineEndCounts) {
     EXPECT_EQ(linesOf(""), Lines{});
 }
 
+TEST(Lines, ACursorCountsTheLinesThatItPasses) {
+    for (const std::string_view text : {"a\r\nb\nc\rd", "a\r\n\r\nb", "a\n\rb\r", "\r\r\n", "abc"})
+        for (std::size_t first = 0; first < text.size(); ++first) {
+            std::vector<std::string> lines;
+            forEachLine(text, [&](std::string_view line) { lines.emplace_back(line); });
+            LineCursor cursor(text);
+            const bool inPair = first > 0 && text.substr(first - 1).starts_with("\r\n");
+            for (std::size_t at = first; !inPair && at < text.size();) {
+                const LineCursor::Line line = cursor.lineOf(at);
+                EXPECT_EQ(line.text, lines.at(static_cast<std::size_t>(line.number) - 1)) << text << first;
+                at = line.next;
+            }
+        }
+}
+
 TEST(Tokens, TheLastOneIsTheLength) {
     EXPECT_EQ(lastToken("3m 4m 18.5m"), "18.5m");
     EXPECT_EQ(lastToken(" 18.5m  "), "18.5m");

@@ -39,6 +39,7 @@ TEST(SoundScan, FindsTheNamesOfWaves) {
         {"Skip (\nFile ( \"a.wav\"", {"a.wav|3"}},
         {"File ( \"skip.wav\" ) File ( \"comment (1).wav\" )", {"skip.wav|2", "comment (1).wav|2"}},
         {"File ( \"\" .wav", {".wav|2"}},
+        {"\"file\\.wav\" )", {}},
         {"", {}},
     };
     for (const Row& row : rows)
@@ -52,8 +53,8 @@ TEST(SoundScan, GarbageEndsQuickly) {
             all += text;
         return all;
     };
-    for (const char* garbage : {"skip(", "comment ( .wav", "file (\"x.wav", ".wav", "skip ( \"", "skip\n(\n",
-                                "\"", "skip (\nfile \".wav\n"})
+    for (const char* garbage : {"skip(", "comment ( .wav", "file (\"x.wav", "file (x.wav ", ".wav",
+                                "skip ( \"", "skip\n(\n", "\"", "skip (\nfile \".wav\n"})
         wavesOf(repeated(garbage) + ")");
 }
 

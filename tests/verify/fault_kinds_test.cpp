@@ -8,9 +8,9 @@ namespace {
 struct FaultKinds : ::testing::Test {
     VerifResults results;
     static constexpr FaultKind Unknown{FaultGroup::Line, message::ValueUnknownShort.number},
-        Missing{FaultGroup::Line, message::NamedFileMissingShort.number}, Mandatory{FaultGroup::MandatoryKey, 0},
-        Texture{FaultGroup::MissingTexture, 0}, Sound{FaultGroup::MissingSound, 0},
-        Duplicate{FaultGroup::Duplicate, 0};
+        Missing{FaultGroup::Line, message::NamedFileMissingShort.number},
+        Mandatory{FaultGroup::MandatoryKey, 0}, Texture{FaultGroup::MissingTexture, 0},
+        Sound{FaultGroup::MissingSound, 0}, Duplicate{FaultGroup::Duplicate, 0};
 
     static ErrorLine fault(const FaultKind& kind, std::string value) {
         ErrorLine line;
@@ -22,12 +22,18 @@ struct FaultKinds : ::testing::Test {
     }
     FaultKinds() {
         results.InvalidFiles = {
-            {"C:\\T\\", "Coal", "hopper.wag", "Ore Hopper", {fault(Unknown, "Fright"), fault(Unknown, "Bra")}},
+            {"C:\\T\\",
+             "Coal",
+             "hopper.wag",
+             "Ore Hopper",
+             {fault(Unknown, "Fright"), fault(Unknown, "Bra")}},
             {"C:\\T\\", "Coal", "van.wag", "Van", {fault(Missing, "Élan.sms")}},
             {"C:\\T\\", "Post", "mail.wag", "Mail", {fault(Missing, "x.s"), fault(Unknown, "y")}}};
-        results.mandatory = {{"Coal", "Van.wag", "Mass"}, {"coal", "van.wag", "Size"}, {"Post", "z.wag", "Mass"}};
-        results.MissingEntries = {{MissingKind::Texture, "Coal\\a.s", "", "", {{"1.ace", "", 1}, {"2.ace", "", 2}}},
-                                  {MissingKind::Sound, "Coal\\Sound\\b.sms", "b.sms", "C:\\", {{"w.wav", "", 3}}}};
+        results.mandatory = {
+            {"Coal", "Van.wag", "Mass"}, {"coal", "van.wag", "Size"}, {"Post", "z.wag", "Mass"}};
+        results.MissingEntries = {
+            {MissingKind::Texture, "Coal\\a.s", "", "", {{"1.ace", "", 1}, {"2.ace", "", 2}}},
+            {MissingKind::Sound, "Coal\\Sound\\b.sms", "b.sms", "C:\\", {{"w.wav", "", 3}}}};
         results.DuplicateEntries = {{"Coal\\van.wag", {"Post\\van.wag", "Old\\van.wag"}}};
     }
 };
@@ -53,8 +59,8 @@ TEST_F(FaultKinds, AFilterLetsThroughItsKindAndItsText) {
     };
     for (const Case& one : {Case{{}, "", {0, 1, 2}}, Case{Unknown, "", {0, 2}}, Case{Missing, "", {1, 2}},
                             Case{Mandatory, "", {1}}, Case{{}, "HOPPER", {0}}, Case{{}, "coal\\van", {1}},
-                            Case{{}, "éLAN", {1}}, Case{{}, "wagon\\type", {0, 1, 2}}, Case{Unknown, "coal", {0}},
-                            Case{{}, "VanSummary", {}}, Case{Texture, "", {}}})
+                            Case{{}, "éLAN", {1}}, Case{{}, "wagon\\type", {0, 1, 2}},
+                            Case{Unknown, "coal", {0}}, Case{{}, "VanSummary", {}}, Case{Texture, "", {}}})
         EXPECT_EQ(finder.invalidFiles({one.kind, one.text}), one.files) << one.text;
     EXPECT_EQ(finder.missingEntries({Sound, ""}), Positions{1});
     EXPECT_EQ(finder.missingEntries({{}, "2.ACE"}), Positions{0});

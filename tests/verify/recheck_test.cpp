@@ -78,6 +78,7 @@ TEST_F(Recheck, AConsistIsCheckedByItsPath) {
     putConsist("used.con", "a F");
     EXPECT_EQ(RecheckAfterEdit(work, catalogue, std::string(Consists) + "used.con"), std::nullopt);
     EXPECT_EQ(invalid(), (Names{"a.wag", "b.wag", "c.wag"}));
+    EXPECT_EQ(countOf("gone.wag"), 1); // of the other consist
 }
 
 TEST_F(Recheck, TheEditorIsWaitedForAndAChangedFileIsCheckedAgain) {
@@ -126,7 +127,8 @@ TEST_F(Recheck, AnEditorThatDoesNotStartGivesWayToTheNextOne) {
     state.ExecutableFolder = "\\usr\\bin";
     for (const char* path : {"\\program\\Skrivo.exe", "\\usr\\bin\\Skrivo", "\\program\\Skrivo"})
         files.put(path, "");
-    EXPECT_EQ(editorPrograms(frame), (Names{"\\program\\Skrivo.exe", "\\program\\Skrivo", "\\usr\\bin\\Skrivo"}));
+    EXPECT_EQ(editorPrograms(frame),
+              (Names{"\\program\\Skrivo.exe", "\\program\\Skrivo", "\\usr\\bin\\Skrivo"}));
     processes.works = false;
     EXPECT_EQ(edit("a.wag").told.at(0).message, message::EditorFailed);
     EXPECT_EQ(processes.started.size(), 3u);

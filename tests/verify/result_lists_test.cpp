@@ -95,6 +95,7 @@ TEST_F(ResultLists, NoLeavesEverythingAsItWas) {
     EXPECT_EQ(move({used}), 0);
     dialogs.answers = {answer::Yes, answer::No}; // deleted, but not while a service runs it
     EXPECT_EQ(remove({used}), 0);
+    EXPECT_NE(dialogs.shown.back().text.find("The line"), std::string::npos) << "the route that needs it";
     EXPECT_EQ(files.allFiles(), before);
     EXPECT_EQ(invalid(), listed);
     EXPECT_TRUE(told.empty());
@@ -118,7 +119,8 @@ TEST_F(ResultLists, ATakenNameAndAReadOnlyFileStayAndAreTold) {
 }
 
 TEST_F(ResultLists, AFileMovedOntoItselfIsNotLost) {
-    for (const char* spelling : {"C:\\MSTS\\TRAINS\\TRAINSET\\F\\A.WAG", "c:\\msts\\trains\\..\\TRAINS\\TRAINSET\\f\\a.wag"}) {
+    for (const char* spelling :
+         {"C:\\MSTS\\TRAINS\\TRAINSET\\F\\A.WAG", "c:\\msts\\trains\\..\\TRAINS\\TRAINSET\\f\\a.wag"}) {
         dialogs.saveFile = spelling;
         EXPECT_EQ(move({0}), 0);
         EXPECT_TRUE(files.get(wagonPath("a.wag")));
@@ -126,16 +128,16 @@ TEST_F(ResultLists, AFileMovedOntoItselfIsNotLost) {
     }
 }
 
-// At every call, for good or only this once: each file stands whole in one place or the other, and a record goes
-// only with its file.
+// At every call, for good or only this once: each file stands whole in one place or the other, and a record
+// goes only with its file.
 TEST_F(ResultLists, NothingIsLostWhenTheDiskFailsAtAnyCall) {
     struct Case {
         const char* name;
         std::vector<int> chosen;
         bool deletes;
     };
-    for (const Case& one : {Case{"move one", {0}, false}, Case{"move several", {0, 1, 2}, false},
-                            Case{"delete", {0, 2}, true}})
+    for (const Case& one :
+         {Case{"move one", {0}, false}, Case{"move several", {0, 1, 2}, false}, Case{"delete", {0, 2}, true}})
         for (const bool forGood : {false, true})
             for (int call = 1;; ++call) {
                 FreshTree other;

@@ -38,8 +38,10 @@ struct ResultsTest : ::testing::Test, TestFrame {
         putWagon("sound.wag", "Freight");
         putConsist("used.con", "gone F");
         putConsist("lonely.con", "gone F");
+        work.places = placesOf(state.roots);
         LoadCatalogue(frame, catalogue, ReadOnlyLoad);
         catalogue.here().RamesEnService = {"USED.con"};
+        catalogue.here().Routes = {{"The line", "LINE\\", {{"", "s", "used"}}, {}}};
         initialiseDocument(editor);
         dialogs.shown.clear();
         for (const char* name : {"a.wag", "b.wag", "c.wag", "sound.wag"})
@@ -56,7 +58,8 @@ struct ResultsTest : ::testing::Test, TestFrame {
     }
     void putConsist(std::string_view name, std::string_view wagon) {
         files.put(Consists + std::string(name),
-                  simText("Train (\r\n\tTrainCfg ( x\r\n\t\tWagon (\r\n\t\t\tWagonData ( " + std::string(wagon) +
+                  simText("Train (\r\n\tTrainCfg ( x\r\n\t\tWagon (\r\n\t\t\tWagonData ( " +
+                          std::string(wagon) +
                           " )\r\n\t\t\tUiD ( 0 )\r\n\t\t)\r\n\t\tWagon (\r\n\t\t\tWagonData ( a F )\r\n" +
                           "\t\t\tUiD ( 1 )\r\n\t\t)\r\n\t)\r\n)\r\n"));
     }

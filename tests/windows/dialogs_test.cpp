@@ -187,9 +187,10 @@ struct HelpWindow : FrameWindow {
 };
 
 TEST_F(HelpWindow, EveryContextHasAPageInBothLanguagesAndEveryLinkLeadsSomewhere) {
-    for (const int context : {helpContext::Main, helpContext::OpenConsist, helpContext::Messages,
-                              helpContext::Folders, helpContext::Stock, helpContext::Couplings,
-                              helpContext::Saving, helpContext::Verify, helpContext::Settings, helpContext::Keyboard}) {
+    for (const int context :
+         {helpContext::Main, helpContext::OpenConsist, helpContext::Messages, helpContext::Folders,
+          helpContext::Stock, helpContext::Couplings, helpContext::Saving, helpContext::Verify,
+          helpContext::Settings, helpContext::Keyboard}) {
         EXPECT_TRUE(exists("fr", context)) << context;
         EXPECT_TRUE(exists("en", context)) << context;
     }

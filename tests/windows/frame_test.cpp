@@ -2,11 +2,17 @@
 #include "app/launch_options.h"
 #include "frame/windows/qt_dialogs.h"
 #include "frame/windows/qt_progress.h"
+#include "frame/windows/qt_text.h"
 #include "frame/windows/splash.h"
 #include "frame/windows/toolkit_language.h"
+#include "support/fakes.h"
 
+#include <QApplication>
+#include <QComboBox>
 #include <QElapsedTimer>
 #include <QKeySequence>
+#include <QLineEdit>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
 
@@ -29,6 +35,34 @@ TEST(FileDialogFilter, IsTurnedIntoTheToolkitsForm) {
     EXPECT_EQ(fileDialogFilter("Programmes (*.exe)|*.exe"), "Programmes (*.exe)");
     EXPECT_EQ(fileDialogFilter("Rames|*.con"), "Rames (*.con)");
     EXPECT_EQ(fileDialogFilter("Stock|*.eng;*.wag"), "Stock (*.eng *.wag)");
+}
+
+// A name is typed, after so many steps down the list of kinds.
+std::optional<std::string> saveName(const QString& folder, const char* name, int steps) {
+    TestFrame test;
+    QtDialogs dialogs(test.state, test.profiles);
+    QTimer::singleShot(10, qApp, [name, steps] {
+        QWidget* dialog = QApplication::activeModalWidget();
+        ASSERT_TRUE(dialog);
+        auto* kinds = dialog->findChild<QComboBox*>("fileTypeCombo");
+        auto* edit = dialog->findChild<QLineEdit*>("fileNameEdit");
+        ASSERT_TRUE(kinds && edit);
+        for (int i = 0; i < steps; ++i)
+            QTest::keyClick(kinds, Qt::Key_Down);
+        EXPECT_EQ(edit->text(), "proposed");
+        edit->setText(name);
+        QTest::keyClick(edit, Qt::Key_Return);
+    });
+    return dialogs.askSaveFile("Save", "Rich text (*.rtf)|*.rtf|Text (*.txt)|*.txt", fromQt(folder),
+                               "proposed", ".rtf");
+}
+
+TEST(SaveDialog, GivesANameTheExtensionOfTheKindThatIsChosen) {
+    const QTemporaryDir folder;
+    const std::string path = pathFromQt(folder.path() + "/");
+    EXPECT_EQ(saveName(folder.path(), "list", 0), path + "list.rtf");
+    EXPECT_EQ(saveName(folder.path(), "list", 1), path + "list.txt");
+    EXPECT_EQ(saveName(folder.path(), "list.log", 1), path + "list.log");
 }
 
 struct CountingView final : ProgressView {

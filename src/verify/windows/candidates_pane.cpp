@@ -180,7 +180,7 @@ void CandidatesPane::applyLanguage() {
     tbFILTER_->setAccessibleName(tbFILTER_->placeholderText());
     lstFILES_->setAccessibleName(grpFILES_->title());
     lstFILES_->rows().setTitles(
-        {toQt(frame.text(message::ColumnFile)), toQt(frame.text(message::ColumnStockFolder))});
+        {toQt(frame.text(message::ColumnFile)), toQt(frame.text(message::ColumnCandidateFolder))});
     showRows();
 }
 

@@ -186,12 +186,12 @@ void InvalidPane::applyLanguage() {
     captionInput(*lblFILES_, textOr(frame, message::InvalidFilesLabel, "Fichiers invalides :"));
     captionInput(*lblLINES_, textOr(frame, message::InvalidKeysLabel, "Clés invalides :"));
     lstFILES_INVALIDES_->rows().setTitles({toQt(frame.text(message::ColumnFile)),
-                                           toQt(frame.text(message::ColumnStockFolder)),
+                                           toQt(frame.text(message::ColumnCandidateFolder)),
                                            toQt(frame.text(message::ColumnFaults))});
     lstLINES_ERROR_->rows().setTitles(
         {toQt(frame.text(message::ColumnFault)), toQt(frame.text(message::ColumnLine))});
     txtFILE_->setAccessibleName(toQt(frame.text(message::FileText)));
-    txtFILE_->setUnreadableHint(toQt(frame.text(message::FileUnreadable)));
+    txtFILE_->setUnreadableHint(toQt(frame.text(message::FileTextUnreadable)));
     cmdCORRECT_->setToolTip(QKeySequence(Qt::Key_Return).toString(QKeySequence::NativeText));
     cmdNEXT_->setToolTip(QKeySequence(Qt::Key_F8).toString(QKeySequence::NativeText));
     cmdDELETE_->setToolTip(QKeySequence(Qt::Key_Delete).toString(QKeySequence::NativeText));

@@ -1,4 +1,5 @@
-// Files that have gone from the disk: the catalogue, the use counts and the consist under edit follow.
+// Files that others than the editor have changed or taken from the disk: the catalogue, the use counts and
+// the consist under edit follow.
 #pragma once
 
 #include "editor/consist_document.h"
@@ -23,5 +24,8 @@ void forgetFiles(Editor& editor, const std::vector<GoneFile>& gone);
 
 // A consist file that has come to stand in the folder of one of the roots; any other path is passed over.
 void noteConsistFile(Editor& editor, std::string_view path);
+
+// A consist that has changed. One that can't be read any more counts as it did.
+void rereadConsist(Frame& frame, Catalogue& catalogue, std::string_view path);
 
 } // namespace zandor

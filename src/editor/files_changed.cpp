@@ -1,4 +1,4 @@
-#include "editor/files_gone.h"
+#include "editor/files_changed.h"
 
 #include "catalogue/name_key.h"
 #include "editor/editor_parts.h"
@@ -81,14 +81,6 @@ void forgetStock(Editor& editor, Root root, const std::vector<StockPair>& gone) 
 
 // ---- consists
 
-void releaseStock(Editor& editor, const ConsistEntry& entry) {
-    if (!editor.frame.state.PrintGreen)
-        return;
-    for (const StockPair& pair : entry.Items)
-        if (StockUse* use = findStockUse(editor.catalogue, pair.Folder, pair.FileName); use && use->Count > 0)
-            --use->Count;
-}
-
 // Its stock has been released: a save of it counts all anew.
 void forgetUnderEdit(Editor& editor, const std::string& folder, const NameSet& gone) {
     ConsistDocument& document = editor.document;
@@ -104,8 +96,8 @@ void forgetConsists(Editor& editor, Root root, const NameSet& gone) {
     forgetSummaries(editor.catalogue.of(root));
     std::erase_if(editor.catalogue.ConsistIndex, [&](const ConsistEntry& entry) {
         const bool leaves = isGone(entry.FileName) && equalIgnoringCase(entry.FolderPath, folder);
-        if (leaves)
-            releaseStock(editor, entry);
+        if (leaves && editor.frame.state.PrintGreen)
+            countDifference(editor.catalogue, entry.Items, {});
         return leaves;
     });
     forgetUnderEdit(editor, folder, gone);
@@ -139,6 +131,29 @@ void noteConsistFile(Editor& editor, std::string_view path) {
             catalogue.ConsistFiles.push_back(name);
         forgetSummaries(catalogue);
     }
+}
+
+void rereadConsist(Frame& frame, Catalogue& catalogue, std::string_view path) {
+    forgetSummaries(catalogue.simulator);
+    forgetSummaries(catalogue.store);
+    if (!frame.state.PrintGreen)
+        return;
+    const auto entry = std::ranges::find_if(catalogue.ConsistIndex, [path](const ConsistEntry& known) {
+        return equalIgnoringCase(known.FolderPath + known.FileName, path);
+    });
+    if (entry == catalogue.ConsistIndex.end())
+        return;
+    SimReader reader(frame.files);
+    Rame rame;
+    std::vector<RameItem> items;
+    if (!ReadConsistFile(reader, rame, items, path).accepted())
+        return;
+    std::vector<StockPair> stock;
+    for (const RameItem& item : items)
+        stock.push_back({stockFileOf(item), item.Folder});
+    countDifference(catalogue, entry->Items, stock);
+    entry->Items = std::move(stock);
+    entry->DisplayName = rame.Name.empty() ? rame.CfgName : rame.Name;
 }
 
 } // namespace zandor
