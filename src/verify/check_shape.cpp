@@ -1,9 +1,6 @@
 #include "platform/sim_path.h"
-#include "text/decode.h"
-#include "text/text.h"
 #include "verify/checks.h"
 #include "verify/missing_list.h"
-#include "verify/shape_scan.h"
 #include "verify/signed_text.h"
 
 namespace zandor {
@@ -17,10 +14,10 @@ class TextureCheck {
     TextureCheck(VerifWork& work, const CheckTarget& target)
         : work_(work), target_(target), fileFolder_(target.Dir + std::string(folderPart(target.File))) {}
 
-    void test(std::string_view name, std::string_view line, int number) {
-        const std::string_view plain = StripQuotes(name);
+    void test(const NamedFile& named) {
+        const std::string_view plain = StripQuotes(named.name);
         if (!isIn(target_.Dir, plain) && (fileFolder_ == target_.Dir || !isIn(fileFolder_, plain)))
-            add({std::string(name), shownLine(line), number});
+            add({named.name, shownLine(named.line), named.number});
     }
     void add(MissingItem item) {
         missingEntryOf(work_.results, MissingKind::Texture, target_).Items.push_back(std::move(item));
@@ -28,48 +25,32 @@ class TextureCheck {
 
   private:
     bool isIn(const std::string& folder, std::string_view name) {
-        return work_.onDisk.fileExists(folder + std::string(name));
+        path_.assign(folder).append(name);
+        return work_.onDisk.fileExists(path_);
     }
 
     VerifWork& work_;
     const CheckTarget& target_;
     std::string fileFolder_;
+    std::string path_; // storage used again
 };
 
-void checkCabView(VerifWork& work, const std::string& path, TextureCheck& textures) {
-    // Read whole: keys whose blocks are left out would be taken for one and the same.
-    if (!work.reader.ReadSimFile(path).accepted())
-        return;
-    for (const SimKey& key : work.reader.SimKeys)
-        if (endsWithIgnoringCase(StripQuotes(key.Value), ".ace"))
-            textures.test(key.Value, key.Tail, key.Line);
-}
-
-void checkShape(VerifWork& work, const std::string& path, const std::string& owner, TextureCheck& textures) {
-    switch (readSignedText(work.frame.files, path, FileKind::Shape, work.bytes)) {
-    case SignedText::Unfit:
-        return;
-    case SignedText::Empty:
-        return textures.add({owner, EmptyFileMark, 0});
-    case SignedText::Read:
-        break;
-    }
-    decodeSimulatorText(work.bytes, work.text);
-    for (const ShapeImage& image : findImages(work.text))
-        textures.test(shownLine(image.name), image.line, image.number);
-}
-
 } // namespace
+
+void checkShapeReading(VerifWork& work, const CheckTarget& target, const TargetReading& reading) {
+    TextureCheck textures(work, target);
+    if (reading.outcome == SignedText::Empty)
+        textures.add({ownerOf(target), EmptyFileMark, 0});
+    for (const NamedFile& named : reading.named)
+        textures.test(named);
+}
 
 void CheckShapeFile(VerifWork& work, const CheckTarget& target) {
     if (!beginExamination(work, target))
         return;
-    const std::string path = target.Dir + target.File;
-    TextureCheck textures(work, target);
-    if (endsWithIgnoringCase(path, ".s"))
-        checkShape(work, path, ownerOf(target), textures);
-    else
-        checkCabView(work, path, textures);
+    TargetReading reading;
+    work.targetReader.read(MissingKind::Texture, target, reading);
+    checkShapeReading(work, target, reading);
 }
 
 } // namespace zandor

@@ -1,11 +1,9 @@
 #include "platform/letter_case.h"
 #include "platform/sim_path.h"
-#include "text/decode.h"
 #include "verify/checks.h"
 #include "verify/missing_list.h"
 #include "verify/signed_text.h"
 #include "verify/sound_places.h"
-#include "verify/sound_scan.h"
 
 namespace zandor {
 
@@ -17,7 +15,8 @@ class WaveCheck {
     WaveCheck(VerifWork& work, const CheckTarget& target)
         : work_(work), target_(target), places_(work.onDisk, work.places.sounds, target) {}
 
-    void test(const std::string& name, const WaveName& wave) {
+    void test(const NamedFile& wave) {
+        const std::string& name = wave.name;
         if (const std::string_view folder = folderPart(name); !folder.empty())
             earlierFolder_ = folder;
         if (!isFound(name))
@@ -35,7 +34,7 @@ class WaveCheck {
     }
 
     // Several waves of one line make one item.
-    void add(std::string name, const WaveName& wave) {
+    void add(std::string name, const NamedFile& wave) {
         std::vector<MissingItem>& items = missingEntryOf(work_.results, MissingKind::Sound, target_).Items;
         if (!items.empty() && items.back().Line == wave.number)
             items.back().Name += "     -     " + name;
@@ -51,16 +50,18 @@ class WaveCheck {
 
 } // namespace
 
+void checkSoundReading(VerifWork& work, const CheckTarget& target, const TargetReading& reading) {
+    WaveCheck check(work, target);
+    for (const NamedFile& wave : reading.named)
+        check.test(wave);
+}
+
 void CheckSoundFile(VerifWork& work, const CheckTarget& target) {
     if (!beginExamination(work, target))
         return;
-    if (readSignedText(work.frame.files, target.Dir + target.File, FileKind::Sound, work.bytes) !=
-        SignedText::Read)
-        return;
-    decodeSimulatorText(work.bytes, work.text);
-    WaveCheck check(work, target);
-    for (const WaveName& wave : findWaves(work.text))
-        check.test(textOf(work.text, wave), wave);
+    TargetReading reading;
+    work.targetReader.read(MissingKind::Sound, target, reading);
+    checkSoundReading(work, target, reading);
 }
 
 } // namespace zandor

@@ -1,5 +1,4 @@
 #include "catalogue/catalogue.h"
-#include "simfiles/shape_description.h"
 #include "verify/checks.h"
 #include "verify/messages.h"
 #include "verify/quote_repair.h"
@@ -31,19 +30,10 @@ constexpr MandatoryKey MandatoryKeys[] = {{"Wagon", "Size", "Size"},
                                           {"Wagon", "Mass", "Mass"},
                                           {"Wagon", "Type", "Type"}};
 
-// Behind the first ".s": numbers and remarks may follow a freight's shape.
-std::string_view upToShape(std::string_view value) {
-    for (std::size_t i = 0; i + 1 < value.size(); ++i)
-        if (value[i] == '.' && letterIs(value[i + 1], 's'))
-            return value.substr(0, i + 2);
-    return value;
-}
-
 const DescribedShape& describedShape(VerifWork& work, const std::string& path) {
     const auto [found, isNew] = work.descriptions.try_emplace(lowerCase(path));
     if (isNew)
-        if (const std::optional<SimKey> key = shapeOfDescription(work.reader, path))
-            found->second = {true, std::string(StripQuotes(key->Value)), std::string(key->Tail), key->Line};
+        found->second = readDescription(work.reader, path);
     return found->second;
 }
 
@@ -144,10 +134,8 @@ class StockCheck {
             reportMissing(hit, value);
     }
 
-    void testShape(const SimHit& hit, Values) { testShapeFile(hit, StripQuotes(hit.Value)); }
-    void testFreight(const SimHit& hit, Values) { testShapeFile(hit, upToShape(StripQuotes(hit.Value))); }
-
-    void testShapeFile(const SimHit& hit, std::string_view value) {
+    void testShape(const SimHit& hit, Values) {
+        const std::string_view value = shapeNamedBy(hit);
         const std::string path = beside_ + std::string(value);
         if (work_.onDisk.fileExists(path + "d"))
             descriptions_.push_back(path + "d");
@@ -227,8 +215,16 @@ const std::array<StockCheck::KeyTest, 19> StockCheck::Tests{{
     {"Wagon", "Thumbnail", &StockCheck::testThumbnail},
     {"Wagon", "WagonShape", &StockCheck::testShape},
     {"Wagon\\Inside", "PassengerCabinFile", &StockCheck::testShape},
-    {"Wagon", "FreightAnim", &StockCheck::testFreight},
+    {"Wagon", "FreightAnim", &StockCheck::testShape},
 }};
+
+bool wasOpened(const StockToCheck& reading) {
+    return reading.outcome != ReadOutcome::NoFile && reading.outcome != ReadOutcome::Unreadable;
+}
+
+bool needsQuotes(const VerifWork& work, const StockToCheck& reading) {
+    return work.options.RepairQuotes && std::ranges::any_of(reading.hits, lacksQuotes);
+}
 
 } // namespace
 
@@ -243,16 +239,23 @@ VerifPlaces placesAround(const Roots& roots, const std::string& basePath) {
 
 void CheckStockFile(VerifWork& work, std::string_view folder, std::string_view file) {
     const std::string path = work.places.stock + std::string(folder) + "\\" + std::string(file);
-    ReadRequest request;
-    request.count = 0;
-    request.stockMode = true;
-    const ReadAnswer answer = work.reader.ReadSimFile(path, request);
-    if (answer.outcome == ReadOutcome::NoFile || answer.outcome == ReadOutcome::Unreadable)
+    StockToCheck reading;
+    readStock(work.reader, path, reading);
+    if (!wasOpened(reading))
         return;
-    std::vector<SimHit> hits = std::move(work.reader.SimHits);
-    if (work.options.RepairQuotes && std::ranges::any_of(hits, lacksQuotes))
-        repairQuotes(work, path, hits);
-    StockCheck(work, folder, file).run(hits);
+    if (needsQuotes(work, reading))
+        repairQuotes(work, path, reading.hits);
+    StockCheck(work, folder, file).run(reading.hits);
+}
+
+bool checkReadStock(VerifWork& work, std::string_view folder, std::string_view file, StockToCheck& reading) {
+    if (reading.outcome == ReadOutcome::NoMemory || needsQuotes(work, reading))
+        return false;
+    for (auto& [path, shape] : reading.descriptions)
+        work.descriptions.try_emplace(std::move(path), std::move(shape));
+    if (wasOpened(reading))
+        StockCheck(work, folder, file).run(reading.hits);
+    return true;
 }
 
 } // namespace zandor

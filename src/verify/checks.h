@@ -4,6 +4,7 @@
 
 #include "frame/frame.h"
 #include "simfiles/sim_file.h"
+#include "verify/file_readings.h"
 #include "verify/pass_files.h"
 #include "verify/verify_records.h"
 
@@ -25,14 +26,6 @@ VerifPlaces placesOf(const Roots& roots);
 // Stock that lies anywhere: what it names lies beside it.
 VerifPlaces placesAround(const Roots& roots, const std::string& basePath);
 
-// The shape that a shape description names.
-struct DescribedShape {
-    bool found = false;
-    std::string value; // without quotes
-    std::string tail;
-    int line = 0; // from 1
-};
-
 // What the checks of one pass share.
 struct VerifWork {
     Frame& frame;
@@ -42,11 +35,11 @@ struct VerifWork {
     VerifQueues queues{};
     PassFiles onDisk{frame.files};
     SimReader reader{frame.files};
+    TargetReader targetReader{frame.files};
 
     std::unordered_map<std::string, DescribedShape> descriptions{}; // by path, lower case
     bool showsQuoteFailures = true, showsMandatory = true;          // until the user has seen enough of them
     std::unordered_set<std::string> examined{}; // owners of shapes, cab views and sound sets, lower case
-    std::string bytes{}, text{};                // of the file in hand; storage used again
 };
 
 // What a check of a consist is for: to list its faults, or only to tell whether there is one.
@@ -60,10 +53,16 @@ bool CheckConsistFile(VerifWork& work, std::string_view file, Quiet quiet = Quie
 // goes through Dialogs::showRepeated. A file that can't be opened adds nothing; one that isn't stock lacks
 // all keys.
 void CheckStockFile(VerifWork& work, std::string_view folder, std::string_view file);
+// The same for one that was read already. False when it must be read once more, now: its quotes are to be
+// repaired, or no memory was left for it.
+bool checkReadStock(VerifWork& work, std::string_view folder, std::string_view file, StockToCheck& reading);
 // A text shape or a cab view: the textures that it names. A shape that isn't text is passed over.
 void CheckShapeFile(VerifWork& work, const CheckTarget& target);
 // A sound set: the waves that it names.
 void CheckSoundFile(VerifWork& work, const CheckTarget& target);
+// The same for files that were read already, and that this pass hasn't looked into before.
+void checkShapeReading(VerifWork& work, const CheckTarget& target, const TargetReading& reading);
+void checkSoundReading(VerifWork& work, const CheckTarget& target, const TargetReading& reading);
 
 void AddInvalidFile(VerifResults& results, InvalidFile file);
 void AddErrorLine(VerifResults& results, ErrorLine line); // to the last invalid file

@@ -1,6 +1,5 @@
 #include "verify/pass_files.h"
 
-#include "platform/letter_case.h"
 #include "platform/sim_path.h"
 
 namespace zandor {
@@ -27,12 +26,28 @@ const PassFiles::Folder& PassFiles::folder(const std::string& path) {
     if (!isNew)
         return folder;
     folder.entries = files_.listFolder(path);
+    folder.files.reserve(folder.entries.size());
     for (const FolderEntry& entry : folder.entries)
         (entry.isFolder ? folder.folders : folder.files).insert(lowerCase(entry.name));
     return folder;
 }
 
+// nullptr: what the path leads to isn't told by these two.
+const PassFiles::Folder* PassFiles::folderAbove(std::string_view path, std::string_view name) {
+    if (name.empty() || name.size() == path.size() || name == "." || name == "..")
+        return nullptr;
+    const std::string_view text = path.substr(0, path.size() - name.size());
+    const auto known = asAsked_.find(text);
+    if (known != asAsked_.end())
+        return known->second;
+    const SimPath parsed = parseSimPath(text);
+    return asAsked_.emplace(text, &folder(folderKey(parsed, parsed.parts.size()))).first->second;
+}
+
 bool PassFiles::fileExists(std::string_view path) {
+    const std::string_view name = lastComponent(path);
+    if (const Folder* above = folderAbove(path, name))
+        return above->files.contains(lowerCase(name));
     const Place place = placeOf(path);
     return !place.name.empty() && folder(place.folder).files.contains(place.name);
 }

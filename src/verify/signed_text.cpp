@@ -20,18 +20,23 @@ bool isSigned(std::string_view bytes, FileKind kind) {
     return containsIgnoringCase(first, signatureOf(kind));
 }
 
+SignedText unread(ReadResult result) {
+    return result == ReadResult::NoMemory ? SignedText::NoMemory : SignedText::Unfit;
+}
+
 } // namespace
 
 SignedText readSignedText(FileSystem& files, std::string_view path, FileKind kind, std::string& bytes) {
-    if (files.readStart(path, bytes, Beginning) != ReadResult::Done)
-        return SignedText::Unfit;
+    if (const ReadResult result = files.readStart(path, bytes, Beginning); result != ReadResult::Done)
+        return unread(result);
     if (bytes.empty())
         return SignedText::Empty;
     if (!isSigned(bytes, kind))
         return SignedText::Unfit;
-    if (bytes.size() == Beginning && files.read(path, bytes, LargestSimFile) != ReadResult::Done)
-        return SignedText::Unfit;
-    return SignedText::Read;
+    if (bytes.size() < Beginning)
+        return SignedText::Read;
+    const ReadResult result = files.read(path, bytes, LargestSimFile);
+    return result == ReadResult::Done ? SignedText::Read : unread(result);
 }
 
 std::string shownLine(std::string_view line) {

@@ -10,8 +10,9 @@
 namespace zandor {
 
 // Unfit: it can't be read, or its first line lacks the signature of its kind, as in compressed and binary
-// files, of which no more than the beginning is read.
-enum class SignedText { Unfit, Empty, Read };
+// files, of which no more than the beginning is read. NoMemory: there may
+// be some later.
+enum class SignedText { Unfit, Empty, Read, NoMemory };
 
 // The bytes of a whole file, when it bears the signature.
 SignedText readSignedText(FileSystem& files, std::string_view path, FileKind kind, std::string& bytes);

@@ -2,12 +2,14 @@
 
 #include "catalogue/catalogue.h"
 #include "catalogue/stock_files.h"
+#include "verify/ahead_stages.h"
 #include "verify/checks.h"
 #include "verify/messages.h"
 #include "verify/missing_list.h"
 #include "verify/repair_sounds.h"
 
 #include <algorithm>
+#include <span>
 #include <unordered_map>
 #include <utility>
 
@@ -15,30 +17,11 @@ namespace zandor {
 
 namespace {
 
-// A progress text in which only a file's name changes.
-class FileText {
-  public:
-    FileText(const Frame& frame, Message message) : text_(frame.text(message)), at_(text_.find("|1")) {
-        if (at_ == std::string::npos)
-            at_ = text_.size();
-        else
-            text_.erase(at_, 2);
-    }
-    const std::string& with(std::string_view file) {
-        text_.replace(at_, length_, file);
-        length_ = file.size();
-        return text_;
-    }
-
-  private:
-    std::string text_;
-    std::size_t at_, length_ = 0;
-};
-
 class Pass {
   public:
-    Pass(Frame& frame, const VerifSelection& selection, const VerifOptions& options, VerifResults& results)
-        : frame_(frame), selection_(selection), options_(optionsFor(selection.kind, options)),
+    Pass(Frame& frame, const VerifSelection& selection, const VerifOptions& options, VerifResults& results,
+         PassOptions how)
+        : frame_(frame), selection_(selection), options_(optionsFor(selection.kind, options)), how_(how),
           results_(results), work_{frame, options_, results} {
         const std::string& base = selection.stock.empty() ? work_.places.stock : selection.stock[0].BasePath;
         if (!equalIgnoringCase(base, work_.places.stock))
@@ -46,7 +29,8 @@ class Pass {
     }
 
     PassEnd run() {
-        const bool complete = checkFiles() && checkShapes() && checkSounds() && repairSounds();
+        const bool complete = checkFiles() && checkTextures(work_, how_.threads) &&
+                              checkSoundSets(work_, how_.threads) && repairSounds();
         results_.counters.MissingTextures = countMissing(results_, MissingKind::Texture);
         results_.counters.MissingSounds = countMissing(results_, MissingKind::Sound);
         frame_.progress.ShowProgress(0, 1, 1, frame_.text(message::VerifyDone, {{"|1", ""}}));
@@ -63,33 +47,14 @@ class Pass {
         for (int begin = 0; begin < chosen(); begin += VerifBatch) {
             if (begin > 0 && !wantsNextBatch(begin))
                 return true;
-            if (!checkBatch(begin, std::min(chosen() - begin, VerifBatch)))
+            const auto batch = std::span(selection_.chosen).subspan(static_cast<std::size_t>(begin));
+            if (!checkChosen(work_, selection_, batch.first(std::min<std::size_t>(batch.size(), VerifBatch)),
+                             how_.threads))
                 return false;
             if (begin == 0 && options_.CheckDuplicates && !findDuplicates())
                 return false;
         }
         return true;
-    }
-
-    bool checkBatch(int begin, int count) {
-        FileText shown(frame_, message::VerifyingFile);
-        for (int i = 0; i < count; ++i) {
-            if (!frame_.progress.yield())
-                return false;
-            const int index = selection_.chosen[static_cast<std::size_t>(begin + i)];
-            const std::string& name = selection_.nameOf(index);
-            frame_.progress.ShowProgress(0, count, i, shown.with(name));
-            checkFile(index, name);
-            ++results_.counters.files;
-        }
-        return true;
-    }
-
-    void checkFile(int index, const std::string& name) {
-        if (selection_.kind == VerifiedKind::Consists)
-            CheckConsistFile(work_, name);
-        else
-            CheckStockFile(work_, selection_.stock[static_cast<std::size_t>(index)].Folder, name);
     }
 
     bool wantsNextBatch(int done) {
@@ -136,27 +101,6 @@ class Pass {
         return stock.Folder + "\\" + stock.File;
     }
 
-    using Check = void (*)(VerifWork&, const CheckTarget&);
-    bool checkTargets(const std::vector<CheckTarget>& targets, Message message, Check check) {
-        FileText shown(frame_, message);
-        const int count = static_cast<int>(targets.size());
-        int done = 0;
-        for (const CheckTarget& target : targets) {
-            if (!frame_.progress.yield())
-                return false;
-            frame_.progress.ShowProgress(0, count, done++, shown.with(target.File));
-            check(work_, target);
-        }
-        return true;
-    }
-
-    bool checkShapes() {
-        return checkTargets(work_.queues.ShapeTargets, message::CheckingTextures, CheckShapeFile);
-    }
-    bool checkSounds() {
-        return checkTargets(work_.queues.SoundTargets, message::CheckingSounds, CheckSoundFile);
-    }
-
     // What a repair may mend leaves the list, and comes back if it is still wrong then; or as it was, when
     // the user ends the pass before that is known.
     bool repairSounds() {
@@ -196,6 +140,7 @@ class Pass {
     Frame& frame_;
     const VerifSelection& selection_;
     const VerifOptions options_;
+    const PassOptions how_;
     VerifResults& results_;
     VerifWork work_;
 };
@@ -233,9 +178,9 @@ VerifOptions optionsFor(VerifiedKind kind, VerifOptions options) {
 }
 
 PassEnd RunVerification(Frame& frame, const VerifSelection& selection, const VerifOptions& options,
-                        VerifResults& results) {
+                        VerifResults& results, PassOptions how) {
     results = {};
-    return Pass(frame, selection, options, results).run();
+    return Pass(frame, selection, options, results, how).run();
 }
 
 } // namespace zandor

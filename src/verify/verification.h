@@ -42,8 +42,12 @@ void addCandidates(FileSystem& files, VerifSelection& selection, const std::stri
 VerifOptions optionsFor(VerifiedKind kind, VerifOptions options);
 
 enum class PassEnd { Complete, Cancelled };
+// How a pass works; what comes of it is the same.
+struct PassOptions {
+    int threads = 0; // that read the files: see readAhead()
+};
 PassEnd RunVerification(Frame& frame, const VerifSelection& selection, const VerifOptions& options,
-                        VerifResults& results);
+                        VerifResults& results, PassOptions how = {});
 
 // What the pass has found, in words, for the one message at its end.
 std::string closingReport(const Frame& frame, const VerifSelection& selection, const VerifOptions& options,
