@@ -15,6 +15,10 @@ class NoDialogs final : public Dialogs {
                                            const std::string&) override {
         return std::nullopt;
     }
+    std::optional<std::string> askSaveFile(const std::string&, const std::string&, const std::string&,
+                                           const std::string&, const std::string&) override {
+        return std::nullopt;
+    }
 };
 
 class NoProgress final : public Progress {

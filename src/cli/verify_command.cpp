@@ -104,11 +104,26 @@ class Candidates {
             folder.pop_back();
         return chooseFile(name, folder) || chooseFile(name + extension_, folder);
     }
+    // A consist that the other root alone has. False: it has none of that name.
+    bool addOfOtherRoot(Session& session, const std::string& given) {
+        const std::string& root = session.state.roots.RootSecondary();
+        if (selection_.kind != VerifiedKind::Consists || root.empty() ||
+            given.find_first_of("/\\") != std::string::npos)
+            return false;
+        for (const std::string& name : {given, given + extension_})
+            if (endsWithIgnoringCase(name, extension_) &&
+                FileExists(session.frame.files, consistsPath(root) + name)) {
+                selection_.consists.push_back(name);
+                selection_.chosen.push_back(selection_.size() - 1);
+                return true;
+            }
+        return false;
+    }
     // In the order of the list, each once.
     void sort() {
-        std::ranges::sort(selection_.chosen);
-        const auto rest = std::ranges::unique(selection_.chosen);
-        selection_.chosen.erase(rest.begin(), rest.end());
+        std::vector<int>& chosen = selection_.chosen;
+        std::sort(chosen.begin(), chosen.end());
+        chosen.erase(std::unique(chosen.begin(), chosen.end()), chosen.end());
     }
 
   private:
@@ -168,7 +183,7 @@ class VerifyCommand final : public Command {
         if (given_.empty())
             candidates.chooseAll();
         for (const std::string& name : given_)
-            if (!candidates.choose(name))
+            if (!candidates.choose(name) && !candidates.addOfOtherRoot(session, name))
                 return session.cannotRun("There is no such file among the " + std::string(kind.name) + ": " +
                                          name);
         candidates.sort();
@@ -192,6 +207,8 @@ class VerifyCommand final : public Command {
         if (path.parts.empty() || !FolderExists(files, folder))
             return session.cannotRun("--folder: there is no folder " + folder_);
         selection.kind = kind;
+        if (files.listFolder(folder).empty())
+            return session.cannotRun("--folder: there is nothing to read in " + folder_);
         addCandidates(files, selection, folderKey(path, path.parts.size() - 1),
                       std::string(path.parts.back()));
         return exitcode::Done;

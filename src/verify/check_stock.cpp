@@ -1,4 +1,5 @@
 #include "catalogue/catalogue.h"
+#include "platform/sim_path.h"
 #include "verify/checks.h"
 #include "verify/messages.h"
 #include "verify/quote_repair.h"
@@ -110,8 +111,8 @@ class StockCheck {
 
     void testCabView(const SimHit& hit, Values) {
         const std::string value(StripQuotes(hit.Value));
-        const std::string folder = beside_ + "Cabview\\";
-        if (!work_.onDisk.fileExists(folder + value))
+        const std::string folder = folderWith("Cabview\\", value);
+        if (folder.empty())
             reportMissing(hit, value);
         else if (work_.options.CheckTextures)
             work_.queues.ShapeTargets.push_back({folder, folder_ + "\\Cabview\\", value});
@@ -119,9 +120,9 @@ class StockCheck {
 
     void testSound(const SimHit& hit, Values) {
         const std::string value(StripQuotes(hit.Value));
-        const std::string own = beside_ + "Sound\\";
+        const std::string own = folderWith("Sound\\", value);
         const std::string& common = work_.places.sounds;
-        const bool isOwn = work_.onDisk.fileExists(own + value);
+        const bool isOwn = !own.empty();
         if (!isOwn && (common.empty() || !work_.onDisk.fileExists(common + value)))
             reportMissing(hit, value);
         else if (work_.options.CheckSounds)
@@ -129,25 +130,47 @@ class StockCheck {
     }
 
     void testThumbnail(const SimHit& hit, Values) {
-        const std::string_view value = StripQuotes(hit.Value);
-        if (!work_.onDisk.fileExists(beside_ + std::string(value)))
+        const std::string value(StripQuotes(hit.Value));
+        if (folderWith("", value).empty())
             reportMissing(hit, value);
+    }
+
+    // Where this value is found: the folder of this stock, with what is below it. Stock that isn't installed
+    // yet may name what other, installed stock has. Empty: nowhere.
+    std::string folderWith(std::string_view below, const std::string& value) {
+        std::string folder = beside_ + std::string(below);
+        if (work_.onDisk.fileExists(folder + value))
+            return folder;
+        if (work_.places.installed.empty() || value.find("..") == std::string::npos)
+            return {};
+        folder = work_.places.installed + folder_ + "\\" + std::string(below);
+        return work_.onDisk.fileExists(folder + value) ? folder : std::string();
     }
 
     void testShape(const SimHit& hit, Values) {
         const std::string_view value = shapeNamedBy(hit);
-        const std::string path = beside_ + std::string(value);
-        if (work_.onDisk.fileExists(path + "d"))
-            descriptions_.push_back(path + "d");
-        if (!work_.onDisk.fileExists(path))
+        const std::string name(value);
+        if (const std::string folder = folderWith("", name + "d"); !folder.empty())
+            addDescription(folder + name + "d");
+        const std::string folder = folderWith("", name);
+        if (folder.empty())
             reportMissing(hit, value);
         else if (work_.options.CheckTextures)
-            work_.queues.ShapeTargets.push_back({beside_, folder_ + "\\", std::string(value)});
+            work_.queues.ShapeTargets.push_back({folder, folder_ + "\\", name});
     }
 
+    // Two keys may name one shape.
+    void addDescription(std::string path) {
+        if (std::ranges::none_of(
+                descriptions_, [&path](const std::string& known) { return equalIgnoringCase(known, path); }))
+            descriptions_.push_back(std::move(path));
+    }
+
+    // The shape lies in the stock's folder, or where its description does.
     void testDescription(const std::string& path) {
         const DescribedShape& shape = describedShape(work_, path);
-        if (!shape.found || work_.onDisk.fileExists(beside_ + shape.value))
+        if (!shape.found || work_.onDisk.fileExists(beside_ + shape.value) ||
+            work_.onDisk.fileExists(std::string(folderPart(path)) + shape.value))
             return;
         SimHit hit;
         hit.Tail = shape.tail;
@@ -230,11 +253,16 @@ bool needsQuotes(const VerifWork& work, const StockToCheck& reading) {
 
 VerifPlaces placesOf(const Roots& roots) {
     const std::string& simulator = roots.RootMSTS.empty() ? roots.RootPrimary() : roots.RootMSTS;
-    return {trainsetPath(roots.RootPrimary()), trainsetPath(simulator), simulator + "\\Sound\\"};
+    return {trainsetPath(roots.RootPrimary()), trainsetPath(simulator), simulator + "\\Sound\\", {}, {}};
 }
 
-VerifPlaces placesAround(const Roots& roots, const std::string& basePath) {
-    return {basePath, basePath, roots.RootMSTS.empty() ? std::string() : roots.RootMSTS + "\\Sound\\"};
+VerifPlaces placesAround(const Roots& roots, const StockFileEntry& stock) {
+    VerifPlaces places{stock.BasePath, stock.BasePath, {}, stock.Folder, {}};
+    if (!roots.RootMSTS.empty()) {
+        places.sounds = roots.RootMSTS + "\\Sound\\";
+        places.installed = trainsetPath(roots.RootMSTS);
+    }
+    return places;
 }
 
 void CheckStockFile(VerifWork& work, std::string_view folder, std::string_view file) {

@@ -20,11 +20,14 @@ struct VerifPlaces {
     std::string stock;    // TRAINSET, or what plays it, of the files that are checked
     std::string trainset; // the same for the files that they name
     std::string sounds;   // the simulator's own sounds; empty when there is none
+    // For stock that lies anywhere: its folder, the only one whose waves a repair takes, and the TRAINSET in
+    // which it will lie, where the files are that it names by "..\\".
+    std::string folder, installed;
 };
 // Stock of the primary root, which names files of the simulator's folder, whichever of the roots is primary.
 VerifPlaces placesOf(const Roots& roots);
-// Stock that lies anywhere: what it names lies beside it.
-VerifPlaces placesAround(const Roots& roots, const std::string& basePath);
+// Stock that lies anywhere: what it names lies beside it, or where it will be when it is installed.
+VerifPlaces placesAround(const Roots& roots, const StockFileEntry& stock);
 
 // What the checks of one pass share.
 struct VerifWork {

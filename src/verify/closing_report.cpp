@@ -105,7 +105,8 @@ std::string closingReport(const Frame& frame, const VerifSelection& selection, c
                      message::ReportManyDuplicates);
     report.tellCount(results.counters.RepairedSoundFiles, message::ReportOneSoundSetRepaired,
                      message::ReportManySoundSetsRepaired);
-    report.tellMissing(done.RepairSounds);
+    // what could not be written may well exist
+    report.tellMissing(done.RepairSounds && results.counters.SoundRepairFailures == 0);
     report.tellQuotes();
     return std::move(report).text();
 }

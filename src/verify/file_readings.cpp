@@ -10,10 +10,12 @@ namespace zandor {
 
 namespace {
 
-// Behind the first ".s": numbers and remarks may follow a freight's shape.
+// Behind the first ".s" that ends a name: numbers and remarks may follow a freight's shape.
 std::string_view upToShape(std::string_view value) {
+    constexpr std::string_view Ends = " \t\"#";
     for (std::size_t i = 0; i + 1 < value.size(); ++i)
-        if (value[i] == '.' && letterIs(value[i + 1], 's'))
+        if (value[i] == '.' && letterIs(value[i + 1], 's') &&
+            (i + 2 == value.size() || Ends.find(value[i + 2]) != std::string_view::npos))
             return value.substr(0, i + 2);
     return value;
 }

@@ -221,4 +221,7 @@ inline constexpr Message KindMissingTexture{861};
 inline constexpr Message KindMissingSound{862};
 inline constexpr Message KindDuplicate{863};
 
+// what could not be repaired
+inline constexpr Message SoundSetUnrepaired{930}; // |1 the file, |2 a line break
+
 } // namespace zandor::message

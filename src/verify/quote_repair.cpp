@@ -47,7 +47,7 @@ void tellFailure(VerifWork& work, const std::string& path, const SimHit& hit) {
 } // namespace
 
 bool lacksQuotes(const SimHit& hit) {
-    return hit.Key == "Sound" && !hit.Value.starts_with('"');
+    return hit.Key == "Sound" && !hit.Value.empty() && !hit.Value.starts_with('"');
 }
 
 void repairQuotes(VerifWork& work, const std::string& path, std::vector<SimHit>& hits) {

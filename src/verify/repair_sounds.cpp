@@ -32,8 +32,9 @@ class WaveIndex {
     // False: the user ended it.
     bool fill(VerifWork& work) {
         const std::string& trainset = work.places.trainset;
+        const std::string& only = work.places.folder;
         for (const FolderEntry& entry : work.frame.files.listFolder(trainset)) {
-            if (!entry.isFolder)
+            if (!entry.isFolder || (!only.empty() && !equalIgnoringCase(entry.name, only)))
                 continue;
             if (!work.frame.progress.yield())
                 return false;
@@ -82,12 +83,19 @@ class SetRepair {
             const std::string name = textOf(text, wave);
             const std::optional<std::string> better = newName(name);
             if (better && *better != name)
-                edits.push_back({wave.place, *better});
+                edits.push_back({wave.place, quotedWhereNeeded(text, wave, *better)});
         }
         return edits;
     }
 
   private:
+    // Outside of quotes a bracket or a blank would end it.
+    static std::string quotedWhereNeeded(std::string_view text, const WaveName& wave,
+                                         const std::string& name) {
+        const std::size_t before = text.substr(0, wave.place.begin).find_last_not_of(" \t");
+        const bool isQuoted = before != std::string_view::npos && text[before] == '"';
+        return isQuoted || name.find_first_of(" ()#") == std::string::npos ? name : '"' + name + '"';
+    }
     // Nothing: it is reached as it is, or nowhere.
     std::optional<std::string> newName(const std::string& name) {
         if (places_.reaches(name))
@@ -109,7 +117,9 @@ class SetRepair {
 bool mayWrite(const VerifWork& work, const CheckTarget& target) {
     const Roots& roots = work.frame.state.roots;
     const std::string path = target.Dir + target.File;
-    return liesIn(path, roots.RootMSTS) || liesIn(path, roots.RootTStore) || liesIn(path, target.Dir);
+    const std::string& folder = work.places.folder;
+    return liesIn(path, roots.RootMSTS) || liesIn(path, roots.RootTStore) ||
+           liesIn(path, folder.empty() ? target.Dir : work.places.stock + folder);
 }
 
 // A place could hold what changes the meaning of its line, such as a bracket where no quotes are.

@@ -58,7 +58,12 @@ bool holdsImage(std::string_view line) {
 
 std::string_view betweenBrackets(std::string_view line) {
     const std::size_t open = line.find('(');
-    const std::size_t close = open == npos ? npos : line.find(')', open);
+    if (open == npos)
+        return line;
+    // a bracket within quotes belongs to the name
+    const std::size_t begin = line.find_first_not_of(" \t", open + 1);
+    const std::size_t quote = begin != npos && line[begin] == '"' ? line.find('"', begin + 1) : npos;
+    const std::size_t close = line.find(')', quote == npos ? open : quote);
     return close == npos ? line : trimmed(line.substr(open + 1, close - open - 1));
 }
 

@@ -25,7 +25,7 @@ class Pass {
           results_(results), work_{frame, options_, results} {
         const std::string& base = selection.stock.empty() ? work_.places.stock : selection.stock[0].BasePath;
         if (!equalIgnoringCase(base, work_.places.stock))
-            work_.places = placesAround(frame.state.roots, base);
+            work_.places = placesAround(frame.state.roots, selection.stock[0]);
     }
 
     PassEnd run() {
@@ -118,10 +118,22 @@ class Pass {
         }
         const SoundRepair repair = RepairSoundFiles(work_);
         results_.counters.RepairedSoundFiles = repair.repaired;
+        results_.counters.SoundRepairFailures = static_cast<int>(repair.failed.size());
+        tellUnrepaired(repair.failed);
         const std::size_t checked = repair.done ? recheckSounds() : 0;
         std::move(broken.begin() + static_cast<std::ptrdiff_t>(checked), broken.end(),
                   std::back_inserter(results_.MissingEntries));
         return checked == broken.size();
+    }
+
+    void tellUnrepaired(const std::vector<std::string>& paths) {
+        bool shows = true;
+        for (const std::string& path : paths) {
+            const std::string shown = frame_.files.nativePath(path);
+            const std::string text =
+                frame_.text(message::SoundSetUnrepaired, {{"|1", shown}, {"|2", "\r\n"}});
+            shows = shows && frame_.dialogs.showRepeated(text, style::Exclamation, frame_.state.Title);
+        }
     }
 
     // How many of the targets were looked into.

@@ -84,7 +84,7 @@ struct MandatoryFault {
 struct VerifCounters {
     int files = 0; // looked at
     int QuoteRepairCount = 0, QuoteRepairFailures = 0;
-    int RepairedSoundFiles = 0;
+    int RepairedSoundFiles = 0, SoundRepairFailures = 0;
     int MissingTextures = 0, MissingSounds = 0; // items
 };
 

@@ -129,23 +129,25 @@ TEST_F(SoundSetRepair, AFailingDiskLeavesOldOrNewBytesAndTheAttributes) {
 TEST_F(SoundSetRepair, ThePlantedFaultsAreFoundAndRepaired) {
     const std::string trainset = "demo/Train Simulator/Trains/trainset/";
     for (const char* file :
-         {"Faults\\Sound\\snd_moved.sms", "Faults\\Sound\\snd_nowhere.sms", "Faults\\Cabview\\shp_cab.cvf",
-          "Faults\\Cabview\\shp_front.ace", "Faults\\shp_textures.s", "Faults\\shp_empty.s",
-          "Faults\\shp_here.ace", "OrmeCoach\\Sound\\coach_joint.wav", "OrmeDiesel\\odx12.ace"}) {
+         {"Yard_Faults\\Sound\\snd_moved.sms", "Yard_Faults\\Sound\\snd_nowhere.sms",
+          "Yard_Faults\\Cabview\\shp_cab.cvf", "Yard_Faults\\Cabview\\shp_front.ace",
+          "Yard_Faults\\shp_textures.s", "Yard_Faults\\shp_empty.s", "Yard_Faults\\shp_here.ace",
+          "OrmeCoach\\Sound\\coach_joint.wav", "OrmeDiesel\\odx12.ace"}) {
         std::string path = trainset + file;
         std::replace(path.begin(), path.end(), '\\', '/');
         files.put(inTrainset(file), readSourceFile(path));
     }
     files.put("\\sim\\Sound\\horn_low.wav", "");
     for (const char* file : {"shp_textures.s", "shp_empty.s", "Cabview\\shp_cab.cvf"})
-        CheckShapeFile(*work, shapeTarget("Faults", file));
-    EXPECT_EQ(missing(), (Rows{"Faults\\shp_textures.s|shp_gone.ace|image ( shp_gone.ace )|7",
-                               "Faults\\shp_textures.s|\"shp gone #2.ace\"|image ( \"shp gone #2.ace\" )|8",
-                               "Faults\\shp_empty.s|Faults\\shp_empty.s|ZERO_OCTET_FILE|0",
-                               "Faults\\Cabview\\shp_cab.cvf|\"shp_left_gone.ace\"|"
-                               "CabViewFile ( \"shp_left_gone.ace\" )|6"}));
-    const CheckTarget moved = soundTarget("Faults", "snd_moved.sms"),
-                      nowhere = soundTarget("Faults", "snd_nowhere.sms");
+        CheckShapeFile(*work, shapeTarget("Yard_Faults", file));
+    EXPECT_EQ(missing(),
+              (Rows{"Yard_Faults\\shp_textures.s|shp_gone.ace|image ( shp_gone.ace )|7",
+                    "Yard_Faults\\shp_textures.s|\"shp gone #2.ace\"|image ( \"shp gone #2.ace\" )|8",
+                    "Yard_Faults\\shp_empty.s|Yard_Faults\\shp_empty.s|ZERO_OCTET_FILE|0",
+                    "Yard_Faults\\Cabview\\shp_cab.cvf|\"shp_left_gone.ace\"|"
+                    "CabViewFile ( \"shp_left_gone.ace\" )|6"}));
+    const CheckTarget moved = soundTarget("Yard_Faults", "snd_moved.sms"),
+                      nowhere = soundTarget("Yard_Faults", "snd_nowhere.sms");
     for (const std::size_t left : {2u, 1u}) { // the second pass follows the repair
         beginPass();
         CheckSoundFile(*work, moved);
@@ -154,7 +156,7 @@ TEST_F(SoundSetRepair, ThePlantedFaultsAreFoundAndRepaired) {
         EXPECT_EQ(results.MissingEntries.back().Items.at(0).Name, "snd_nowhere.wav");
         EXPECT_EQ(repair({moved, nowhere}).repaired, left == 2 ? 1 : 0);
     }
-    EXPECT_NE(bodyOf(inTrainset("Faults\\Sound\\snd_moved.sms"))
+    EXPECT_NE(bodyOf(inTrainset("Yard_Faults\\Sound\\snd_moved.sms"))
                   .find("\"../../OrmeCoach/Sound/coach_joint.wav\" -1"),
               std::string::npos);
 }
