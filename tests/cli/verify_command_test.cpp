@@ -86,9 +86,10 @@ TEST_F(VerifyCommand, ExitCodesTellCleanFaultyAndImpossible) {
 
 TEST_F(VerifyCommand, AFolderIsCheckedWhereverItLies) {
     putSim(at("work/My Wagons/new.wag"),
-           wagonText("new") + "Wagon ( WagonShape ( new.s ) Sound ( \"new.sms\" ) )");
+           wagonText("new") + "Wagon ( WagonShape ( new.s ) Thumbnail ( ..\\Diesels\\Loco.eng ) Sound ( "
+                              "\"new.sms\" ) )");
     putBytes(at("work/My Wagons/Sound/NEW.sms"), "");
-    const Ran ran = run({"verify", "wagons", "--folder", at("work/My Wagons/"), "--json"});
+    const Ran ran = runOnTree({"verify", "wagons", "--folder", at("work/My Wagons/"), "--json"});
     EXPECT_EQ(ran.exitCode, 1) << ran.err;
     const json found = ran.json();
     ASSERT_EQ(found["invalidFiles"].size(), 1u);

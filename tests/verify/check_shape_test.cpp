@@ -14,6 +14,7 @@ TEST(ShapeScan, ReadsTheBlocksOfImages) {
         {"h\r\nimages ( 2\r\n\timage ( a.ace )\r\n image\t(\tb c.ace )\r\n)\r\nimages (\r\nimage ( no.ace "
          ")\r\n",
          {"a.ace|3", "b c.ace|4"}},
+        {"h\nimages ( 1\nimage ( \"b (1).ace\" )\n)", {"\"b (1).ace\"|3"}},
         {"h\nIMAGES ( 1\nIMAGE ( \"a.ace\" )\n\t)\n", {"\"a.ace\"|3"}},
         {"h\rimages\r(\rimage ( no.ace )", {}},
         {"h\nimages ( 1\nimage ( a.ace )\npoints ( 1 )\nimages ( 1\nimage ( b.ace )\n)",

@@ -39,6 +39,8 @@ TEST_F(StockCheck, EachKeyIsHeldAgainstItsValuesAndFiles) {
         {"WagonShape ( Gone.S )", "3 306/307 Gone.S | Wagon\\WagonShape ( Gone.S )"},
         {"FreightAnim ( a.s 1 0 # load )", ""},
         {"FreightAnim ( \"Load.S\" 1 0 )", "3 306/307 Load.S | Wagon\\FreightAnim ( \"Load.S\" 1 0 )"},
+        {"FreightAnim ( \"..\\V.stuff\\a.s\" 1 )",
+         "3 306/307 ..\\V.stuff\\a.s | Wagon\\FreightAnim ( \"..\\V.stuff\\a.s\" 1 )"},
         {"Sound ( own.sms )", ""},
         {"Sound ( \"Common.sms\" )", ""},
         {"Sound ( \"a #1.sms\" ) # wheels", ""},
@@ -76,9 +78,17 @@ TEST_F(StockCheck, AnEnginesNamesAndCabAreTested) {
 }
 
 TEST_F(StockCheck, ADescriptionsShapeIsLookedForBesideTheStock) {
+    const std::string sign = std::string(signatureOf(FileKind::ShapeDescription)) + "\r\n\r\n";
+    put("F\\a.wag", wagon("WagonShape ( ..\\G\\g.s )\r\nFreightAnim ( ..\\G\\g.s 1 )\r\n"));
+    put("G\\g.s");
+    put("G\\g.sd", sign + "shape ( g.s )");
+    pass(VerifiedKind::Wagons);
+    EXPECT_THAT(faults(), IsEmpty()) << "another stock's shape is described beside it";
+    put("G\\g.sd", sign + "shape ( gone.s )");
+    pass(VerifiedKind::Wagons);
+    EXPECT_EQ(faults().size(), 1u) << "however many keys name it";
     put("F\\a.wag", wagon("WagonShape ( A.s )\r\n"));
     put("F\\a.s");
-    const std::string sign = std::string(signatureOf(FileKind::ShapeDescription)) + "\r\n\r\n";
     const struct {
         const char* text;
         const char* fault;

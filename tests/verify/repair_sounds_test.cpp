@@ -11,6 +11,7 @@ struct SoundSetRepair : TargetFixture {
         files.put(inTrainset("B\\Sound\\Here.wav"), "");
         files.put(inTrainset("C\\SOUND\\here.wav"), "");
         files.put(inTrainset("C\\SOUND\\only_c.wav"), "");
+        files.put(inTrainset("D (2)\\Sound\\only_d.wav"), "");
     }
     void putSet(const std::string& path, const std::string& body,
                 TextEncoding encoding = TextEncoding::Utf16) {
@@ -44,6 +45,7 @@ TEST_F(SoundSetRepair, WritesTheWayToTheFirstWaveOfThatName) {
         {a.c_str(), "File(\"x/here.wav\")File(\"gone.wav\")File(\"y/only_c.wav\")",
          "File(\"../../B/Sound/here.wav\")File(\"gone.wav\")File(\"../../C/Sound/only_c.wav\")"},
         {a.c_str(), "Comment ( \"file here.wav\" )", "Comment ( \"file here.wav\" )"},
+        {a.c_str(), "File ( only_d.wav ) \"", "File ( \"../../D (2)/Sound/only_d.wav\" ) \""},
         {own.c_str(), "File ( \"here.wav\" )", "File ( \"../TRAINS/TRAINSET/B/Sound/here.wav\" )"},
         {deep.c_str(), "File ( \"here.wav\" )", "File ( \"../../../B/Sound/here.wav\" )"},
     };
@@ -164,7 +166,7 @@ TEST_F(SoundSetRepair, ThePlantedFaultsAreFoundAndRepaired) {
 TEST_F(SoundSetRepair, EndsWhenTheUserWishes) {
     for (const char* file : {"x.sms", "y.sms"})
         putSet(inTrainset("A\\Sound\\") + file, "File ( \"here.wav\" )");
-    progress.cancelAtYield = 5; // three stock folders, then the sets
+    progress.cancelAtYield = 6; // four stock folders, then the sets
     const SoundRepair result = repair({soundTarget("A", "x.sms"), soundTarget("A", "y.sms")});
     EXPECT_FALSE(result.done);
     EXPECT_EQ(result.repaired, 1);
