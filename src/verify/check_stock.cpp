@@ -47,7 +47,7 @@ class StockCheck {
 
     void run(const std::vector<SimHit>& hits) {
         for (const SimHit& hit : hits)
-            if (hit.Path == "Engine" && hit.Key == "Name")
+            if (hit.Key == "Name" && hit.Path == "Engine")
                 name_ = StripQuotes(hit.Value);
         bool couplingSeen = false;
         for (const SimHit& hit : hits) {
@@ -60,7 +60,7 @@ class StockCheck {
             testDescription(description);
         for (const MandatoryKey& key : MandatoryKeys)
             if (std::ranges::none_of(
-                    hits, [&](const SimHit& hit) { return hit.Path == key.path && hit.Key == key.key; }))
+                    hits, [&](const SimHit& hit) { return hit.Key == key.key && hit.Path == key.path; }))
                 tellMandatory(key.name);
     }
 
@@ -75,7 +75,7 @@ class StockCheck {
 
     void test(const SimHit& hit) {
         for (const KeyTest& row : Tests)
-            if (hit.Path == row.path && hit.Key == row.key)
+            if (hit.Key == row.key && hit.Path == row.path) // most differ in the key's length
                 return (this->*row.test)(hit, row.allowed);
     }
 

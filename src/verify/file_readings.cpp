@@ -39,10 +39,10 @@ void readStock(SimReader& reader, std::string_view path, StockToCheck& reading) 
 }
 
 std::string_view shapeNamedBy(const SimHit& hit) {
-    if (hit.Path == "Wagon" && hit.Key == "FreightAnim")
+    if (hit.Key == "FreightAnim" && hit.Path == "Wagon")
         return upToShape(StripQuotes(hit.Value));
-    const bool isShape = (hit.Path == "Wagon" && hit.Key == "WagonShape") ||
-                         (hit.Path == "Wagon\\Inside" && hit.Key == "PassengerCabinFile");
+    const bool isShape = (hit.Key == "WagonShape" && hit.Path == "Wagon") ||
+                         (hit.Key == "PassengerCabinFile" && hit.Path == "Wagon\\Inside");
     return isShape ? StripQuotes(hit.Value) : std::string_view();
 }
 
