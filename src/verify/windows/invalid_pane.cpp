@@ -163,7 +163,7 @@ void InvalidPane::connectControls() {
 }
 
 void InvalidPane::addKeys() {
-    const auto add = [this](QWidget* where, const QKeySequence& key, QPushButton* button) {
+    const auto add = [](QWidget* where, const QKeySequence& key, QPushButton* button) {
         connect(new QShortcut(key, where, nullptr, nullptr, Qt::WidgetShortcut), &QShortcut::activated,
                 button, &QPushButton::click);
     };
