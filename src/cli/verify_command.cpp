@@ -228,14 +228,13 @@ class VerifyCommand final : public Command {
         else
             printVerification(session, results, dialogs.texts,
                               closingReport(frame, selection, options_, results));
-        return isClean(results) ? exitcode::Done : exitcode::Faults;
+        return foundNothing(results) ? exitcode::Done : exitcode::Faults;
     }
 
     // What was repaired was wrong.
-    static bool isClean(const VerifResults& results) {
+    static bool foundNothing(const VerifResults& results) {
         const VerifCounters& counters = results.counters;
-        return results.InvalidFiles.empty() && results.DuplicateEntries.empty() &&
-               results.MissingEntries.empty() && results.mandatory.empty() &&
+        return isClean(results) &&
                counters.QuoteRepairCount + counters.QuoteRepairFailures + counters.RepairedSoundFiles == 0;
     }
 

@@ -82,6 +82,26 @@ std::string folderOf(const VerifResults& results, const FaultyFile& file) {
     return file.invalid < 0 ? firstKey(results, file).folder : recordOf(results, file).Folder;
 }
 
+std::vector<int> recordsFor(const Frame& frame, VerifResults& results, const std::vector<FaultyFile>& files) {
+    std::vector<int> records;
+    for (const FaultyFile& file : files) {
+        records.push_back(file.invalid);
+        if (file.invalid >= 0)
+            continue;
+        records.back() = static_cast<int>(results.InvalidFiles.size());
+        results.InvalidFiles.push_back({trainsetPath(frame.state.roots.RootPrimary()),
+                                        folderOf(results, file),
+                                        fileOf(results, file),
+                                        {},
+                                        {}});
+    }
+    return records;
+}
+
+void dropBareRecords(VerifResults& results) {
+    std::erase_if(results.InvalidFiles, [](const InvalidFile& file) { return file.Lines.empty(); });
+}
+
 std::string pathOf(const Frame& frame, const VerifResults& results, const FaultyFile& file) {
     if (file.invalid >= 0)
         return invalidPath(recordOf(results, file));

@@ -27,6 +27,11 @@ std::string fileOf(const VerifResults& results, const FaultyFile& file);
 std::string folderOf(const VerifResults& results, const FaultyFile& file);
 std::string pathOf(const Frame& frame, const VerifResults& results, const FaultyFile& file);
 
+// Positions in InvalidFiles for files that are to be moved or deleted: one that lacks keys alone gets a
+// record without lines, which goes again with dropBareRecords().
+std::vector<int> recordsFor(const Frame& frame, VerifResults& results, const std::vector<FaultyFile>& files);
+void dropBareRecords(VerifResults& results);
+
 // A fault of such a file: a line of its record, or a key that it lacks.
 struct FileFault {
     int line = -1;      // position in InvalidFile::Lines; -1: none

@@ -97,6 +97,11 @@ struct VerifResults {
     VerifCounters counters;
 };
 
+inline bool isClean(const VerifResults& results) {
+    return results.InvalidFiles.empty() && results.DuplicateEntries.empty() &&
+           results.MissingEntries.empty() && results.mandatory.empty();
+}
+
 // What the stages of a pass hand to each other.
 struct VerifQueues {
     std::vector<CheckTarget> ShapeTargets;

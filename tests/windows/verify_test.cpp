@@ -246,6 +246,18 @@ TEST_F(VerifyTest, TheNextFaultIsOneKeyAwayAndComesRoundToTheFirst) {
     }
 }
 
+TEST_F(VerifyTest, AFileThatLacksAKeyAloneCanBeDeletedToo) {
+    std::string text = wagonText("bare", "Freight");
+    text[text.find(std::string("S\0i\0z", 5))] = 'W'; // in UTF-16
+    test.files.put(wagonPath("bare"), text);
+    open();
+    verifyAll();
+    ASSERT_EQ(shown("lstFILES_INVALIDES"), (Names{"bare.wag"}));
+    QTest::keyClick(&invalid(), Qt::Key_Delete);
+    EXPECT_FALSE(test.files.fileExists(wagonPath("bare")));
+    EXPECT_EQ(invalid().rows().rowCount(), 0);
+}
+
 TEST_F(VerifyTest, SeveralFilesAreDeletedAfterOneQuestionAndTheListGoesOnBehindThem) {
     openVerified(12);
     test.dialogs.shown.clear();
@@ -257,6 +269,7 @@ TEST_F(VerifyTest, SeveralFilesAreDeletedAfterOneQuestionAndTheListGoesOnBehindT
     EXPECT_FALSE(test.files.fileExists(wagonPath("w3")));
     EXPECT_EQ(shown("lstFILES_INVALIDES"), (Names{"w1.wag", "w5.wag", "w7.wag", "w9.wag"}));
     EXPECT_EQ(invalid().currentNumber(), 1) << "the one behind them";
+    EXPECT_EQ(list("lstFILES").rows().rowCount(), 10) << "there is nothing to check any more";
     EXPECT_EQ(changes, 1);
     test.dialogs.defaultAnswer = answer::No;
     QTest::keyClick(&invalid(), Qt::Key_Delete);

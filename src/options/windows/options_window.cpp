@@ -84,7 +84,7 @@ void frmOptions::closeEvent(QCloseEvent* event) {
 }
 
 void frmOptions::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Escape)
+    if (event->key() == Qt::Key_Escape && !verify_->holdsResults()) // which would be gone with the window
         close();
     else
         QWidget::keyPressEvent(event);

@@ -22,6 +22,8 @@
 #include <algorithm>
 #include <utility>
 
+#include <unordered_set>
+
 namespace zandor {
 
 namespace {
@@ -230,11 +232,29 @@ void CandidatesPane::passEnded() {
 
 // ---- the candidates
 
-void CandidatesPane::fill() {
-    const BusyPointer busy;
+void CandidatesPane::list() {
     candidates_ = listCandidates(session_.frame(), session_.choices().kind,
                                  session_.editor().catalogue.here().ConsistFiles);
     searched_ = candidateTexts(candidates_);
+}
+
+void CandidatesPane::refresh() {
+    const BusyPointer busy;
+    std::unordered_set<std::string> names;
+    for (const int number : lstFILES_->chosenNumbers())
+        names.insert(searched_[static_cast<std::size_t>(number)]);
+    list();
+    std::vector<bool> chosen;
+    chosen.reserve(searched_.size());
+    for (const std::string& name : searched_)
+        chosen.push_back(names.contains(name));
+    showRowsChoosing(chosen);
+    enableAll();
+}
+
+void CandidatesPane::fill() {
+    const BusyPointer busy;
+    list();
     {
         const QSignalBlocker quiet(tbFILTER_);
         tbFILTER_->clear();
@@ -247,10 +267,14 @@ void CandidatesPane::fill() {
 
 // Those that the filter lets through; what was selected and is still seen stays selected.
 void CandidatesPane::showRows() {
-    const std::string wanted = lowerCase(fromQt(tbFILTER_->text().trimmed()));
     std::vector<bool> chosen(searched_.size());
     for (const int number : lstFILES_->chosenNumbers())
         chosen[static_cast<std::size_t>(number)] = true;
+    showRowsChoosing(chosen);
+}
+
+void CandidatesPane::showRowsChoosing(const std::vector<bool>& chosen) {
+    const std::string wanted = lowerCase(fromQt(tbFILTER_->text().trimmed()));
     std::vector<ListRow> rows;
     rows.reserve(searched_.size());
     QString longest;

@@ -27,6 +27,7 @@ class CandidatesPane final : public QWidget {
     void addCaptions(Captions& captions);
     void applyLanguage(); // the rest
     void fill();          // the candidates of the chosen kind, none selected
+    void refresh();       // when files have gone; the filter stays, and what is selected and still there
     void focusFilter();
 
     bool anyChosen() const;
@@ -49,7 +50,9 @@ class CandidatesPane final : public QWidget {
     void showOptions();
     void enableBoxes();
     void enableAll();
+    void list();
     void showRows();
+    void showRowsChoosing(const std::vector<bool>& chosen);
     void selectAll();
     void deselectAll();
     void selectionChanged();

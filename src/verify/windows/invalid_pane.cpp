@@ -266,12 +266,11 @@ const ErrorLine* InvalidPane::currentLine() const {
                                                         : nullptr;
 }
 
-std::vector<int> InvalidPane::chosenRecords() const {
-    std::vector<int> records;
+std::vector<FaultyFile> InvalidPane::chosenFiles() const {
+    std::vector<FaultyFile> files;
     for (const int number : lstFILES_INVALIDES_->chosenNumbers())
-        if (const int record = files_[static_cast<std::size_t>(number)].invalid; record >= 0)
-            records.push_back(record);
-    return records;
+        files.push_back(files_[static_cast<std::size_t>(number)]);
+    return files;
 }
 
 // ShowFileErrors
@@ -296,7 +295,9 @@ void InvalidPane::showFileErrors() {
     if (!file)
         return clearFault();
     const bool recorded = file->invalid >= 0;
-    const InvalidFile none{{}, folderOf(results, *file), fileOf(results, *file), {}, {}};
+    const std::string bareName = fileOf(results, *file);
+    const InvalidFile none{
+        {}, folderOf(results, *file), bareName, bareName.substr(0, bareName.rfind('.')), {}};
     const InvalidFile& record =
         recorded ? results.InvalidFiles[static_cast<std::size_t>(file->invalid)] : none;
     lblSelection_->setText(toQt(selectionCaption(session_.frame(), record)));
@@ -342,7 +343,7 @@ void InvalidPane::clearFault() {
 void InvalidPane::enableButtons() {
     if (going_)
         return;
-    const bool any = currentFile() != nullptr, gone = !chosenRecords().empty();
+    const bool any = currentFile() != nullptr, gone = lstFILES_INVALIDES_->chosenCount() > 0;
     cmdCORRECT_->setEnabled(currentLine() != nullptr);
     cmdEDIT_->setEnabled(any && !editorPrograms(session_.frame()).empty());
     cmdNEXT_->setEnabled(any);
@@ -401,12 +402,15 @@ void InvalidPane::correct() {
 }
 
 void InvalidPane::carryAway(FilesGone (*operation)(Editor&, VerifResults&, const std::vector<int>&)) {
-    const std::vector<int> chosen = chosenRecords();
+    const std::vector<FaultyFile> chosen = chosenFiles();
     if (chosen.empty())
         return;
     FilesGone gone;
     VerifResults& results = session_.results();
-    const bool here = session_.carryOut([&](Editor& editor) { gone = operation(editor, results, chosen); });
+    const bool here = session_.carryOut([&](Editor& editor) {
+        gone = operation(editor, results, recordsFor(editor.frame, results, chosen));
+        dropBareRecords(results);
+    });
     if (!here)
         return;
     if (gone.gone > 0) {
@@ -414,6 +418,7 @@ void InvalidPane::carryAway(FilesGone (*operation)(Editor&, VerifResults&, const
         lstFILES_INVALIDES_->showRow(lstFILES_INVALIDES_->chosenNumbers().front());
         going_ = false;
         session_.tellChange();
+        emit session_.filesWent();
     }
     showFindings(session_.frame(), gone.told);
 }

@@ -69,6 +69,8 @@ void ReportView::addSome() {
     const std::size_t end = std::min(next_ + AtOnce, report_.paragraphs.size());
     for (; next_ < end; ++next_)
         add(report_.paragraphs[next_], next_ == 0);
+    if (next_ <= AtOnce)
+        moveCursor(QTextCursor::Start); // the user's own has gone along to the end of the first ones
     if (isComplete())
         adding_->stop();
 }

@@ -57,6 +57,7 @@ class VerifySession final : public QObject {
     void tellChange(); // of results and files
 
   signals:
+    void filesWent(); // moved away or deleted
     void runStarted();
     void runEnded(); // also when the window was closed
     void step(int lower, int upper, int current, const QString& text);

@@ -81,6 +81,7 @@ void VerifyTab::connectControls() {
     connect(cmdHELP_, &QPushButton::clicked, this, &VerifyTab::helpAsked);
     connect(cmdCANCEL_, &QPushButton::clicked, this, &VerifyTab::closeAsked);
     connect(fmVERIF_FILES_, &CandidatesPane::chosenChanged, this, &VerifyTab::enableVerify);
+    connect(session_, &VerifySession::filesWent, fmVERIF_FILES_, &CandidatesPane::refresh);
     connect(session_, &VerifySession::runStarted, this, &VerifyTab::startRun);
     connect(session_, &VerifySession::runEnded, this, &VerifyTab::endRun);
     connect(session_, &VerifySession::step, this, &VerifyTab::showStep);
@@ -135,10 +136,6 @@ void VerifyTab::captionVerify() {
     if (running())
         cmdVERIF_->setText(stopCaption_);
     cmdVERIF_->setToolTip(toQt(session_->frame().text(message::TipVerify)));
-}
-
-void VerifyTab::refill() {
-    fmVERIF_FILES_->fill();
 }
 
 void VerifyTab::close() {

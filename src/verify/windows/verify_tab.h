@@ -25,7 +25,7 @@ class VerifyTab final : public QWidget {
     VerifyTab(Editor& editor, VerifyChoices& choices, QWidget* parent);
 
     void applyLanguage();
-    void refill(); // the candidates, after a change of the root
+    bool holdsResults() const { return !isClean(session_->results()); }
     bool running() const { return session_->running(); }
     void close(); // the window goes; what runs ends
 
