@@ -224,4 +224,7 @@ inline constexpr Message KindDuplicate{863};
 // what could not be repaired
 inline constexpr Message SoundSetUnrepaired{930}; // |1 the file, |2 a line break
 
+// while the outside text editor runs
+inline constexpr Message WaitingForEditor{931};
+
 } // namespace zandor::message

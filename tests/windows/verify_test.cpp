@@ -223,6 +223,8 @@ TEST_F(VerifyTest, FaultsAreFilteredByKindAndByWords) {
             kind->click();
     EXPECT_TRUE(get<QWidget>("fmDOUBLONS").isVisible()) << "a kind brings up its list";
     EXPECT_TRUE(get<ReportView>("rtbLISTE_DOUBLONS").toPlainText().contains("G\\w0.wag"));
+    EXPECT_TRUE(get<ReportView>("rtbLISTE_DOUBLONS").textCursor().atStart())
+        << "it is read from its beginning";
     get<QRadioButton>("optINVALIDES").click();
     EXPECT_EQ(invalid().rows().rowCount(), 4) << "another list ends the filter";
     QTest::keyClick(window, Qt::Key_F, Qt::ControlModifier);
@@ -355,6 +357,7 @@ TEST_F(EditorRoundTrip, AFileThatTheEditorHasMendedLeavesTheList) {
     bool disabled = false;
     processes.act = [&] {
         disabled = !window->isEnabled();
+        EXPECT_EQ(get<QLabel>("lblANALYSE").text(), "Waiting for the text editor…");
         test.files.put(wagonPath("w1"), wagonText("w1", "Freight") + " ");
     };
     QTest::qWait(1); // the page that has just come up is laid out

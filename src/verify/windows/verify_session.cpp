@@ -1,6 +1,7 @@
 #include "verify/windows/verify_session.h"
 
 #include "frame/windows/qt_progress.h"
+#include "frame/windows/qt_text.h"
 #include "verify/messages.h"
 #include "verify/recheck.h"
 
@@ -78,6 +79,8 @@ bool VerifySession::carryOut(const std::function<void(Editor&)>& work) {
 
 bool VerifySession::waitFor(const std::function<void(EditorWait&)>& work) {
     return run([&] {
+        const std::string text = frame().text(message::WaitingForEditor);
+        emit waiting(toQt(text));
         WindowWait wait(*this, *static_cast<QWidget*>(parent())->window());
         work(wait);
     });

@@ -85,6 +85,7 @@ void VerifyTab::connectControls() {
     connect(session_, &VerifySession::runStarted, this, &VerifyTab::startRun);
     connect(session_, &VerifySession::runEnded, this, &VerifyTab::endRun);
     connect(session_, &VerifySession::step, this, &VerifyTab::showStep);
+    connect(session_, &VerifySession::waiting, lblANALYSE_, &QLabel::setText);
     connect(session_, &VerifySession::passEnded, this, &VerifyTab::showPass);
     connect(session_, &VerifySession::catalogueChanged, this, &VerifyTab::catalogueChanged);
     connect(session_, &VerifySession::runStarted, this, &VerifyTab::runStarted);
