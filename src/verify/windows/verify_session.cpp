@@ -17,6 +17,8 @@ class SessionView final : public ProgressView {
   public:
     explicit SessionView(VerifySession& session) : session_(session) {}
     void showStep(int lower, int upper, int current, const QString& text) override {
+        if (upper - lower > 1) // of one step there is nothing to stop
+            emit session_.canBeStopped();
         emit session_.step(lower, upper, current, text);
     }
     bool ended() const override { return session_.cancelled(); }
@@ -89,8 +91,10 @@ bool VerifySession::waitFor(const std::function<void(EditorWait&)>& work) {
 void VerifySession::verify(const VerifSelection& selection) {
     auto results = std::make_unique<VerifResults>();
     const VerifOptions options = optionsFor(selection.kind, choices_.options);
-    const bool here =
-        carryOut([&](Editor& editor) { (void)RunVerification(editor.frame, selection, options, *results); });
+    const bool here = carryOut([&](Editor& editor) {
+        emit canBeStopped();
+        (void)RunVerification(editor.frame, selection, options, *results);
+    });
     if (!here)
         return;
     results_ = std::move(results);

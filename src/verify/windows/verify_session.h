@@ -61,6 +61,7 @@ class VerifySession final : public QObject {
     void runStarted();
     void runEnded(); // also when the window was closed
     void step(int lower, int upper, int current, const QString& text);
+    void canBeStopped();               // from now on, until the run ends; perhaps several times
     void waiting(const QString& text); // for another program
     void passEnded();
     void resultsChanged();

@@ -16,6 +16,7 @@
 #include <QTabWidget>
 
 #include <algorithm>
+#include <utility>
 
 namespace zandor {
 
@@ -85,6 +86,7 @@ void VerifyTab::connectControls() {
     connect(session_, &VerifySession::runStarted, this, &VerifyTab::startRun);
     connect(session_, &VerifySession::runEnded, this, &VerifyTab::endRun);
     connect(session_, &VerifySession::step, this, &VerifyTab::showStep);
+    connect(session_, &VerifySession::canBeStopped, this, &VerifyTab::offerStop);
     connect(session_, &VerifySession::waiting, lblANALYSE_, &QLabel::setText);
     connect(session_, &VerifySession::passEnded, this, &VerifyTab::showPass);
     connect(session_, &VerifySession::catalogueChanged, this, &VerifyTab::catalogueChanged);
@@ -134,7 +136,7 @@ void VerifyTab::captionVerify() {
         width = std::max(width, cmdVERIF_->sizeHint().width());
     }
     cmdVERIF_->setMinimumWidth(width);
-    if (running())
+    if (stopOffered_)
         cmdVERIF_->setText(stopCaption_);
     cmdVERIF_->setToolTip(toQt(session_->frame().text(message::TipVerify)));
 }
@@ -171,15 +173,23 @@ void VerifyTab::startRun() {
     tbsVERIF_->setEnabled(false);
     cmdHELP_->setEnabled(false);
     cmdCANCEL_->setEnabled(false);
-    cmdVERIF_->setText(stopCaption_);
-    cmdVERIF_->setEnabled(true);
-    cmdVERIF_->setFocus();
+    cmdVERIF_->setEnabled(false);
     window()->setCursor(Qt::WaitCursor);
-    cmdVERIF_->setCursor(Qt::ArrowCursor);
     lblANALYSE_->clear();
 }
 
+// Not before there is something to stop: a run may begin with questions.
+void VerifyTab::offerStop() {
+    if (std::exchange(stopOffered_, true))
+        return;
+    cmdVERIF_->setText(stopCaption_);
+    cmdVERIF_->setEnabled(true);
+    cmdVERIF_->setFocus();
+    cmdVERIF_->setCursor(Qt::ArrowCursor);
+}
+
 void VerifyTab::endRun() {
+    stopOffered_ = false;
     window()->unsetCursor();
     cmdVERIF_->unsetCursor();
     ProgressBar1_->hide();

@@ -43,6 +43,7 @@ class VerifyTab final : public QWidget {
     void addKeys();
     void verifyPressed();
     void startRun();
+    void offerStop();
     void endRun();
     void showStep(int lower, int upper, int current, const QString& text);
     void showPass();
@@ -58,6 +59,7 @@ class VerifyTab final : public QWidget {
     QProgressBar* ProgressBar1_;
     QPushButton *cmdVERIF_, *cmdHELP_, *cmdCANCEL_;
     QString verifyCaption_, stopCaption_;
+    bool stopOffered_ = false;      // by cmdVERIF, for the run
     QPointer<QWidget> focusBefore_; // the run
 };
 
