@@ -265,7 +265,12 @@ TEST_F(VerifyTest, SeveralFilesAreDeletedAfterOneQuestionAndTheListGoesOnBehindT
     test.dialogs.shown.clear();
     invalid().showRow(1);
     QTest::keyClick(&invalid(), Qt::Key_Down, Qt::ShiftModifier);
+    test.dialogs.whenShown = [this] {
+        EXPECT_EQ(get<QPushButton>("cmdVERIF").text().remove('&'), "Check") << "nothing to stop yet";
+        EXPECT_FALSE(isOn("cmdVERIF"));
+    };
     QTest::keyClick(&invalid(), Qt::Key_Delete);
+    test.dialogs.whenShown = nullptr;
     EXPECT_EQ(test.dialogs.shown.size(), 1u) << test.dialogs.lastText();
     EXPECT_FALSE(test.files.fileExists(wagonPath("w11")));
     EXPECT_FALSE(test.files.fileExists(wagonPath("w3")));
