@@ -50,7 +50,7 @@ class InvalidPane final : public QWidget {
     const FileFault* currentFault() const; // nullptr: none
     const ErrorLine* currentLine() const;  // nullptr: none, or the fault is a missing key
     std::string currentPath() const;
-    std::vector<FaultyFile> chosenFiles() const; // positions in InvalidFiles
+    std::vector<FaultyFile> chosenFiles() const;
     void goTo(FaultRow place);
     void showFileErrors();
     void showErrorLine();
