@@ -21,6 +21,12 @@ const MandatoryFault& firstKey(const VerifResults& results, const FaultyFile& fi
     return results.mandatory[static_cast<std::size_t>(file.mandatory.front())];
 }
 
+// As the record of a file without one would be.
+InvalidFile bareRecordOf(const Frame& frame, const VerifResults& results, const FaultyFile& file) {
+    const MandatoryFault& key = firstKey(results, file);
+    return {trainsetPath(frame.state.roots.RootPrimary()), key.folder, key.file, {}, {}};
+}
+
 } // namespace
 
 // ---- candidates
@@ -89,11 +95,7 @@ std::vector<int> recordsFor(const Frame& frame, VerifResults& results, const std
         if (file.invalid >= 0)
             continue;
         records.back() = static_cast<int>(results.InvalidFiles.size());
-        results.InvalidFiles.push_back({trainsetPath(frame.state.roots.RootPrimary()),
-                                        folderOf(results, file),
-                                        fileOf(results, file),
-                                        {},
-                                        {}});
+        results.InvalidFiles.push_back(bareRecordOf(frame, results, file));
     }
     return records;
 }
@@ -105,8 +107,7 @@ void dropBareRecords(VerifResults& results) {
 std::string pathOf(const Frame& frame, const VerifResults& results, const FaultyFile& file) {
     if (file.invalid >= 0)
         return invalidPath(recordOf(results, file));
-    return trainsetPath(frame.state.roots.RootPrimary()) + folderOf(results, file) + "\\" +
-           fileOf(results, file);
+    return invalidPath(bareRecordOf(frame, results, file));
 }
 
 // ---- their faults

@@ -20,9 +20,8 @@
 #include <QSignalBlocker>
 
 #include <algorithm>
-#include <utility>
-
 #include <unordered_set>
+#include <utility>
 
 namespace zandor {
 
