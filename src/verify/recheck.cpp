@@ -95,11 +95,11 @@ bool rereadStock(Frame& frame, Catalogue& catalogue, std::string_view folder, st
     return true;
 }
 
-EditorRun editAndRecheck(VerifWork& work, Catalogue& catalogue, std::string_view path, const ErrorLine* line,
-                         EditorWait& wait) {
+EditorRun editAndRecheck(VerifWork& work, Catalogue& catalogue, std::string_view path,
+                         const std::string& opened, const ErrorLine* line, EditorWait& wait) {
     const std::string file(path), text = line ? line->Value : std::string();
     const int number = line ? line->Line : 0;
-    EditorRun run = EditFileExternal(work.frame, file, true, text, number, wait);
+    EditorRun run = EditFileExternal(work.frame, opened, true, text, number, wait);
     if (run.changed)
         RecheckAfterEdit(work, catalogue, file);
     return run;

@@ -20,8 +20,8 @@ std::optional<int> RecheckAfterEdit(VerifWork& work, Catalogue& catalogue, std::
 bool rereadStock(Frame& frame, Catalogue& catalogue, std::string_view folder, std::string_view file);
 
 // The external editor on a file, then the recheck when that has changed it. `line`, if any, is one of the
-// file's faults: the editor opens at it.
-EditorRun editAndRecheck(VerifWork& work, Catalogue& catalogue, std::string_view path, const ErrorLine* line,
-                         EditorWait& wait);
+// file's faults: the editor opens at it, in the file `opened`, where it stands.
+EditorRun editAndRecheck(VerifWork& work, Catalogue& catalogue, std::string_view path,
+                         const std::string& opened, const ErrorLine* line, EditorWait& wait);
 
 } // namespace zandor

@@ -152,7 +152,8 @@ TEST_F(EditorScript, AFaultThatTheUserMendsThereLeavesTheList) {
     ASSERT_EQ(results.InvalidFiles.size(), 1u);
     const InvalidFile faulty = results.InvalidFiles[0];
     ShortWait wait;
-    const EditorRun run = editAndRecheck(work, catalogue, invalidPath(faulty), &faulty.Lines.at(0), wait);
+    const EditorRun run =
+        editAndRecheck(work, catalogue, invalidPath(faulty), invalidPath(faulty), &faulty.Lines.at(0), wait);
     EXPECT_TRUE(run.done && run.changed);
     EXPECT_TRUE(results.InvalidFiles.empty());
     EXPECT_TRUE(results.mandatory.empty());

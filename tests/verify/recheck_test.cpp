@@ -32,7 +32,7 @@ struct Recheck : ResultsTest {
         };
     }
     EditorRun edit(std::string_view name, const ErrorLine* line = nullptr) {
-        return editAndRecheck(work, catalogue, wagonPath(name), line, wait);
+        return editAndRecheck(work, catalogue, wagonPath(name), wagonPath(name), line, wait);
     }
 };
 

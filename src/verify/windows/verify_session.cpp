@@ -115,14 +115,10 @@ void VerifySession::tellChange() {
 }
 
 void VerifySession::editFile(const std::string& path, const std::string& opened, const ErrorLine* line) {
-    const std::string text = line ? line->Value : std::string();
-    const int number = line ? line->Line : 0;
     EditorRun ran;
     const bool here = waitFor([&](EditorWait& wait) {
-        ran = EditFileExternal(frame(), opened, true, text, number, wait);
         VerifWork one = work();
-        if (ran.changed)
-            RecheckAfterEdit(one, editor_.catalogue, path);
+        ran = editAndRecheck(one, editor_.catalogue, path, opened, line, wait);
     });
     if (!here)
         return;
